@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/acad/db_tables.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// A drawing: its objects by handle, its tables, its variables. Several may be open at once.
+class AcDbDatabase : public AcRxObject {
+public:
+    static AcRxClass* desc();
+    AcRxClass* isA() const override { return AcDbDatabase::desc(); }
+
+    /// A new drawing holds model and paper space, layer "0", the line types ByLayer, ByBlock and Continuous,
+    /// and the text style "Standard".
+    AcDbDatabase();
+    ~AcDbDatabase() override;
+
+    Acad::ErrorStatus getBlockTable(AcDbBlockTable*& pTable, AcDb::OpenMode mode);
+    Acad::ErrorStatus getLayerTable(AcDbLayerTable*& pTable, AcDb::OpenMode mode);
+    Acad::ErrorStatus getLinetypeTable(AcDbLinetypeTable*& pTable, AcDb::OpenMode mode);
+    Acad::ErrorStatus getTextStyleTable(AcDbTextStyleTable*& pTable, AcDb::OpenMode mode);
+    AcDbObjectId blockTableId() const { return m_idBlockTable; }
+    AcDbObjectId layerTableId() const { return m_idLayerTable; }
+    AcDbObjectId linetypeTableId() const { return m_idLinetypeTable; }
+    AcDbObjectId textStyleTableId() const { return m_idTextStyleTable; }
+    AcDbObjectId ModelSpaceId() const { return m_idModelSpace; }
+
+    double ltscale() const { return m_dLtscale; }
+    Acad::ErrorStatus setLtscale(double scale);
+    AcDbObjectId celtype() const { return m_idCeltype; } ///< null: ByLayer
+    Acad::ErrorStatus setCeltype(AcDbObjectId idLinetype);
+    AcDbObjectId clayer() const { return m_idClayer; }
+    AcDbObjectId textstyle() const { return m_idTextstyle; }
+    Acad::ErrorStatus setTextstyle(AcDbObjectId idStyle);
+
+    /// Reads line type name from a line type file, sought by the host. eFileNotFound, eUndefinedLineType (the
+    /// file does not hold it), eDuplicateKey (the drawing has it already).
+    Acad::ErrorStatus loadLineTypeFile(const ACHAR* linetype, const ACHAR* fileName);
+
+    Acad::ErrorStatus getFilename(std::wstring& fileName) const;
+    void SetFilename(const ACHAR* fileName) { m_strFilename = fileName; }
+    Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, AcDbHandle handle) const; ///< eUnknownHandle
+
+    /// Gives a free object a handle and takes it over; it is open for writing afterwards.
+    Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
+
+    /// Entities appended or changed since the last call, in database order; the host redraws them.
+    std::vector<AcDbObjectId> TakeChangedEntities();
+    bool IsModified() const { return m_bModified; } ///< changed since SetModified(false)
+    void SetModified(bool bModified) { m_bModified = bModified; }
+
+private:
+    friend class AcDbObject;
+    friend Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*&, AcDbObjectId, AcDb::OpenMode, bool);
+    void NoteChanged(CDbStub& stub);
+
+    std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
+    Adesk::UInt64 m_nNextHandle = 1;
+    AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idModelSpace;
+    AcDbObjectId m_idCeltype, m_idClayer, m_idTextstyle;
+    double m_dLtscale = 1.0;
+    std::wstring m_strFilename;
+    std::vector<AcDbObjectId> m_arChanged;
+    bool m_bModified = false;
+};
+
+/// A symbol table record's name as GBK; empty for a null id.
+std::string SymbolName(AcDbObjectId idRecord);

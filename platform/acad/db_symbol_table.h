@@ -1,0 +1,42 @@
+#pragma once
+// Symbol tables of a drawing: named records. Names compare without case.
+
+#include "platform/acad/db_object.h"
+
+#include <string>
+#include <vector>
+
+class AcDbSymbolTableRecord : public AcDbObject, public AcHeapOperators {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbSymbolTableRecord)
+    const std::wstring& Name() const { return m_strName; }
+    Acad::ErrorStatus getName(std::wstring& name) const;
+    Acad::ErrorStatus setName(const ACHAR* name);
+
+private:
+    std::wstring m_strName;
+};
+
+class AcDbSymbolTable : public AcDbObject {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbSymbolTable)
+    /// The id of the record of that name. eKeyNotFound, and then id is as it was.
+    Acad::ErrorStatus getAt(const ACHAR* name, AcDbObjectId& id) const;
+    template <class T>
+    Acad::ErrorStatus getAt(const ACHAR* name, T*& pRecord, AcDb::OpenMode mode) const {
+        AcDbObjectId id;
+        const Acad::ErrorStatus status = getAt(name, id);
+        return status == Acad::eOk ? acdbOpenObject(pRecord, id, mode) : status;
+    }
+    bool has(const ACHAR* name) const;
+    /// Makes the record part of the drawing; it is open for writing afterwards. eDuplicateKey, eAlreadyInDb.
+    Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* pRecord);
+    Acad::ErrorStatus add(AcDbSymbolTableRecord* pRecord);
+    const std::vector<AcDbObjectId>& RecordIds() const { return m_arIds; } ///< in order of adding
+
+private:
+    std::vector<AcDbObjectId> m_arIds;
+};
+
+inline constexpr const ACHAR* ACDB_MODEL_SPACE = L"*Model_Space";
+inline constexpr const ACHAR* ACDB_PAPER_SPACE = L"*Paper_Space";

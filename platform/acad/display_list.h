@@ -1,0 +1,64 @@
+#pragma once
+// What an entity drew, as plain values: the form that plotting, picking, extents and dumps walk.
+
+#include "platform/acad/adesk.h"
+#include "platform/acad/geometry.h"
+
+#include <string>
+#include <variant>
+#include <vector>
+
+/// One vertex of a two-dimensional polyline. A width not set reads -1 and draws a thin line.
+struct CPolylineVertex {
+    AcGePoint2d m_pt;
+    double m_dBulge = 0.0; ///< tangent of a quarter of the arc's angle to the next vertex; 0 is straight
+    double m_dStartWidth = -1.0, m_dEndWidth = -1.0;
+};
+
+struct CPolylinePrimitive {
+    std::vector<AcGePoint3d> m_arPoints;
+};
+
+struct CPlinePrimitive {
+    std::vector<CPolylineVertex> m_arVertices;
+    bool m_bClosed = false;
+};
+
+struct CArcPrimitive {
+    AcGePoint3d m_ptCenter;
+    double m_dRadius = 0.0;
+    AcGeVector3d m_vecNormal, m_vecStart;
+    double m_dSweep = 0.0;
+};
+
+struct CTextPrimitive {
+    AcGePoint3d m_ptPosition;
+    AcGeVector3d m_vecNormal, m_vecDirection;
+    std::string m_strText; ///< GBK
+    int m_nLength = -1;
+    double m_dHeight = 1.0, m_dXScale = 1.0, m_dOblique = 0.0, m_dTracking = 100.0;
+    std::string m_strFont;    ///< GBK; the style's own font name, before any mapping
+    std::string m_strBigFont; ///< GBK; the big font file of a shape-font style, else empty
+};
+
+struct CSplinePrimitive {
+    std::vector<AcGePoint3d> m_arFitPoints; ///< as given, equal neighbours too
+    int m_nOrder = 4;
+    double m_dFitTolerance = 0.0;
+};
+
+struct CPrimitive {
+    Adesk::UInt16 m_nColor = 256;
+    std::string m_strLinetype = "ByLayer"; ///< empty for a null line type
+    Adesk::GsMarker m_nMarker = 0;
+    std::variant<CPolylinePrimitive, CPlinePrimitive, CArcPrimitive, CTextPrimitive, CSplinePrimitive>
+        m_shape;
+};
+
+using CDisplayList = std::vector<CPrimitive>;
+
+/// The box of all primitives; line widths count, coordinates that are no finite number don't.
+AcDbExtents ExtentsOf(const CDisplayList& list);
+
+/// True when the picture passes within distance (drawing units) of the point, seen from above.
+bool PassesNear(const CDisplayList& list, const AcGePoint3d& point, double distance);

@@ -1,0 +1,42 @@
+#pragma once
+// The service "AcEditor" and those who watch it.
+
+#include "platform/acad/adesk.h"
+#include "platform/acad/rx_object.h"
+
+#include <vector>
+
+class AcRxEventReactor : public AcRxObject {
+public:
+    static AcRxClass* desc();
+    AcRxClass* isA() const override { return AcRxEventReactor::desc(); }
+};
+
+class AcEditorReactor : public AcRxEventReactor {
+public:
+    static AcRxClass* desc();
+    AcRxClass* isA() const override { return AcEditorReactor::desc(); }
+    /// Called before each command starts, with its global name in upper case.
+    virtual void commandWillStart(const ACHAR*) {}
+    virtual void commandEnded(const ACHAR*) {}
+    virtual void commandCancelled(const ACHAR*) {}
+};
+
+class AcEditor : public AcRxObject {
+public:
+    static AcRxClass* desc();
+    AcRxClass* isA() const override { return AcEditor::desc(); }
+
+    void addReactor(AcEditorReactor* pReactor); ///< not owned; once only
+    void removeReactor(AcEditorReactor* pReactor);
+
+    // Host side.
+    void FireCommandWillStart(const ACHAR* globalName);
+    void FireCommandEnded(const ACHAR* globalName);
+    void FireCommandCancelled(const ACHAR* globalName);
+
+private:
+    std::vector<AcEditorReactor*> m_arReactors;
+};
+
+#define acedEditor (static_cast<AcEditor*>(acrxSysRegistry()->at(ACED_EDITOR_OBJ)))

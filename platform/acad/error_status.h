@@ -1,0 +1,42 @@
+#pragma once
+
+namespace Acad {
+
+/// What an operation of the drawing database answers. eOk is 0 and eNotApplicable 2, as callers rely on;
+/// the other numbers are this platform's own.
+enum ErrorStatus {
+    eOk = 0,
+    eNotImplementedYet = 1,
+    eNotApplicable = 2, ///< the operation makes no sense for this object; nothing changed
+    eInvalidInput = 3,
+    eNullObjectId = 4,
+    eNullObjectPointer = 5,
+    eUnknownHandle = 6,
+    eWasErased = 7,      ///< the object is erased and was not asked for as such
+    eWasOpenForRead = 8, ///< refused: somebody has it open for reading
+    eWasOpenForWrite = 9,
+    eWasOpenForNotify = 10,
+    eWasNotifying = 11,
+    eNotOpenForRead = 12,
+    eNotOpenForWrite = 13,
+    eAtMaxReaders = 14,
+    eNotThatKindOfClass = 15, ///< the object is of another class than asked for
+    eKeyNotFound = 16,
+    eDuplicateKey = 17,
+    eInvalidIndex = 18,
+    eInvalidExtents = 19, ///< nothing finite to measure
+    eAlreadyInDb = 20,
+    eNoDatabase = 21,
+    eWrongDatabase = 22,
+    eFilerError = 23,
+    eFileNotFound = 24,
+    eUndefinedLineType = 25,
+    eDegenerateGeometry = 26,
+    eNotInBlock = 27,
+    eIsWriteProtected = 28,
+};
+
+/// The status's name, for messages ("eWasErased").
+const char* ErrorStatusText(ErrorStatus status);
+
+} // namespace Acad

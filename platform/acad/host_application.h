@@ -1,0 +1,34 @@
+#pragma once
+// What the drawing database and the editor functions need of the program they run in.
+
+#include "platform/acad/db_database.h"
+
+#include <string>
+
+/// Services of the host to the drawing database.
+class AcDbHostApplicationServices {
+public:
+    AcDbDatabase* workingDatabase() const { return m_pWorking; } ///< null when no drawing is open
+    void setWorkingDatabase(AcDbDatabase* pDatabase) { m_pWorking = pDatabase; }
+
+private:
+    AcDbDatabase* m_pWorking = nullptr;
+};
+
+AcDbHostApplicationServices* acdbHostApplicationServices();
+
+/// What a prompt came back with.
+enum class CPromptResult { Value, None, Cancel };
+
+/// The user's side of the editor: a script, a terminal or a window. Texts are GBK.
+class CEditorHost {
+public:
+    virtual ~CEditorHost() = default;
+    virtual void Print(const std::string& strText) = 0;
+    virtual CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) = 0;
+    /// Full path of a file by the host's search order, GBK; empty when there is none.
+    virtual std::string FindFile(const std::string& strName) = 0;
+};
+
+CEditorHost* EditorHost(); ///< null when none is registered
+void SetEditorHost(CEditorHost* pHost);

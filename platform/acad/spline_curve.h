@@ -1,0 +1,22 @@
+#pragma once
+// The C2 cubic through given points in the plane: chord-length parameters, second derivative 0 at both ends
+// (a natural spline; C. de Boor, A Practical Guide to Splines, ch. IV).
+
+#include "platform/acad/geometry.h"
+
+#include <array>
+#include <vector>
+
+/// One cubic piece by its four Bézier points.
+struct CBezier {
+    std::array<AcGePoint2d, 4> m_arPoints;
+    AcGePoint2d At(double t) const; ///< t from 0 to 1
+};
+
+/// The pieces of the curve through the points. Equal neighbours count once; two different points give one
+/// straight piece; fewer, or any coordinate that is no finite number, give nothing.
+std::vector<CBezier> NaturalSpline(const std::vector<AcGePoint3d>& points);
+
+/// Where a and b really cross, in order along a, each within 1e-9 of both. A point where an end of a and an
+/// end of b merely meet is no crossing; curves that run along each other for a stretch have none there.
+std::vector<AcGePoint2d> Crossings(const std::vector<CBezier>& a, const std::vector<CBezier>& b);
