@@ -4,6 +4,7 @@
 #include "platform/acad/adesk.h"
 #include "platform/acad/error_status.h"
 #include "platform/acad/rx_object.h"
+#include "platform/acad/rx_registry.h"
 
 #include <string>
 #include <vector>
@@ -29,7 +30,7 @@ public:
     Acad::ErrorStatus addCommand(const ACHAR* group, const ACHAR* globalName, const ACHAR* localName,
                                  Adesk::Int32 flags, AcRxFunctionPtr pFunction);
     Acad::ErrorStatus removeGroup(const ACHAR* group);
-    /// The command of that global or local name, in any case; null if none.
+    /// The command of that global or local name, in any case; null if none. Valid until the next change.
     const CRegisteredCommand* lookup(const ACHAR* name) const;
     const std::vector<CRegisteredCommand>& Commands() const { return m_arCommands; } ///< in order of adding
 

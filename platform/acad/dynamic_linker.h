@@ -4,7 +4,9 @@
 #include "platform/acad/adesk.h"
 #include "platform/acad/rx_object.h"
 
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace AcRx {
 /// Messages a host sends to a module's acrxEntryPoint.
@@ -36,16 +38,31 @@ public:
     static AcRxClass* desc();
     AcRxClass* isA() const override { return AcRxDynamicLinker::desc(); }
 
+    using AppEntry = AcRx::AppRetCode (*)(AcRx::AppMsgCode message, void* pPackage);
+
     bool unlockApplication(void* pPackage);   ///< the module may be unloaded while the host runs
     bool registerAppMDIAware(void* pPackage); ///< the module may run with several documents open
     bool isApplicationLocked(void* pPackage) const;
     bool isAppMDIAware(void* pPackage) const;
 
     /// Opens the module's file and sends kInitAppMsg. False with a reason in *pReason (UTF-8) when the file
-    /// can't be opened, lacks the two entry functions, reports another API version, or is loaded already.
+    /// can't be opened, lacks the two entry functions, reports another API version, refuses the message, or
+    /// is loaded already.
     bool loadModule(const std::string& utf8Path, std::string* pReason);
     /// Sends kUnloadAppMsg and closes the file. False when it isn't loaded or is locked.
     bool unloadModule(const std::string& utf8Path, std::string* pReason);
+
+private:
+    struct CModule {
+        std::string m_strPath; ///< the file itself, links followed
+        void* m_pLibrary = nullptr;
+        AppEntry m_pEntry = nullptr;
+        bool m_bLocked = true, m_bMdiAware = false;
+    };
+    CModule* Find(const void* pPackage) const;
+    bool Open(CModule& module, std::string* pReason) const;
+
+    std::vector<std::unique_ptr<CModule>> m_arModules; // the address of each is its package pointer
 };
 
 /// The API version that acrxGetApiVersion of a module must report here.

@@ -3,6 +3,7 @@
 
 #include "platform/acad/adesk.h"
 #include "platform/acad/rx_object.h"
+#include "platform/acad/rx_registry.h"
 
 #include <vector>
 
@@ -36,6 +37,8 @@ public:
     void FireCommandCancelled(const ACHAR* globalName);
 
 private:
+    void Fire(const ACHAR* globalName, void (AcEditorReactor::*pEvent)(const ACHAR*));
+
     std::vector<AcEditorReactor*> m_arReactors;
 };
 

@@ -6,6 +6,8 @@
 #include <map>
 #include <string>
 
+class AcRxDictionary;
+
 using AcRxPseudoConstructor = AcRxObject* (*)();
 
 /// A class descriptor: names, parent, file metadata, and protocol extensions hung on it.
@@ -55,3 +57,51 @@ AcRxClass* newAcRxClass(const ACHAR* className, const ACHAR* parentClassName, in
 
 /// Takes the class out of the dictionary and destroys the descriptor.
 void deleteAcRxClass(AcRxClass* pClass);
+
+/// One platform class that the class dictionary takes up before anyone looks something up in it. Static
+/// objects only; ACRX_DEFINE_DESC makes them.
+class CPlatformClass {
+public:
+    explicit CPlatformClass(AcRxClass* (*pDescriptor)());
+    /// Enters the classes not entered so far into the dictionary.
+    static void EnterAll(AcRxDictionary& dictionary);
+
+private:
+    AcRxClass* (*m_pDescriptor)();
+    CPlatformClass* m_pNext;
+    static CPlatformClass* s_pFirst;
+};
+
+/// Makes the descriptor of a platform class. Descriptors live as long as the process, whatever static objects
+/// still need them while it ends.
+AcRxClass* NewPlatformClass(const ACHAR* name, AcRxClass* pParent, AcRxPseudoConstructor pConstructor,
+                            const ACHAR* dxfName);
+
+// NOLINTBEGIN(bugprone-macro-parentheses): a class name takes no parentheses
+/// The descriptor of a platform class without pseudo-constructor.
+#define ACRX_DEFINE_DESC(CLASS, PARENT) ACRX_DEFINE_CLASS(CLASS, PARENT, nullptr, L"")
+
+/// The bodies of what ACRX_DECLARE_MEMBERS declares, for a class of which no plain object is made.
+#define ACRX_DEFINE_ABSTRACT_MEMBERS(CLASS, PARENT)                                                          \
+    ACRX_DEFINE_CLASS(CLASS, PARENT, nullptr, L"")                                                           \
+    ACRX_DEFINE_CAST(CLASS)
+
+/// The same for a class whose default object the descriptor can make.
+#define ACRX_DEFINE_MEMBERS(CLASS, PARENT, DXFNAME)                                                          \
+    ACRX_DEFINE_CLASS(                                                                                       \
+        CLASS, PARENT, []() -> AcRxObject* { return new CLASS; }, DXFNAME)                                   \
+    ACRX_DEFINE_CAST(CLASS)
+
+#define ACRX_DEFINE_CLASS(CLASS, PARENT, CONSTRUCTOR, DXFNAME)                                               \
+    AcRxClass* CLASS::desc() {                                                                               \
+        static AcRxClass* const pClass = NewPlatformClass(L"" #CLASS, PARENT::desc(), CONSTRUCTOR, DXFNAME); \
+        return pClass;                                                                                       \
+    }                                                                                                        \
+    static const CPlatformClass g_platformClass##CLASS(&CLASS::desc);
+
+#define ACRX_DEFINE_CAST(CLASS)                                                                              \
+    CLASS* CLASS::cast(const AcRxObject* pObject) {                                                          \
+        if (!pObject || !pObject->isKindOf(CLASS::desc())) return nullptr;                                   \
+        return const_cast<CLASS*>(static_cast<const CLASS*>(pObject));                                       \
+    }
+// NOLINTEND(bugprone-macro-parentheses)

@@ -19,6 +19,7 @@ public:
     AcRxObject* queryX(const AcRxClass* pProtocol) const;
 };
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a class name takes no parentheses
 /// Declares the run-time class members of a platform class; ACRX_DEFINE_MEMBERS gives their bodies.
 #define ACRX_DECLARE_MEMBERS(CLASS)                                                                          \
     static AcRxClass* desc();                                                                                \
@@ -26,3 +27,4 @@ public:
         return CLASS::desc();                                                                                \
     }                                                                                                        \
     static CLASS* cast(const AcRxObject* pObject);
+// NOLINTEND(bugprone-macro-parentheses)
