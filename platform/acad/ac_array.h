@@ -56,8 +56,7 @@ public:
         return *this;
     }
     AcArray& setAll(const T& value) {
-        const T copy(value);
-        std::fill(m_arValues.begin(), m_arValues.end(), copy);
+        m_arValues.assign(m_arValues.size(), T(value)); // through a copy: value may lie in this very list
         return *this;
     }
     const T& first() const { return at(0); }
@@ -155,7 +154,7 @@ private:
     void MakeRoom(int more) {
         if (more <= physicalLength() - length()) return;
         const int step = std::max({more, m_nGrowLength, length()}); // doubling keeps appending linear
-        m_arValues.reserve(static_cast<std::size_t>(length() + step));
+        m_arValues.reserve(static_cast<std::size_t>(length()) + static_cast<std::size_t>(step));
     }
 
     std::vector<T> m_arValues;

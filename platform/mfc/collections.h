@@ -95,7 +95,7 @@ private:
 class CStringArray : public CArray<CString, const CString&> {};
 
 /// A place in a map; null when there is none.
-using POSITION = struct POSITION__*;
+using POSITION = struct CMapPlace*;
 
 /// Values by key, walked in the order in which the keys came in. The key has == and std::hash.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>

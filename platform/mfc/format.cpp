@@ -50,11 +50,6 @@ Float WithoutNanSign(Float value) {
     return std::isnan(value) ? std::numeric_limits<Float>::quiet_NaN() : value;
 }
 
-/// The arguments still to be taken; a class, since a va_list may be an array.
-struct CArguments {
-    std::va_list m_list;
-};
-
 /// One conversion: its flags, width and precision with stars filled in, its length letters and its letter.
 struct CConversion {
     std::string m_strStart = "%";
@@ -62,11 +57,11 @@ struct CConversion {
     char m_cLetter = 0;
 };
 
-const char* ReadConversion(const char* at, CArguments* arguments, CConversion* conversion) {
+const char* ReadConversion(const char* at, std::va_list* arguments, CConversion* conversion) {
     for (; std::strchr("-+ #0123456789.*'", *at); ++at) {
         HOST_ASSERT(*at, "a conversion is complete");
         if (*at == '*') {
-            conversion->m_strStart += std::to_string(va_arg(arguments->m_list, int));
+            conversion->m_strStart += std::to_string(va_arg(*arguments, int));
         } else {
             conversion->m_strStart += *at;
         }
@@ -78,35 +73,34 @@ const char* ReadConversion(const char* at, CArguments* arguments, CConversion* c
     return at + 1;
 }
 
-void AppendInteger(std::string* text, const CConversion& conversion, CArguments* arguments) {
+void AppendInteger(std::string* text, const CConversion& conversion, std::va_list* arguments) {
     const std::string piece = conversion.m_strStart + conversion.m_strLength + conversion.m_cLetter;
     const std::string& length = conversion.m_strLength;
-    if (length == "l") return AppendPiece(text, piece, va_arg(arguments->m_list, long));
-    if (length == "ll" || length == "q")
-        return AppendPiece(text, piece, va_arg(arguments->m_list, long long));
-    if (length == "j") return AppendPiece(text, piece, va_arg(arguments->m_list, std::intmax_t));
-    if (length == "z") return AppendPiece(text, piece, va_arg(arguments->m_list, std::size_t));
-    if (length == "t") return AppendPiece(text, piece, va_arg(arguments->m_list, std::ptrdiff_t));
-    AppendPiece(text, piece, va_arg(arguments->m_list, int)); // char and short come as int
+    if (length == "l") return AppendPiece(text, piece, va_arg(*arguments, long));
+    if (length == "ll" || length == "q") return AppendPiece(text, piece, va_arg(*arguments, long long));
+    if (length == "j") return AppendPiece(text, piece, va_arg(*arguments, std::intmax_t));
+    if (length == "z") return AppendPiece(text, piece, va_arg(*arguments, std::size_t));
+    if (length == "t") return AppendPiece(text, piece, va_arg(*arguments, std::ptrdiff_t));
+    AppendPiece(text, piece, va_arg(*arguments, int)); // char and short come as int
 }
 
-void AppendFloat(std::string* text, const CConversion& conversion, CArguments* arguments) {
+void AppendFloat(std::string* text, const CConversion& conversion, std::va_list* arguments) {
     if (conversion.m_strLength == "L") {
-        const long double value = WithoutNanSign(va_arg(arguments->m_list, long double));
+        const long double value = WithoutNanSign(va_arg(*arguments, long double));
         return AppendPiece(text, conversion.m_strStart + 'L' + conversion.m_cLetter, value);
     }
-    const double value = WithoutNanSign(va_arg(arguments->m_list, double));
+    const double value = WithoutNanSign(va_arg(*arguments, double));
     AppendPiece(text, conversion.m_strStart + conversion.m_cLetter, value);
 }
 
-void AppendString(std::string* text, const CConversion& conversion, CArguments* arguments) {
+void AppendString(std::string* text, const CConversion& conversion, std::va_list* arguments) {
     if (conversion.m_strLength != "l")
-        return AppendPiece(text, conversion.m_strStart + 's', va_arg(arguments->m_list, const char*));
-    const std::string narrow = GbkFromWide(va_arg(arguments->m_list, const wchar_t*));
+        return AppendPiece(text, conversion.m_strStart + 's', va_arg(*arguments, const char*));
+    const std::string narrow = GbkFromWide(va_arg(*arguments, const wchar_t*));
     AppendPiece(text, conversion.m_strStart + 's', narrow.c_str());
 }
 
-void AppendConversion(std::string* text, const CConversion& conversion, CArguments* arguments) {
+void AppendConversion(std::string* text, const CConversion& conversion, std::va_list* arguments) {
     switch (conversion.m_cLetter) {
     case 'd':
     case 'i':
@@ -128,7 +122,7 @@ void AppendConversion(std::string* text, const CConversion& conversion, CArgumen
     case 's':
         return AppendString(text, conversion, arguments);
     case 'p':
-        return AppendPiece(text, conversion.m_strStart + 'p', va_arg(arguments->m_list, void*));
+        return AppendPiece(text, conversion.m_strStart + 'p', va_arg(*arguments, void*));
     case '%':
         return text->push_back('%');
     default:
@@ -140,8 +134,8 @@ void AppendConversion(std::string* text, const CConversion& conversion, CArgumen
 
 std::string FormatTextV(const char* format, std::va_list arguments) {
     const CPlainLocale plain;
-    CArguments left;
-    va_copy(left.m_list, arguments);
+    std::va_list left;
+    va_copy(left, arguments);
     std::string text;
     while (*format) {
         const char* percent = std::strchr(format, '%');
@@ -154,7 +148,7 @@ std::string FormatTextV(const char* format, std::va_list arguments) {
         format = ReadConversion(percent + 1, &left, &conversion);
         AppendConversion(&text, conversion, &left);
     }
-    va_end(left.m_list);
+    va_end(left);
     return text;
 }
 

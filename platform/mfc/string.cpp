@@ -133,7 +133,8 @@ CString CString::Mid(int first, int count) const {
     const int from = std::clamp(first, 0, length);
     const int taken = std::clamp(count, 0, length - from);
     const std::size_t begin = CharacterFrom(m_strText, static_cast<std::size_t>(from));
-    const std::size_t end = CharacterUpTo(m_strText, static_cast<std::size_t>(from + taken));
+    const std::size_t end =
+        CharacterUpTo(m_strText, static_cast<std::size_t>(from) + static_cast<std::size_t>(taken));
     return end > begin ? CString(m_strText.substr(begin, end - begin)) : CString();
 }
 

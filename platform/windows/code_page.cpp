@@ -26,7 +26,8 @@ class CCodePage {
 public:
     CCodePage() {
         const iconv_t converter = iconv_open("UTF-32LE", "CP936");
-        HOST_ASSERT(converter != reinterpret_cast<iconv_t>(-1), "the C library has no converter for CP936");
+        HOST_ASSERT(reinterpret_cast<std::intptr_t>(converter) != -1,
+                    "the C library has no converter for CP936");
         for (unsigned byte = 0; byte <= 0xFF; ++byte)
             if (!IsLead(static_cast<unsigned char>(byte))) Enter(converter, byte, 1);
         for (unsigned code = 0x8140; code <= 0xFEFE; ++code)

@@ -11,7 +11,7 @@ using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
 using HANDLE = void*;
-using HWND = struct HWND__*;
+using HWND = struct CWindowOfHandle*;
 
 constexpr BOOL TRUE = 1;
 constexpr BOOL FALSE = 0;
