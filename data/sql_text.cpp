@@ -1,0 +1,7 @@
+#include "data/sql_text.h"
+
+CString SqlText(const CString& strValue) {
+    CString strText = strValue;
+    strText.Replace("'", "''");
+    return strText;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/ado/connection_text.h"
+#include "platform/ado/cursor.h"
+#include "platform/ado/value.h"
+
+/// An open database. Statements and values are GBK, in the suite's SQL dialect; `?` stands for a parameter.
+/// Operations that fail throw CDbError. A cursor may outlive the object that gave it: it holds the database
+/// open itself.
+class CDbConnection {
+public:
+    CDbConnection() = default;
+    CDbConnection(const CDbConnection&) = delete;
+    CDbConnection& operator=(const CDbConnection&) = delete;
+    virtual ~CDbConnection() = default;
+
+    /// Runs a statement that gives rows and reads them all.
+    [[nodiscard]] virtual std::unique_ptr<CDbCursor> Query(std::string_view strSql,
+                                                           std::span<const CDbValue> arParameters) = 0;
+    /// Runs a statement that gives none; the result is the number of rows it inserted, changed or deleted.
+    virtual std::int64_t Execute(std::string_view strSql, std::span<const CDbValue> arParameters) = 0;
+
+    /// A transaction takes the write lock at once; one that is neither committed nor rolled back is undone on
+    /// close.
+    virtual void BeginTransaction() = 0;
+    virtual void CommitTransaction() = 0;
+    virtual void RollbackTransaction() = 0;
+
+    [[nodiscard]] std::unique_ptr<CDbCursor> Query(std::string_view strSql) { return Query(strSql, {}); }
+    std::int64_t Execute(std::string_view strSql) { return Execute(strSql, {}); }
+};
+
+/// A kind of database.
+class CDbProvider {
+public:
+    CDbProvider() = default;
+    CDbProvider(const CDbProvider&) = delete;
+    CDbProvider& operator=(const CDbProvider&) = delete;
+    virtual ~CDbProvider() = default;
+
+    /// The value of key `Provider` that means this kind.
+    [[nodiscard]] virtual std::string_view Name() const = 0;
+    [[nodiscard]] virtual std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const = 0;
+};
+
+/// Opens the database that a connection text names: `Provider=SQLite;Data Source=/path/file.db`. Throws
+/// CDbError when the provider is unknown or its database cannot be had. Never creates a database.
+std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection);

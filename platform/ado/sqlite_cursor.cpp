@@ -1,0 +1,171 @@
+#include "platform/ado/sqlite_cursor.h"
+
+#include <array>
+#include <cstdio>
+#include <utility>
+
+#include "platform/ado/error.h"
+#include "platform/ado/sql_dialect.h"
+#include "platform/ado/text.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+struct CDeclaredType {
+    std::string_view m_strName;
+    DBTYPE m_wType;
+};
+
+/// What tables call their column types, the part before any length.
+constexpr std::array kDeclaredTypes = {
+    CDeclaredType{"integer", DBTYPE_I4},      CDeclaredType{"int", DBTYPE_I4},
+    CDeclaredType{"long", DBTYPE_I4},         CDeclaredType{"bigint", DBTYPE_I4},
+    CDeclaredType{"smallint", DBTYPE_I2},     CDeclaredType{"short", DBTYPE_I2},
+    CDeclaredType{"tinyint", DBTYPE_UI1},     CDeclaredType{"byte", DBTYPE_UI1},
+    CDeclaredType{"real", DBTYPE_R4},         CDeclaredType{"single", DBTYPE_R4},
+    CDeclaredType{"float", DBTYPE_R8},        CDeclaredType{"double", DBTYPE_R8},
+    CDeclaredType{"decimal", DBTYPE_DECIMAL}, CDeclaredType{"numeric", DBTYPE_DECIMAL},
+    CDeclaredType{"date", DBTYPE_DATE},       CDeclaredType{"datetime", DBTYPE_DATE},
+    CDeclaredType{"timestamp", DBTYPE_DATE},  CDeclaredType{"boolean", DBTYPE_BOOL},
+    CDeclaredType{"bit", DBTYPE_BOOL},        CDeclaredType{"text", DBTYPE_BSTR},
+    CDeclaredType{"varchar", DBTYPE_BSTR},    CDeclaredType{"char", DBTYPE_BSTR},
+    CDeclaredType{"nvarchar", DBTYPE_BSTR},
+};
+
+DBTYPE DeclaredType(const char* pszDeclared) {
+    std::string_view strName = pszDeclared ? std::string_view(pszDeclared) : std::string_view();
+    strName = strName.substr(0, strName.find_first_of(" ("));
+    for (const CDeclaredType& type : kDeclaredTypes)
+        if (EqualNoCase(type.m_strName, strName)) return type.m_wType;
+    return DBTYPE_EMPTY;
+}
+
+std::string Utf8Name(const char* pszName) {
+    return pszName ? pszName : std::string();
+}
+
+/// A name for messages and look-up; one that the code page lacks is never asked for.
+std::string GbkName(const std::string& strUtf8) {
+    std::string strGbk;
+    Utf8ToGbk(strUtf8, &strGbk);
+    return strGbk;
+}
+
+std::string Quoted(const std::string& strName) {
+    std::string strQuoted = "\"";
+    for (const char c : strName)
+        strQuoted.append(c == '"' ? 2 : 1, c);
+    return strQuoted + '"';
+}
+
+/// "U+1F600" of a character in UTF-8.
+std::string CodePointName(std::string_view strCharacter) {
+    std::size_t nPosition = 0;
+    char32_t character = 0xFFFD;
+    if (!strCharacter.empty()) NextUtf8(strCharacter, &nPosition, &character);
+    std::array<char, 16> szName{};
+    std::snprintf(szName.data(), szName.size(), "U+%04X", static_cast<unsigned>(character));
+    return szName.data();
+}
+
+} // namespace
+
+CSqliteCursor::CSqliteCursor(CSqliteHandle pDatabase, std::string_view strSqlUtf8,
+                             std::span<const CDbValue> arParameters)
+    : m_pDatabase(std::move(pDatabase)) {
+    CSqliteStatement statement = Prepared(strSqlUtf8);
+    statement.Bind(arParameters);
+    ReadColumns(statement.Get());
+    while (statement.Step())
+        ReadRow(statement.Get());
+}
+
+CSqliteStatement CSqliteCursor::Prepared(std::string_view strSql) {
+    if (const auto strWithRow = WithRowNumber(strSql)) {
+        sqlite3_stmt* pStatement = nullptr;
+        const int nResult = sqlite3_prepare_v2(m_pDatabase.get(), strWithRow->data(),
+                                               static_cast<int>(strWithRow->size()), &pStatement, nullptr);
+        if (nResult == SQLITE_OK) {
+            m_bRowNumbers = true;
+            return {m_pDatabase, pStatement};
+        }
+        // A table that keeps no row numbers is read without them; the plain statement says what else is
+        // wrong.
+        if (nResult != SQLITE_ERROR) ThrowSqliteError(m_pDatabase.get(), nResult);
+    }
+    return {m_pDatabase, strSql};
+}
+
+void CSqliteCursor::ReadColumns(sqlite3_stmt* pStatement) {
+    const int nColumns = sqlite3_column_count(pStatement) - (m_bRowNumbers ? 1 : 0);
+    std::vector<CDbColumn> arColumns;
+    for (int i = 0; i < nColumns; ++i) {
+        m_arTables.push_back(Utf8Name(sqlite3_column_table_name(pStatement, i)));
+        m_arOrigins.push_back(Utf8Name(sqlite3_column_origin_name(pStatement, i)));
+        arColumns.push_back({GbkName(Utf8Name(sqlite3_column_name(pStatement, i))),
+                             DeclaredType(sqlite3_column_decltype(pStatement, i))});
+        if (m_strTable.empty()) m_strTable = GbkName(m_arTables.back());
+    }
+    SetColumns(std::move(arColumns));
+}
+
+void CSqliteCursor::ReadRow(sqlite3_stmt* pStatement) {
+    const int nColumns = static_cast<int>(Columns().size());
+    for (int i = 0; i < nColumns; ++i) {
+        switch (sqlite3_column_type(pStatement, i)) {
+        case SQLITE_NULL:
+            AppendCell(std::monostate());
+            break;
+        case SQLITE_INTEGER:
+            AppendCell(std::int64_t{sqlite3_column_int64(pStatement, i)});
+            break;
+        case SQLITE_FLOAT:
+            AppendCell(sqlite3_column_double(pStatement, i));
+            break;
+        default:
+            AppendCell(std::string_view(ReadText(pStatement, i)));
+        }
+    }
+    if (m_bRowNumbers) m_arRowNumbers.push_back(sqlite3_column_int64(pStatement, nColumns));
+}
+
+std::string CSqliteCursor::ReadText(sqlite3_stmt* pStatement, int nColumn) const {
+    const auto* pText = reinterpret_cast<const char*>(sqlite3_column_text(pStatement, nColumn));
+    const auto nBytes = static_cast<std::size_t>(sqlite3_column_bytes(pStatement, nColumn));
+    const std::string_view strUtf8 = pText ? std::string_view(pText, nBytes) : std::string_view();
+    std::string strGbk;
+    std::string strRefused;
+    if (Utf8ToGbk(strUtf8, &strGbk, &strRefused)) return strGbk;
+    const std::string strColumn = Columns()[static_cast<std::size_t>(nColumn)].m_strName;
+    throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
+                   m_strTable + "." + strColumn + ": character " + CodePointName(strRefused) +
+                       " is not in the system code page");
+}
+
+void CSqliteCursor::WriteRow(std::size_t nRow, const std::vector<CDbChange>& arChanges) {
+    if (!m_bRowNumbers || m_arRowNumbers[nRow] == 0)
+        throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite",
+                       "the result is not the rows of one table");
+    CSqliteStatement statement(m_pDatabase, UpdateStatement(arChanges));
+    int nPlace = 0;
+    for (const CDbChange& change : arChanges)
+        statement.Bind(++nPlace, change.m_value);
+    statement.Bind(++nPlace, m_arRowNumbers[nRow]);
+    statement.Step();
+    if (sqlite3_changes(m_pDatabase.get()) == 0)
+        throw CDbError(DbFailure::General, SQLITE_NOTFOUND, "SQLite",
+                       "the row was deleted by another program");
+}
+
+std::string CSqliteCursor::UpdateStatement(const std::vector<CDbChange>& arChanges) const {
+    std::string strSql;
+    for (const CDbChange& change : arChanges) {
+        const std::string& strOrigin = m_arOrigins[change.m_nColumn];
+        if (strOrigin.empty())
+            throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite",
+                           "a computed column cannot be written");
+        strSql += (strSql.empty() ? "UPDATE " + Quoted(m_arTables[change.m_nColumn]) + " SET " : ",") +
+                  Quoted(strOrigin) + "=?";
+    }
+    return strSql + " WHERE rowid=?";
+}

@@ -1,0 +1,101 @@
+#include "platform/ado/sqlite_provider.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "platform/ado/error.h"
+#include "platform/ado/sql_dialect.h"
+#include "platform/ado/sqlite_cursor.h"
+#include "platform/ado/sqlite_functions.h"
+#include "platform/ado/sqlite_statement.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+constexpr int kLockTimeout = 10000; // ms
+
+std::string EngineStatement(std::string_view strSql) {
+    std::string strUtf8;
+    if (!GbkToUtf8(strSql, &strUtf8))
+        throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
+                       "The statement is broken: its bytes are no characters.");
+    return TranslateDialect(strUtf8);
+}
+
+class CSqliteConnection : public CDbConnection {
+public:
+    explicit CSqliteConnection(CSqliteHandle pDatabase)
+        : m_pDatabase(std::move(pDatabase)) {}
+    using CDbConnection::Execute;
+    using CDbConnection::Query;
+
+    std::unique_ptr<CDbCursor> Query(std::string_view strSql,
+                                     std::span<const CDbValue> arParameters) override {
+        return std::make_unique<CSqliteCursor>(m_pDatabase, EngineStatement(strSql), arParameters);
+    }
+
+    std::int64_t Execute(std::string_view strSql, std::span<const CDbValue> arParameters) override {
+        CSqliteStatement statement(m_pDatabase, EngineStatement(strSql));
+        statement.Bind(arParameters);
+        const int nBefore = sqlite3_total_changes(m_pDatabase.get());
+        while (statement.Step()) {
+        }
+        return sqlite3_total_changes(m_pDatabase.get()) == nBefore ? 0 : sqlite3_changes(m_pDatabase.get());
+    }
+
+    void BeginTransaction() override { Execute("BEGIN IMMEDIATE"); }
+    void CommitTransaction() override { Execute("COMMIT"); }
+    void RollbackTransaction() override { Execute("ROLLBACK"); }
+
+private:
+    CSqliteHandle m_pDatabase;
+};
+
+/// The path in UTF-8, in a form that the engine takes for a plain file whatever its name begins with.
+std::string FilePath(std::string_view strPath) {
+    std::string strUtf8;
+    if (strPath.empty())
+        throw CDbError(DbFailure::General, 0, "SQLite", "The connection text has no Data Source.");
+    if (!GbkToUtf8(strPath, &strUtf8))
+        throw CDbError(DbFailure::NotInCodePage, 0, "SQLite", "The database's path is broken.");
+    std::replace(strUtf8.begin(), strUtf8.end(), '\\', '/');
+    return strUtf8.front() == '/' ? strUtf8 : "./" + strUtf8;
+}
+
+std::shared_ptr<CDbConnection> OpenFile(std::string_view strPath, int nFlags, int nLockTimeout) {
+    sqlite3* pRaw = nullptr;
+    const int nOpened =
+        sqlite3_open_v2(FilePath(strPath).c_str(), &pRaw, nFlags | SQLITE_OPEN_NOMUTEX, nullptr);
+    CSqliteHandle pDatabase(pRaw, CSqliteClose());
+    if (nOpened == SQLITE_CANTOPEN)
+        throw CDbError(DbFailure::General, nOpened, "SQLite",
+                       "There is no database " + std::string(strPath) + ", or it cannot be opened.");
+    if (nOpened != SQLITE_OK) ThrowSqliteError(pRaw, nOpened);
+    sqlite3_extended_result_codes(pRaw, 1);
+    sqlite3_busy_timeout(pRaw, nLockTimeout);
+    if (const int nResult = RegisterDialectFunctions(pRaw)) ThrowSqliteError(pRaw, nResult);
+    return std::make_shared<CSqliteConnection>(std::move(pDatabase));
+}
+
+class CSqliteProvider : public CDbProvider {
+public:
+    [[nodiscard]] std::string_view Name() const override { return "SQLite"; }
+
+    [[nodiscard]] std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const override {
+        const std::string strTimeout = text.Value("Lock Timeout");
+        int nTimeout = kLockTimeout;
+        std::from_chars(strTimeout.data(), strTimeout.data() + strTimeout.size(), nTimeout);
+        return OpenFile(text.Value("Data Source"), SQLITE_OPEN_READWRITE, nTimeout);
+    }
+};
+
+} // namespace
+
+const CDbProvider& SqliteProvider() {
+    static const CSqliteProvider s_provider;
+    return s_provider;
+}
+
+std::shared_ptr<CDbConnection> CreateSqliteDatabase(std::string_view strPath) {
+    return OpenFile(strPath, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, kLockTimeout);
+}

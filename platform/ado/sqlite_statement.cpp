@@ -1,0 +1,71 @@
+#include "platform/ado/sqlite_statement.h"
+
+#include <string>
+#include <utility>
+
+#include "platform/ado/error.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+sqlite3_stmt* Prepare(sqlite3* pDatabase, std::string_view strSql) {
+    sqlite3_stmt* pStatement = nullptr;
+    const int nResult =
+        sqlite3_prepare_v2(pDatabase, strSql.data(), static_cast<int>(strSql.size()), &pStatement, nullptr);
+    if (nResult != SQLITE_OK) ThrowSqliteError(pDatabase, nResult);
+    if (!pStatement) throw CDbError(DbFailure::General, 0, "SQLite", "The statement is empty.");
+    return pStatement;
+}
+
+int BindText(sqlite3_stmt* pStatement, int nPlace, const std::string& strGbk) {
+    std::string strUtf8;
+    if (!GbkToUtf8(strGbk, &strUtf8))
+        throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
+                       "a text is broken: its bytes are no characters");
+    return sqlite3_bind_text64(pStatement, nPlace, strUtf8.data(), strUtf8.size(), SQLITE_TRANSIENT,
+                               SQLITE_UTF8);
+}
+
+} // namespace
+
+void ThrowSqliteError(sqlite3* pDatabase, int nResult) {
+    std::string strWhy;
+    if (!Utf8ToGbk(sqlite3_errmsg(pDatabase), &strWhy)) strWhy = sqlite3_errstr(nResult);
+    const int nPrimary = nResult & 0xFF;
+    const bool bLocked = nPrimary == SQLITE_BUSY || nPrimary == SQLITE_LOCKED;
+    throw CDbError(bLocked ? DbFailure::Locked : DbFailure::General, nResult, "SQLite", strWhy);
+}
+
+CSqliteStatement::CSqliteStatement(CSqliteHandle pDatabase, std::string_view strSqlUtf8)
+    : m_pDatabase(std::move(pDatabase))
+    , m_pStatement(Prepare(m_pDatabase.get(), strSqlUtf8)) {}
+
+CSqliteStatement::CSqliteStatement(CSqliteHandle pDatabase, sqlite3_stmt* pStatement)
+    : m_pDatabase(std::move(pDatabase))
+    , m_pStatement(pStatement) {}
+
+void CSqliteStatement::Bind(int nPlace, const CDbValue& value) {
+    sqlite3_stmt* pStatement = Get();
+    int nResult = SQLITE_OK;
+    if (const auto* pWhole = std::get_if<std::int64_t>(&value))
+        nResult = sqlite3_bind_int64(pStatement, nPlace, *pWhole);
+    else if (const auto* pReal = std::get_if<double>(&value))
+        nResult = sqlite3_bind_double(pStatement, nPlace, *pReal);
+    else if (const auto* pText = std::get_if<std::string>(&value))
+        nResult = BindText(pStatement, nPlace, *pText);
+    else
+        nResult = sqlite3_bind_null(pStatement, nPlace);
+    if (nResult != SQLITE_OK) ThrowSqliteError(m_pDatabase.get(), nResult);
+}
+
+void CSqliteStatement::Bind(std::span<const CDbValue> arValues) {
+    int nPlace = 0;
+    for (const CDbValue& value : arValues)
+        Bind(++nPlace, value);
+}
+
+bool CSqliteStatement::Step() {
+    const int nResult = sqlite3_step(Get());
+    if (nResult != SQLITE_ROW && nResult != SQLITE_DONE) ThrowSqliteError(m_pDatabase.get(), nResult);
+    return nResult == SQLITE_ROW;
+}
