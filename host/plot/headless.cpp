@@ -1,0 +1,37 @@
+#include "host/plot/headless.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QGuiApplication>
+
+#include <array>
+#include <clocale>
+#include <filesystem>
+#include <string>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+void SwallowRemarks(QtMsgType type, const QMessageLogContext&, const QString& strText) {
+    if (type == QtFatalMsg) qt_message_output(type, QMessageLogContext(), strText);
+}
+
+} // namespace
+
+void StartHeadlessQt() {
+    if (QCoreApplication::instance()) return;
+    qInstallMessageHandler(SwallowRemarks);
+    // Qt takes the user's locale over, with its decimal comma; numbers are read and written with a point here.
+    const std::string strLocale = std::setlocale(LC_ALL, nullptr);
+    static int s_nArguments = 3;
+    static std::array<char, 6> s_szProgram = {"tervo"};
+    static std::array<char, 10> s_szOption = {"-platform"};
+    static std::array<char, 10> s_szPlatform = {"offscreen"};
+    static std::array<char*, 4> s_arArguments = {s_szProgram.data(), s_szOption.data(), s_szPlatform.data(),
+                                                 nullptr};
+    // Never deleted: fonts held by other statics need it to the last.
+    static QGuiApplication* s_pApplication = nullptr;
+    s_pApplication = new QGuiApplication(s_nArguments, s_arArguments.data());
+    std::setlocale(LC_ALL, strLocale.c_str());
+}

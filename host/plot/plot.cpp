@@ -1,0 +1,156 @@
+#include "host/plot/plot.h"
+
+#include "host/plot/painter_canvas.h"
+#include "host/plot/paintable.h"
+#include "host/plot/pdf_page_box.h"
+#include "host/plot/svg_canvas.h"
+#include "platform/windows/code_page.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QSaveFile>
+#include <QtGui/QImage>
+#include <QtGui/QPageLayout>
+#include <QtGui/QPageSize>
+#include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
+
+#include <cmath>
+#include <exception>
+
+namespace {
+
+constexpr double MM_PER_INCH = 25.4;
+
+/// Carries a sentence (GBK) from the place that fails to Plot, which gives it to the caller.
+class CPlotError : public std::exception {
+public:
+    explicit CPlotError(std::string strText)
+        : m_strText(std::move(strText)) {}
+    const char* what() const noexcept override { return m_strText.c_str(); }
+
+private:
+    std::string m_strText;
+};
+
+QString NameOf(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string()); // file names are UTF-8
+}
+
+std::string Gbk(const QString& strText) {
+    return GbkFromWide(strText.toStdWString());
+}
+
+QSizeF SizeOf(const CPlotPage& page) {
+    const QSizeF size(page.m_box.Width(), page.m_box.Height());
+    if (!(size.width() > 0.0) || !(size.height() > 0.0) || !IsPaintable(size.width(), size.height()))
+        throw CPlotError("the page has no size that can be plotted");
+    return size;
+}
+
+void PaintPage(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts, CCanvas& canvas) {
+    for (const CPlotPicture& picture : page.m_arPictures) {
+        const CPaintContext context{page.m_box.m_dLeft, page.m_box.m_dTop, options.m_fnLinetype,
+                                    options.m_dLinetypeScale, picture.m_nLayerColor};
+        PaintDisplayList(*picture.m_pList, context, fonts, canvas);
+    }
+}
+
+void Save(const std::filesystem::path& path, const QByteArray& bytes) {
+    QSaveFile file(NameOf(path));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw CPlotError("can't write " + Gbk(NameOf(path)) + ": " + Gbk(file.errorString()));
+}
+
+QByteArray MakePdf(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts) {
+    constexpr int RESOLUTION = 7200;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setCreator(u"Tervo"_qs);
+    writer.setResolution(RESOLUTION);
+    std::vector<QSizeF> arSizes;
+    QPainter painter;
+    for (const CPlotPage& page : arPages) {
+        const QSizeF size = SizeOf(page);
+        const QSize whole = WholePointsOf(size);
+        const QPageSize paper(QSizeF(whole), QPageSize::Point, QString(), QPageSize::ExactMatch);
+        writer.setPageLayout(QPageLayout(paper, QPageLayout::Portrait, QMarginsF()));
+        if (arSizes.empty() ? !painter.begin(&writer) : !writer.newPage())
+            throw CPlotError("can't make a page");
+        // The page ends at its exact height, a fraction of a point above the bottom of the whole points.
+        painter.resetTransform();
+        painter.scale(RESOLUTION / MM_PER_INCH, RESOLUTION / MM_PER_INCH);
+        painter.translate(0.0, whole.height() * MM_PER_INCH / 72.0 - size.height());
+        CPainterCanvas canvas(painter);
+        PaintPage(page, options, fonts, canvas);
+        arSizes.push_back(size);
+    }
+    painter.end();
+    if (!ExactPageBoxes(&bytes, arSizes)) throw CPlotError("can't set the page size");
+    return bytes;
+}
+
+QByteArray MakeSvg(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    CSvgCanvas canvas(buffer, SizeOf(page));
+    PaintPage(page, options, fonts, canvas);
+    if (!canvas.Finish()) throw CPlotError("a text can't be written");
+    return bytes;
+}
+
+QByteArray MakePng(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts) {
+    const double dDotsPerMm = options.m_dDotsPerInch / MM_PER_INCH;
+    const QSizeF dots = SizeOf(page) * dDotsPerMm;
+    constexpr double MOST_DOTS = 32767.0; // the raster's own limit
+    if (!(dots.width() >= 0.5) || !(dots.height() >= 0.5) || dots.width() > MOST_DOTS || dots.height() > MOST_DOTS)
+        throw CPlotError("the page is too large or too small for a picture at this resolution");
+    QImage image(static_cast<int>(std::lround(dots.width())), static_cast<int>(std::lround(dots.height())),
+                 QImage::Format_RGB32);
+    if (image.isNull()) throw CPlotError("not enough memory for the picture");
+    image.fill(Qt::white);
+    image.setDotsPerMeterX(static_cast<int>(std::lround(dDotsPerMm * 1000.0)));
+    image.setDotsPerMeterY(static_cast<int>(std::lround(dDotsPerMm * 1000.0)));
+    QPainter painter(&image);
+    painter.scale(dDotsPerMm, dDotsPerMm);
+    CPainterCanvas canvas(painter);
+    PaintPage(page, options, fonts, canvas);
+    painter.end();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG")) throw CPlotError("the picture can't be written");
+    return bytes;
+}
+
+} // namespace
+
+std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t nPage, std::size_t nPages) {
+    const bool bAllInOne = NameOf(path.extension()).compare(u".pdf", Qt::CaseInsensitive) == 0;
+    if (nPages == 1 || bAllInOne) return path;
+    std::filesystem::path numbered = path;
+    return numbered.replace_filename(path.stem().string() + "-" + std::to_string(nPage + 1) +
+                                     path.extension().string());
+}
+
+bool Plot(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts,
+          const std::filesystem::path& path, std::string* pError) {
+    try {
+        const QString strEnding = NameOf(path.extension()).toLower();
+        const bool bPdf = strEnding == u".pdf";
+        const bool bSvg = strEnding == u".svg";
+        if (!bPdf && !bSvg && strEnding != u".png")
+            throw CPlotError(Gbk(NameOf(path)) + ": a plot's name ends in .pdf, .svg or .png");
+        if (arPages.empty()) throw CPlotError("there is no page to plot");
+        if (bPdf) Save(path, MakePdf(arPages, options, fonts));
+        for (std::size_t i = 0; !bPdf && i < arPages.size(); ++i)
+            Save(PlotFileOf(path, i, arPages.size()),
+                 bSvg ? MakeSvg(arPages[i], options, fonts) : MakePng(arPages[i], options, fonts));
+        return true;
+    } catch (const std::exception& error) {
+        *pError = error.what();
+        return false;
+    }
+}
