@@ -1,0 +1,102 @@
+#include "platform/mfc/modal_window.h"
+
+#include <ctime>
+
+#include "platform/mfc/list_box.h"
+
+namespace {
+
+CDialogPresenter* g_pPresenter = nullptr;
+
+std::chrono::year_month_day Today() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return {std::chrono::year(local.tm_year + 1900), std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+            std::chrono::day(static_cast<unsigned>(local.tm_mday))};
+}
+
+std::shared_ptr<CControl> MakeControl(const CControlTemplate& from, CWnd* pParent) {
+    auto control = std::make_shared<CControl>();
+    control->m_nId = from.m_nId;
+    control->m_kind = from.m_kind;
+    control->m_place = from.m_place;
+    control->m_nFlags = from.m_nFlags;
+    control->m_strText = from.m_strCaption;
+    control->m_bEnabled = !(from.m_nFlags & CONTROL_DISABLED);
+    control->m_bVisible = !(from.m_nFlags & CONTROL_HIDDEN);
+    control->m_bReadOnly = (from.m_nFlags & CONTROL_READONLY) != 0;
+    if (from.m_kind == CControlKind::Date) control->m_date = Today();
+    control->m_pParent = pParent;
+    return control;
+}
+
+std::unique_ptr<CWnd> MakeHandle(CControlKind kind) {
+    const bool bList = kind == CControlKind::List || kind == CControlKind::MultiList;
+    return bList ? std::make_unique<CListBox>() : std::make_unique<CWnd>();
+}
+
+} // namespace
+
+CDialogPresenter* DialogPresenter() {
+    return g_pPresenter;
+}
+
+void SetDialogPresenter(CDialogPresenter* pPresenter) {
+    g_pPresenter = pPresenter;
+}
+
+int CModalWindow::DoModal() {
+    CDialogPresenter* pPresenter = DialogPresenter();
+    if (!pPresenter || !Create()) return -1;
+    m_bOpen = true;
+    OnInitDialog();
+    if (m_bOpen) pPresenter->RunModal(*this);
+    if (m_bOpen) EndDialog(ID_CANCEL);
+    Destroy();
+    return m_nResult;
+}
+
+void CModalWindow::EndDialog(int nResult) {
+    m_nResult = nResult;
+    m_bOpen = false;
+}
+
+void CModalWindow::OnCommand(UINT nId, int nCode) {
+    OnCmdMsg(nId, nCode, nullptr, nullptr);
+}
+
+CWnd* CModalWindow::GetDlgItem(UINT nId) const {
+    for (const auto& pItem : m_arItems)
+        if (pItem->GetDlgCtrlID() == nId) return pItem->GetControl()->m_pHandle;
+    return nullptr;
+}
+
+std::vector<CWnd*> CModalWindow::GetItems() const {
+    std::vector<CWnd*> items;
+    for (const auto& pItem : m_arItems)
+        items.push_back(pItem->GetControl()->m_pHandle);
+    return items;
+}
+
+void CModalWindow::Destroy() {
+    for (const auto& pItem : m_arItems)
+        pItem->GetControl()->m_pHandle->m_pControl.reset();
+    m_arItems.clear();
+    Attach(nullptr);
+}
+
+void CModalWindow::CreateFrom(const CDialogTemplate& dialog) {
+    CControlTemplate self;
+    self.m_nId = dialog.m_nId;
+    self.m_kind = CControlKind::Dialog;
+    self.m_strCaption = dialog.m_strCaption;
+    self.m_place = {0, 0, dialog.m_cx, dialog.m_cy};
+    Attach(MakeControl(self, nullptr));
+    for (const CControlTemplate& control : dialog.m_arControls) {
+        auto pItem = MakeHandle(control.m_kind);
+        pItem->m_pControl = MakeControl(control, this);
+        pItem->m_pControl->m_pHandle = pItem.get();
+        m_arItems.push_back(std::move(pItem));
+    }
+}
