@@ -118,7 +118,9 @@ private:
     void DrawEnvelope(AcGiWorldDraw* pMode) const;
 
     // The picture's elements, each described once for every form of output.
-    void DescribeStrainCurves(CPictureSink& sink) const;
+    /// bWithOrigin: a curve that begins well off the origin is led there first; the world form does so.
+    void DescribeStrainCurves(CPictureSink& sink, bool bWithOrigin) const;
+    void DescribeStages(CPictureSink& sink, int nSeries, bool bWithOrigin) const;
     void DescribeMohrCircles(CPictureSink& sink) const;
     void DescribeEnvelope(CPictureSink& sink) const;
     CAxes CurveAxes() const;

@@ -1,0 +1,25 @@
+#include "drawing/chart_text.h"
+
+#include "commands/session_flags.h"
+#include "commands/text_conversion.h"
+#include "platform/acad/db_text.h"
+
+namespace {
+constexpr double g_dMeasuredWidth = 0.7;
+}
+
+void DrawChartText(AcGiWorldDraw* pMode, const AcGePoint3d& ptPosition, const CString& strText, int nDirection,
+                   const AcGiTextStyle& style) {
+    pMode->subEntityTraits().setSelectionMarker(1);
+    const AcGeVector3d& vecDirection = nDirection == 0 ? AcGeVector3d::kXAxis : AcGeVector3d::kYAxis;
+    pMode->rawGeometry()->text(ptPosition, AcGeVector3d::kZAxis, vecDirection, ToWide(strText), -1, Adesk::kFalse,
+                               style);
+}
+
+double MeasureTextWidth(const CString& strText, AcDbObjectId idStyle, double dHeight) {
+    if (g_bQuitting) return 0.0;
+    const AcDbText text(AcGePoint3d::kOrigin, ToWide(strText), idStyle, dHeight, 0.0);
+    AcDbExtents extents;
+    if (text.getGeomExtents(extents) != Acad::eOk) return 0.0;
+    return (extents.maxPoint().x - extents.minPoint().x) * g_dMeasuredWidth;
+}

@@ -1,0 +1,116 @@
+#include "drawing/curves.h"
+
+#include "drawing/dashed_scope.h"
+#include "drawing/polyline_output.h"
+#include "platform/acad/db_spline.h"
+
+namespace {
+constexpr double g_dSplitTolerance = 0.001;
+constexpr double g_dDotReach = 0.25; // two half circles of this radius, a band twice as wide: a full dot 1.0 across
+constexpr double g_dDotWidth = 0.5;
+constexpr Adesk::UInt16 g_nDotColor = 1;
+
+/// The crossings of two curves, in order along the first; false when the search failed.
+bool FindCrossings(const AcGePoint3dArray& first, const AcGePoint3dArray& second, AcGePoint3dArray& crossings) {
+    const AcDbSpline firstCurve(first), secondCurve(second);
+    return firstCurve.intersectWith(&secondCurve, AcDb::kOnBothOperands, crossings) == Acad::eOk;
+}
+
+void BothSolid(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second) {
+    if (first.length() > 1) sink.SolidCurve(first);
+    if (second.length() > 1) sink.SolidCurve(second);
+}
+} // namespace
+
+int SplitAtFirstDrop(const AcGePoint3dArray& points, AcGePoint3dArray& head, AcGePoint3dArray& tail) {
+    const int nPoints = points.length();
+    int i = 0;
+    while (i < nPoints - 1 && points[i + 1].y >= points[i].y) head.append(points[i++]);
+    if (nPoints == 0) return 2;
+    head.append(points[i]);
+    if (i == nPoints - 1) return 1;
+    for (; i < nPoints; i++) tail.append(points[i]);
+    return 2;
+}
+
+void SplitAtPoint(const AcGePoint3d& ptAt, const AcGePoint3dArray& points, bool bByY, AcGePoint3dArray& first,
+                  AcGePoint3dArray& second) {
+    const auto coordinate = [bByY](const AcGePoint3d& point) { return bByY ? point.y : point.x; };
+    int i = 0;
+    while (i < points.length() && coordinate(ptAt) - g_dSplitTolerance > coordinate(points[i]))
+        first.append(points[i++]);
+    first.append(ptAt);
+    second.append(ptAt);
+    for (; i < points.length(); i++) second.append(points[i]);
+}
+
+int DrawCrossHead(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
+              AcGePoint3dArray& carry) {
+    AcGePoint3dArray crossings;
+    if (!FindCrossings(first, second, crossings)) {
+        BothSolid(sink, first, second);
+        return 0;
+    }
+    if (crossings.isEmpty()) {
+        sink.SolidCurve(first);
+        carry = second;
+        return 0;
+    }
+    AcGePoint3dArray before, after, beforeSecond, afterSecond;
+    SplitAtPoint(crossings.first(), first, false, before, after);
+    sink.SolidCurve(before);
+    sink.DashedCurve(after);
+    SplitAtPoint(crossings.first(), second, true, beforeSecond, afterSecond);
+    sink.DashedCurve(beforeSecond);
+    carry = afterSecond;
+    return 1;
+}
+
+int DrawCrossTail(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
+              AcGePoint3dArray& carry) {
+    carry.setLogicalLength(0);
+    AcGePoint3dArray crossings;
+    if (!FindCrossings(first, second, crossings)) {
+        BothSolid(sink, first, second);
+        return 0;
+    }
+    if (crossings.isEmpty()) {
+        sink.DashedCurve(first);
+        carry = second;
+        return 0;
+    }
+    AcGePoint3dArray before, after, beforeSecond, afterSecond;
+    SplitAtPoint(crossings.first(), first, true, before, after);
+    sink.DashedCurve(before);
+    sink.SolidCurve(after);
+    SplitAtPoint(crossings.first(), second, true, beforeSecond, afterSecond);
+    sink.DashedCurve(beforeSecond);
+    carry = afterSecond;
+    return 1;
+}
+
+void DrawSolidCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
+    AcDbSpline curve(points);
+    pMode->subEntityTraits().setSelectionMarker(1);
+    pMode->subEntityTraits().setColor(nColor);
+    curve.worldDraw(pMode);
+}
+
+void DrawDashedCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
+    const CDashedScope dashed(pMode, nColor);
+    AcDbSpline curve(points);
+    curve.worldDraw(pMode);
+}
+
+void DrawCurveDots(const AcGePoint3dArray& points, Adesk::Int16 nPolylineMode, AcGiWorldDraw* pMode,
+                   Adesk::UInt16 nColor) {
+    AcDbPolyline dot(3); // refilled for each point: a regeneration allocates nothing per point
+    for (const AcGePoint3d& point : points) {
+        dot.reset(Adesk::kTrue, 3);
+        for (const double dReach : {g_dDotReach, -g_dDotReach, g_dDotReach})
+            dot.addVertexAt(dot.numVerts(), {point.x, point.y + dReach}, 1.0, g_dDotWidth, g_dDotWidth);
+        pMode->subEntityTraits().setColor(g_nDotColor);
+        DrawPolylineByMode(nPolylineMode, pMode, dot);
+        pMode->subEntityTraits().setColor(nColor);
+    }
+}

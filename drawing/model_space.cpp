@@ -1,0 +1,18 @@
+#include "drawing/model_space.h"
+
+#include "platform/acad/host_application.h"
+
+int AppendToModelSpace(AcDbDatabase*& pDatabase, AcDbObjectId& idEntity, AcDbEntity* pEntity) {
+    if (!pDatabase) pDatabase = acdbHostApplicationServices()->workingDatabase();
+    if (!pDatabase || !pEntity) return 0;
+    AcDbBlockTable* pTable = nullptr;
+    if (pDatabase->getBlockTable(pTable, AcDb::kForRead) != Acad::eOk) return 0;
+    AcDbBlockTableRecord* pSpace = nullptr;
+    const Acad::ErrorStatus found = pTable->getAt(ACDB_MODEL_SPACE, pSpace, AcDb::kForWrite);
+    pTable->close();
+    if (found != Acad::eOk) return 0;
+    const Acad::ErrorStatus appended = pSpace->appendAcDbEntity(idEntity, pEntity);
+    pSpace->close();
+    if (appended != Acad::eOk) return 0;
+    return pEntity->close() == Acad::eOk;
+}
