@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/picture_sink.h"
+#include "platform/acad/db_object_id.h"
 
 /// One gridded frame with its ticks and titles: both panels are made of it.
 struct CAxes {

@@ -1,6 +1,7 @@
 #include "chart/chart_entity.h"
 
 #include "chart/chart_fields.h"
+#include "platform/acad/field_table.h"
 #include "platform/acad/rx_registry.h"
 
 #include <new>

@@ -1,0 +1,281 @@
+#include "analysis/reduction.h"
+
+#include "analysis/numbers.h"
+#include "tests/support/readings.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace {
+/// A sound reading: 39.1 mm by 80 mm, 100 divisions of 2 N, 8 mm of deformation.
+CTestReading Reading(double dWY = 100.0, Adesk::Int8 nJLLX = 0, Adesk::Int32 nSJBH = 1) {
+    CTestReading r;
+    r.m_nSJBH = nSJBH;
+    r.m_dWY = dWY;
+    r.m_dSYGD = 80.0;
+    r.m_dSYZJ = 39.1;
+    r.m_dCLHXS = 2.0;
+    r.m_dCLHDS = 100.0;
+    r.m_dZXBX = 800.0;
+    r.m_nJLLX = nJLLX;
+    return r;
+}
+
+/// Runs readings through a chart; the printed text is that of the whole run.
+struct CRun {
+    CPrintedText m_printed;
+    CBRENChart m_chart;
+    int m_nResult = 0;
+
+    CRun(const char* pMethod, const std::vector<CTestReading>& readings) {
+        m_chart.m_strSYFF = pMethod;
+        CReduction reduction(m_chart);
+        for (const CTestReading& reading : readings)
+            if (!reduction.AddReading(reading)) return;
+        m_nResult = reduction.Finish();
+    }
+    std::string Printed() const { return m_printed.Text(); }
+};
+
+std::vector<double> List(const CDoubleList& list) {
+    return {list.begin(), list.end()};
+}
+} // namespace
+
+TEST(ReduceReading, GivesTheWorkedFigures) {
+    const CReducedReading reduced = ReduceReading(Reading(), CTestMethod::UU);
+    EXPECT_EQ(reduced.m_dStrain, 800.0 / (100.0 * 80.0));
+    EXPECT_EQ(reduced.m_dDeviator, 149.91);
+    const double dArea0 = 3.1415926 * 39.1 * 39.1 / 400.0;
+    EXPECT_NEAR(dArea0, 12.0072, 0.00005);
+    EXPECT_NEAR(dArea0 / (1.0 - reduced.m_dStrain), 13.3414, 0.0001);
+}
+
+TEST(ReduceReading, CorrectsAConsolidatedSpecimenForItsDrainedWater) {
+    CTestReading r = Reading();
+    r.m_dGJPS = 5.0;
+    const double dArea0 = 3.1415926 * r.m_dSYZJ * r.m_dSYZJ / 400.0;
+    const double k = 1.0 - 10.0 * 5.0 / (dArea0 * 80.0);
+    const double dHeight = 80.0 * std::pow(k, 0.3333333333333333);
+    const CReducedReading reduced = ReduceReading(r, CTestMethod::CU);
+    EXPECT_EQ(reduced.m_dStrain, 800.0 / (100.0 * dHeight));
+    const double dArea = dArea0 * std::pow(k, 0.6666666666666666) / (1.0 - reduced.m_dStrain);
+    EXPECT_EQ(reduced.m_dDeviator, RoundToTwoDecimals(10.0 * 200.0 / dArea));
+}
+
+TEST(ReduceReading, TakesTheDrainedVolumeOffADrainedSpecimen) {
+    CTestReading r = Reading();
+    r.m_dGJPS = 5.0;
+    r.m_dJQPS = 2.0;
+    const double dArea0 = 3.1415926 * r.m_dSYZJ * r.m_dSYZJ / 400.0;
+    const double dHeight = 80.0 * std::pow(1.0 - 10.0 * 5.0 / (dArea0 * 80.0), 0.3333333333333333);
+    const double dArea = (dArea0 * 80.0 - 10.0 * 5.0 - 10.0 * 2.0) / (dHeight - 800.0 / 100.0);
+    EXPECT_EQ(ReduceReading(r, CTestMethod::CD).m_dDeviator, RoundToTwoDecimals(10.0 * 200.0 / dArea));
+}
+
+TEST(ReduceReading, LetsANegativeConsolidationVolumeRaiseTheSpecimen) {
+    CTestReading r = Reading();
+    r.m_dGJPS = -40.0;
+    EXPECT_FALSE(r.HasNegativeFault());
+    EXPECT_LT(ReduceReading(r, CTestMethod::CU).m_dStrain, 0.1);
+}
+
+TEST(ReduceReading, GivesNoNumberWhenMoreWaterDrainedThanTheSpecimenHeld) {
+    CTestReading r = Reading();
+    r.m_dGJPS = 200.0;
+    EXPECT_TRUE(std::isnan(ReduceReading(r, CTestMethod::CU).m_dStrain));
+}
+
+TEST(ReduceReading, DividesByAVanishedHeightAsArithmeticDoes) {
+    CTestReading r = Reading();
+    r.m_dZXBX = 8000.0;
+    const CReducedReading reduced = ReduceReading(r, CTestMethod::UU);
+    EXPECT_EQ(reduced.m_dStrain, 1.0);
+    EXPECT_EQ(reduced.m_dDeviator, 0.0); // an endless area
+}
+
+TEST(NegativeCheck, PassesExactlyMinusOneHundredth) {
+    double CTestReading::*const checked[] = {
+        &CTestReading::m_dSYGD,  &CTestReading::m_dSYZJ, &CTestReading::m_dCLHXS,
+        &CTestReading::m_dWY,    &CTestReading::m_dCLHDS, &CTestReading::m_dZXBX,
+        &CTestReading::m_dJQPS,  &CTestReading::m_dKXYL, &CTestReading::m_dGJKXYL};
+    for (double CTestReading::*pMember : checked) {
+        CTestReading r = Reading();
+        r.*pMember = -0.01;
+        EXPECT_FALSE(r.HasNegativeFault());
+        r.*pMember = -0.0100001;
+        EXPECT_TRUE(r.HasNegativeFault());
+    }
+}
+
+TEST(Reduction, RefusesANegativeReadingWithItsMessage) {
+    CTestReading r = Reading();
+    r.m_dJQPS = -1.0;
+    const CRun run(g_pMethodCD, {r});
+    EXPECT_EQ(run.m_nResult, 0);
+    EXPECT_EQ(run.Printed(), "\n原始数据不正确导致出现不正常负值!");
+}
+
+TEST(Reduction, RefusesADrainedTestWhosePorePressurePassesTheCellPressure) {
+    CTestReading r = Reading(100.0, 2);
+    r.m_dKXYL = 100.02;
+    const CRun run(g_pMethodCD, {r});
+    EXPECT_EQ(run.m_nResult, 0);
+    EXPECT_EQ(run.Printed(), "\n原始数据不正确导致σ3或σ1值错误!");
+    EXPECT_TRUE(run.m_chart.m_arSigma3.isEmpty());
+}
+
+TEST(Reduction, RefusesAnUndrainedTestWhosePorePressurePassesTheCellPressure) {
+    CTestReading r = Reading(100.0, 2);
+    r.m_dKXYL = 100.02;
+    const CRun run(g_pMethodCU, {r});
+    EXPECT_EQ(run.m_nResult, 0);
+    EXPECT_EQ(run.Printed(), "\n原始数据不正确导致σ'3或σ'1值错误!");
+    EXPECT_EQ(run.m_chart.m_arSigma3.length(), 1); // what was appended before the fault stays
+}
+
+TEST(Reduction, FeedsCurveAndCirclesByTheRowsKind) {
+    std::vector<CTestReading> readings;
+    for (const int nKind : {0, 1, 2, 3, -1}) readings.push_back(Reading(100.0, static_cast<Adesk::Int8>(nKind)));
+    const CRun run(g_pMethodUU, readings);
+    ASSERT_EQ(run.m_nResult, 1);
+    EXPECT_EQ(run.m_chart.m_arSigma3.length(), 2); // kinds 1 and 2, at one cell pressure
+    ASSERT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 1);
+    EXPECT_EQ(run.m_chart.m_arStrainSeries[0].length(), 2); // kinds 0 and 2
+}
+
+TEST(Reduction, CountsEveryRowTowardsTheGreatestValues) {
+    CTestReading great = Reading(500.0, 3);
+    great.m_dCLHDS = 1000.0;
+    const CRun run(g_pMethodUU, {Reading(100.0, 2), great});
+    EXPECT_EQ(run.m_chart.m_dMaxSigma1, 500.0 + ReduceReading(great, CTestMethod::UU).m_dDeviator);
+}
+
+TEST(Reduction, WritesSixTotalValuesAFailureRow) {
+    const CRun run(g_pMethodUU, {Reading(100.0, 1)});
+    EXPECT_EQ(List(run.m_chart.m_arTotal),
+              (std::vector<double>{100.0, 249.91, 349.91, 249.91 - 100.0, 349.91 / 2.0, (249.91 - 100.0) / 2.0}));
+    EXPECT_TRUE(run.m_chart.m_arEffective.isEmpty());
+}
+
+TEST(Reduction, WritesFourEffectiveValuesAFailureRowOfAnUndrainedTest) {
+    CTestReading r = Reading(100.0, 1);
+    r.m_dKXYL = 30.0;
+    const CRun run(g_pMethodCU, {r});
+    const double q = ReduceReading(r, CTestMethod::CU).m_dDeviator;
+    const double s1 = 100.0 + q - 30.0, s3 = 70.0;
+    EXPECT_EQ(List(run.m_chart.m_arEffective), (std::vector<double>{s3, s1, s1 + s3, (s1 + s3) / 2.0}));
+    EXPECT_EQ(List(run.m_chart.m_arSigma3Eff), (std::vector<double>{70.0}));
+    EXPECT_EQ(List(run.m_chart.m_arDeviatorEff), (std::vector<double>{q}));
+}
+
+TEST(Reduction, RepeatsTheTotalValuesWithoutPorePressure) {
+    const CRun run(g_pMethodCU, {Reading(100.0, 2, 1), Reading(200.0, 2, 2)});
+    ASSERT_EQ(run.m_nResult, 1);
+    EXPECT_EQ(List(run.m_chart.m_arSigma3Eff), List(run.m_chart.m_arSigma3));
+    EXPECT_EQ(run.m_chart.m_dGraphC, run.m_chart.m_dGraphCEff);
+    EXPECT_EQ(run.m_chart.m_dGraphPhi, run.m_chart.m_dGraphPhiEff);
+}
+
+TEST(Reduction, StoresEffectiveStressesOfADrainedTestButTheGreatestUnadjusted) {
+    CTestReading r = Reading(250.0, 2);
+    r.m_dKXYL = 50.0;
+    const CRun run(g_pMethodCD, {r});
+    const double q = ReduceReading(r, CTestMethod::CD).m_dDeviator;
+    EXPECT_EQ(run.m_chart.m_arTotal[0], 200.0);
+    EXPECT_EQ(run.m_chart.m_arTotal[1], 250.0 + q - 50.0);
+    EXPECT_EQ(run.m_chart.m_dMaxSigma1, 250.0 + q);
+}
+
+TEST(Reduction, DrawsCurvesWithoutCirclesAndSaysSo) {
+    const CRun run(g_pMethodUU, {Reading(), Reading()});
+    EXPECT_EQ(run.m_nResult, 1);
+    EXPECT_EQ(run.m_chart.m_bNoEnvelope, 1);
+    EXPECT_EQ(run.Printed(), "摩尔圆个数少于2个,无法图解切线。");
+    EXPECT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 1);
+    EXPECT_EQ(run.m_chart.m_dGraphC, 0.0);
+}
+
+TEST(Reduction, StartsNoSeriesForAGroupOfFailureRowsOnly) {
+    const CRun run(g_pMethodUU, {Reading(100, 0, 1), Reading(100, 2, 1), Reading(200, 1, 2), Reading(300, 2, 3)});
+    EXPECT_EQ(run.m_chart.m_arSigma3.length(), 3);
+    EXPECT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 2);
+    EXPECT_EQ(run.m_chart.m_arStressSeries.GetSize(), 2);
+}
+
+TEST(Reduction, GroupsByAdjacencyNotByValue) {
+    const CRun run(g_pMethodUU, {Reading(100), Reading(200), Reading(100)});
+    EXPECT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 3);
+}
+
+TEST(Reduction, ComparesCellPressuresExactly) {
+    const CRun run(g_pMethodUU, {Reading(100), Reading(std::nextafterf(100.0F, 200.0F))});
+    EXPECT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 2);
+}
+
+TEST(Reduction, GivesTwoCirclesOfOneGroupForTwoFailureRows) {
+    const CRun run(g_pMethodUU, {Reading(100, 1), Reading(100, 1)});
+    EXPECT_EQ(run.m_chart.m_arSigma3.length(), 2);
+    EXPECT_EQ(run.m_chart.m_bNoEnvelope, 0);
+}
+
+TEST(Reduction, TellsOneSpecimenFromSeveralByTheFirstRow) {
+    EXPECT_EQ(CRun(g_pMethodUU, {Reading(100, 0, 1), Reading(200, 0, 1)}).m_chart.m_bSingleSpecimen, 1);
+    EXPECT_EQ(CRun(g_pMethodUU, {Reading(100, 0, 1), Reading(200, 0, 2)}).m_chart.m_bSingleSpecimen, 0);
+}
+
+TEST(Reduction, RunTwiceDoublesEveryListButTheTotalStresses) {
+    CBRENChart chart;
+    const CPrintedText printed;
+    chart.m_strSYFF = g_pMethodCU;
+    for (int i = 0; i < 2; i++) {
+        CReduction reduction(chart);
+        ASSERT_TRUE(reduction.AddReading(Reading(100, 2, 1)) && reduction.AddReading(Reading(200, 2, 2)));
+        ASSERT_EQ(reduction.Finish(), 1);
+    }
+    EXPECT_EQ(chart.m_arTotal.length(), 12);
+    EXPECT_EQ(chart.m_arEffective.length(), 16);
+    EXPECT_EQ(chart.m_arSigma3.length(), 4);
+    EXPECT_EQ(chart.m_arSigma3Eff.length(), 4);
+    EXPECT_EQ(chart.m_arStrainSeries.GetSize(), 4);
+}
+
+namespace {
+class MeasuredSet : public testing::TestWithParam<std::string> {};
+} // namespace
+
+TEST_P(MeasuredSet, ReproducesItsFailureStressesOrIsRefused) {
+    const std::string strSet = GetParam();
+    const CRun run(MethodOf(strSet), ReadingsOf(strSet));
+    if (strSet.starts_with("refused-")) {
+        EXPECT_EQ(run.m_nResult, 0);
+        EXPECT_EQ(run.Printed(), "\n原始数据不正确导致出现不正常负值!");
+        return;
+    }
+    ASSERT_EQ(run.m_nResult, 1);
+    const bool bDrained = run.m_chart.Method() == CTestMethod::CD;
+    int nChecked = 0;
+    for (auto& row : CsvRows(SetFolder(strSet) + "/expected.csv")) {
+        if (row["what"] != "failure") continue;
+        const bool bEffective = row["stress"] == "effective";
+        // The total lists of a drained test hold effective stresses.
+        const bool bSecond = bEffective && !bDrained;
+        const CDoubleList& list = bSecond ? run.m_chart.m_arEffective : run.m_chart.m_arTotal;
+        const int nAt = (std::stoi(row["specimen"]) - 1) * (bSecond ? 4 : 6);
+        ASSERT_LT(nAt + 1, list.length());
+        const double dTolerance = std::stod(row["tolerance_stress_kPa"]);
+        EXPECT_NEAR(list[nAt], std::stod(row["sigma3_kPa"]), dTolerance);
+        EXPECT_NEAR(list[nAt + 1], std::stod(row["sigma1_kPa"]), dTolerance);
+        nChecked++;
+    }
+    EXPECT_GT(nChecked, 0);
+    for (const double dValue : run.m_chart.m_arTotal) EXPECT_TRUE(std::isfinite(dValue));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, MeasuredSet, testing::ValuesIn(ReadingSets()), [](const auto& info) {
+    std::string strName = info.param;
+    for (char& c : strName)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return strName;
+});
