@@ -2,7 +2,6 @@
 
 #include "platform/acad/db_tables.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -34,6 +33,7 @@ public:
     AcDbObjectId celtype() const { return m_idCeltype; } ///< null: ByLayer
     Acad::ErrorStatus setCeltype(AcDbObjectId idLinetype);
     AcDbObjectId clayer() const { return m_idClayer; }
+    Acad::ErrorStatus setClayer(AcDbObjectId idLayer);
     AcDbObjectId textstyle() const { return m_idTextstyle; }
     Acad::ErrorStatus setTextstyle(AcDbObjectId idStyle);
 
@@ -48,15 +48,17 @@ public:
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
 
-    /// Entities appended or changed since the last call, in database order; the host redraws them.
+    /// Entities appended or changed (opened for writing) since the last call, erased ones left out, in
+    /// database order; the host redraws them.
     std::vector<AcDbObjectId> TakeChangedEntities();
     bool IsModified() const { return m_bModified; } ///< changed since SetModified(false)
     void SetModified(bool bModified) { m_bModified = bModified; }
 
 private:
     friend class AcDbObject;
-    friend Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*&, AcDbObjectId, AcDb::OpenMode, bool);
     void NoteChanged(CDbStub& stub);
+    template <class T>
+    Acad::ErrorStatus SetCurrent(AcDbObjectId& idCurrent, AcDbObjectId id);
 
     std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
     Adesk::UInt64 m_nNextHandle = 1;

@@ -33,7 +33,10 @@ public:
     AcDbObjectId linetypeId() const { return m_idLinetype; } ///< null means ByLayer
     std::string LinetypeName() const;                        ///< "ByLayer" for null
     Acad::ErrorStatus setLinetype(AcDbObjectId idLinetype, Adesk::Boolean doSubents = Adesk::kTrue);
-    std::string LayerName() const; ///< "0" while free
+    AcDbObjectId layerId() const { return m_idLayer; } ///< null until set or appended
+    /// A free entity may be given the layer of any drawing; appending one without gives it the current layer.
+    Acad::ErrorStatus setLayer(AcDbObjectId idLayer);
+    std::string LayerName() const; ///< "0" for none
 
     /// The box of what the entity shows. eInvalidExtents when it shows nothing finite.
     Acad::ErrorStatus getGeomExtents(AcDbExtents& extents) const { return subGetGeomExtents(extents); }
@@ -65,6 +68,6 @@ protected:
 
 private:
     Adesk::UInt16 m_nColorIndex = g_nColorByLayer;
-    AcDbObjectId m_idLinetype;
+    AcDbObjectId m_idLinetype, m_idLayer;
     std::shared_ptr<const CDisplayList> m_pPicture;
 };

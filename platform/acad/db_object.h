@@ -27,7 +27,8 @@ public:
     AcDbHandle handle() const { return m_id.handle(); }
     AcDbDatabase* database() const { return m_id.database(); }
 
-    /// Ends the caller's opening. A write-closing tells the persistent reactors and the host.
+    /// Ends the caller's opening. A write-closing tells the persistent reactors and the host. eNoDatabase for
+    /// a free object, eNotOpenForRead for a closed one.
     Acad::ErrorStatus close();
     Acad::ErrorStatus upgradeOpen();   ///< for read -> for write
     Acad::ErrorStatus downgradeOpen(); ///< for write -> for read
@@ -47,7 +48,8 @@ public:
 
 private:
     friend class AcDbDatabase;
-    friend struct CDbStub;
+    void EndWriting();
+
     AcDbObjectId m_id, m_idOwner;
 };
 

@@ -2,7 +2,7 @@
 
 #include "platform/acad/adesk.h"
 
-#include <functional>
+#include <compare>
 #include <string>
 
 class AcDbDatabase;

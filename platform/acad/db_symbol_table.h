@@ -29,12 +29,16 @@ public:
         return status == Acad::eOk ? acdbOpenObject(pRecord, id, mode) : status;
     }
     bool has(const ACHAR* name) const;
-    /// Makes the record part of the drawing; it is open for writing afterwards. eDuplicateKey, eAlreadyInDb.
+    /// Makes the record part of the drawing; it is open for writing afterwards. eDuplicateKey, eAlreadyInDb,
+    /// eInvalidInput for a record without a name; then it stays the caller's.
     Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* pRecord);
     Acad::ErrorStatus add(AcDbSymbolTableRecord* pRecord);
     const std::vector<AcDbObjectId>& RecordIds() const { return m_arIds; } ///< in order of adding
 
 private:
+    friend class AcDbSymbolTableRecord;
+    AcDbObjectId Find(const ACHAR* name) const; ///< null when there is none
+
     std::vector<AcDbObjectId> m_arIds;
 };
 

@@ -3,6 +3,7 @@
 
 #include "platform/acad/db_entity.h"
 #include "platform/acad/db_symbol_table.h"
+#include "platform/acad/text_metrics.h"
 
 /// A block: its entities in drawing order. Model space is one.
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
@@ -68,6 +69,8 @@ public:
     double textSize() const { return m_dTextSize; }
     double xScale() const { return m_dXScale; }
     double obliquingAngle() const { return m_dObliquingAngle; }
+    /// What its texts are measured and painted with: the font by name, else the shape-font files.
+    CTextFont Font() const;
 
 private:
     std::wstring m_strTypeface, m_strFileName, m_strBigFontFileName;

@@ -20,6 +20,7 @@ public:
     AcDbObjectId textStyle() const { return m_idStyle; }
     std::string StyleName() const; ///< GBK; "Standard" for a null style
 
+    // eInvalidInput for a number that is not finite, a negative height, a width factor that is not above 0.
     Acad::ErrorStatus setPosition(const AcGePoint3d& position);
     Acad::ErrorStatus setTextString(const ACHAR* text);
     Acad::ErrorStatus setHeight(double height);
@@ -34,7 +35,8 @@ protected:
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
 
 private:
-    AcGiTextStyle GiStyle() const;
+    Acad::ErrorStatus SetNumber(double& field, double value, bool bAllowed);
+    CTextPrimitive Primitive() const;
 
     AcGePoint3d m_ptPosition;
     std::wstring m_strText;

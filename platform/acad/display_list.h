@@ -31,11 +31,20 @@ struct CArcPrimitive {
     double m_dSweep = 0.0;
 };
 
+/// An arc's circle as two vectors: the point at an angle is center + start * cos + side * sin.
+struct CArcFrame {
+    AcGePoint3d m_ptCenter;
+    AcGeVector3d m_vecStart, m_vecSide;
+
+    explicit CArcFrame(const CArcPrimitive& arc);
+    AcGePoint3d At(double angle) const; ///< radians from the arc's start
+};
+
 struct CTextPrimitive {
     AcGePoint3d m_ptPosition;
     AcGeVector3d m_vecNormal, m_vecDirection;
     std::string m_strText; ///< GBK
-    int m_nLength = -1;
+    int m_nLength = -1;    ///< characters shown, from the first; -1 all
     double m_dHeight = 1.0, m_dXScale = 1.0, m_dOblique = 0.0, m_dTracking = 100.0;
     std::string m_strFont;    ///< GBK; the style's own font name, before any mapping
     std::string m_strBigFont; ///< GBK; the big font file of a shape-font style, else empty
@@ -60,5 +69,6 @@ using CDisplayList = std::vector<CPrimitive>;
 /// The box of all primitives; line widths count, coordinates that are no finite number don't.
 AcDbExtents ExtentsOf(const CDisplayList& list);
 
-/// True when the picture passes within distance (drawing units) of the point, seen from above.
+/// True when the picture passes within distance (drawing units) of the point, seen from above. A wide line
+/// fills its width, a text its rectangle.
 bool PassesNear(const CDisplayList& list, const AcGePoint3d& point, double distance);

@@ -1,0 +1,160 @@
+#include "platform/acad/db_database.h"
+
+#include "platform/acad/db_stub.h"
+#include "platform/acad/host_application.h"
+#include "platform/windows/code_page.h"
+
+#include <algorithm>
+#include <cmath>
+
+ACRX_DEFINE_DESC(AcDbDatabase, AcRxObject)
+
+namespace {
+
+/// Adds a closed record of the given name to a table that is open for writing.
+template <class T>
+AcDbObjectId AddNamed(AcDbSymbolTable& table, const ACHAR* name, T* pRecord) {
+    pRecord->setName(name);
+    AcDbObjectId id;
+    table.add(id, pRecord);
+    pRecord->close();
+    return id;
+}
+
+/// A new table, open for writing.
+template <class T>
+T* AddTable(AcDbDatabase& database, AcDbObjectId& idTable) {
+    T* const pTable = new T;
+    database.AddObject(idTable, pTable, AcDbObjectId::kNull);
+    return pTable;
+}
+
+} // namespace
+
+AcDbDatabase::AcDbDatabase() {
+    auto* const pBlocks = AddTable<AcDbBlockTable>(*this, m_idBlockTable);
+    auto* const pLayers = AddTable<AcDbLayerTable>(*this, m_idLayerTable);
+    auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, m_idLinetypeTable);
+    auto* const pStyles = AddTable<AcDbTextStyleTable>(*this, m_idTextStyleTable);
+    m_idModelSpace = AddNamed(*pBlocks, ACDB_MODEL_SPACE, new AcDbBlockTableRecord);
+    AddNamed(*pBlocks, ACDB_PAPER_SPACE, new AcDbBlockTableRecord);
+    AddNamed(*pLinetypes, L"ByLayer", new AcDbLinetypeTableRecord);
+    AddNamed(*pLinetypes, L"ByBlock", new AcDbLinetypeTableRecord);
+    AddNamed(*pLinetypes, L"Continuous", new AcDbLinetypeTableRecord);
+    m_idClayer = AddNamed(*pLayers, L"0", new AcDbLayerTableRecord);
+    auto* const pStandard = new AcDbTextStyleTableRecord;
+    pStandard->setFileName(L"txt.shx");
+    m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
+    for (AcDbObject* pTable : std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles})
+        pTable->close();
+    m_bModified = false;
+}
+
+AcDbDatabase::~AcDbDatabase() {
+    AcDbHostApplicationServices* const pServices = acdbHostApplicationServices();
+    if (pServices->workingDatabase() == this) pServices->setWorkingDatabase(nullptr);
+    // All objects go before the first stub does: an id held by one of them stays good until the last is gone.
+    for (auto stub = m_mapStubs.rbegin(); stub != m_mapStubs.rend(); ++stub)
+        stub->second->m_pObject.reset();
+}
+
+Acad::ErrorStatus AcDbDatabase::getBlockTable(AcDbBlockTable*& pTable, AcDb::OpenMode mode) {
+    return acdbOpenObject(pTable, m_idBlockTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getLayerTable(AcDbLayerTable*& pTable, AcDb::OpenMode mode) {
+    return acdbOpenObject(pTable, m_idLayerTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getLinetypeTable(AcDbLinetypeTable*& pTable, AcDb::OpenMode mode) {
+    return acdbOpenObject(pTable, m_idLinetypeTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& pTable, AcDb::OpenMode mode) {
+    return acdbOpenObject(pTable, m_idTextStyleTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::setLtscale(double scale) {
+    if (!std::isfinite(scale) || scale <= 0.0) return Acad::eInvalidInput;
+    if (scale == m_dLtscale) return Acad::eOk;
+    m_dLtscale = scale;
+    m_bModified = true;
+    return Acad::eOk;
+}
+
+template <class T>
+Acad::ErrorStatus AcDbDatabase::SetCurrent(AcDbObjectId& idCurrent, AcDbObjectId id) {
+    if (id.isNull()) return Acad::eNullObjectId;
+    if (id.database() != this) return Acad::eWrongDatabase;
+    if (!PeekObject<T>(id)) return Acad::eNotThatKindOfClass;
+    if (id.isErased()) return Acad::eWasErased;
+    if (id != idCurrent) m_bModified = true;
+    idCurrent = id;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::setCeltype(AcDbObjectId idLinetype) {
+    if (!idLinetype.isNull()) return SetCurrent<AcDbLinetypeTableRecord>(m_idCeltype, idLinetype);
+    if (!m_idCeltype.isNull()) m_bModified = true;
+    m_idCeltype.setNull();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::setClayer(AcDbObjectId idLayer) {
+    return SetCurrent<AcDbLayerTableRecord>(m_idClayer, idLayer);
+}
+
+Acad::ErrorStatus AcDbDatabase::setTextstyle(AcDbObjectId idStyle) {
+    return SetCurrent<AcDbTextStyleTableRecord>(m_idTextstyle, idStyle);
+}
+
+Acad::ErrorStatus AcDbDatabase::getFilename(std::wstring& fileName) const {
+    fileName = m_strFilename;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::getAcDbObjectId(AcDbObjectId& id, AcDbHandle handle) const {
+    const auto found = m_mapStubs.find(handle);
+    if (found == m_mapStubs.end()) return Acad::eUnknownHandle;
+    id = AcDbObjectId(found->second.get());
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner) {
+    if (!pObject) return Acad::eNullObjectPointer;
+    if (!pObject->m_id.isNull()) return Acad::eAlreadyInDb;
+    if (!idOwner.isNull() && idOwner.database() != this) return Acad::eWrongDatabase;
+    auto pStub = std::make_unique<CDbStub>();
+    pStub->m_pDatabase = this;
+    pStub->m_handle = AcDbHandle(m_nNextHandle++);
+    pStub->m_pObject.reset(pObject);
+    pStub->m_bWriting = pStub->m_bModified = true;
+    id = AcDbObjectId(pStub.get());
+    pObject->m_id = id;
+    pObject->m_idOwner = idOwner;
+    m_mapStubs.emplace(pStub->m_handle, std::move(pStub));
+    return Acad::eOk;
+}
+
+void AcDbDatabase::NoteChanged(CDbStub& stub) {
+    m_bModified = true;
+    if (stub.m_bNoted || !AcDbEntity::cast(stub.m_pObject.get())) return;
+    stub.m_bNoted = true;
+    m_arChanged.emplace_back(&stub);
+}
+
+std::vector<AcDbObjectId> AcDbDatabase::TakeChangedEntities() {
+    std::vector<AcDbObjectId> changed;
+    changed.swap(m_arChanged);
+    for (const AcDbObjectId& id : changed)
+        id.Stub()->m_bNoted = false;
+    std::erase_if(changed, [](const AcDbObjectId& id) { return id.isErased(); });
+    std::sort(changed.begin(), changed.end(),
+              [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
+    return changed;
+}
+
+std::string SymbolName(AcDbObjectId idRecord) {
+    const auto* const pRecord = PeekObject<AcDbSymbolTableRecord>(idRecord);
+    return pRecord ? GbkFromWide(pRecord->Name()) : std::string();
+}

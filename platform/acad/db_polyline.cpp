@@ -1,0 +1,114 @@
+#include "platform/acad/db_polyline.h"
+
+#include "platform/acad/plane_transform.h"
+#include "platform/acad/rx_class.h"
+
+ACRX_DEFINE_MEMBERS(AcDbPolyline, AcDbEntity, L"LWPOLYLINE")
+
+void AcDbPolyline::setClosed(Adesk::Boolean closed) {
+    assertWriteEnabled();
+    m_bClosed = closed != Adesk::kFalse;
+}
+
+Acad::ErrorStatus AcDbPolyline::addVertexAt(unsigned int index, const AcGePoint2d& point, double bulge,
+                                            double startWidth, double endWidth) {
+    assertWriteEnabled();
+    if (index > numVerts()) return Acad::eInvalidIndex;
+    m_arVertices.insert(m_arVertices.begin() + index, {point, bulge, startWidth, endWidth});
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::removeVertexAt(unsigned int index) {
+    assertWriteEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    m_arVertices.erase(m_arVertices.begin() + index);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::getPointAt(unsigned int index, AcGePoint2d& point) const {
+    assertReadEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    point = m_arVertices[index].m_pt;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::getPointAt(unsigned int index, AcGePoint3d& point) const {
+    AcGePoint2d flat;
+    const Acad::ErrorStatus status = getPointAt(index, flat);
+    if (status == Acad::eOk) point.set(flat.x, flat.y, 0.0);
+    return status;
+}
+
+Acad::ErrorStatus AcDbPolyline::setPointAt(unsigned int index, const AcGePoint2d& point) {
+    assertWriteEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    m_arVertices[index].m_pt = point;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::getBulgeAt(unsigned int index, double& bulge) const {
+    assertReadEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    bulge = m_arVertices[index].m_dBulge;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::setBulgeAt(unsigned int index, double bulge) {
+    assertWriteEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    m_arVertices[index].m_dBulge = bulge;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::getWidthsAt(unsigned int index, double& startWidth, double& endWidth) const {
+    assertReadEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    startWidth = m_arVertices[index].m_dStartWidth;
+    endWidth = m_arVertices[index].m_dEndWidth;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::setWidthsAt(unsigned int index, double startWidth, double endWidth) {
+    assertWriteEnabled();
+    if (index >= numVerts()) return Acad::eInvalidIndex;
+    m_arVertices[index].m_dStartWidth = startWidth;
+    m_arVertices[index].m_dEndWidth = endWidth;
+    return Acad::eOk;
+}
+
+void AcDbPolyline::reset(Adesk::Boolean reuse, unsigned int numVerts) {
+    assertWriteEnabled();
+    m_arVertices.clear();
+    if (!reuse) m_arVertices.shrink_to_fit();
+    m_arVertices.reserve(numVerts);
+}
+
+Adesk::Boolean AcDbPolyline::subWorldDraw(AcGiWorldDraw* pMode) {
+    assertReadEnabled();
+    pMode->rawGeometry()->pline(*this);
+    return Adesk::kTrue;
+}
+
+Acad::ErrorStatus AcDbPolyline::subGetGeomExtents(AcDbExtents& extents) const {
+    assertReadEnabled();
+    CPrimitive primitive;
+    primitive.m_shape = CPlinePrimitive{m_arVertices, m_bClosed};
+    const AcDbExtents box = ExtentsOf({primitive});
+    if (box.isEmpty()) return Acad::eInvalidExtents;
+    extents = box;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& xform) {
+    assertWriteEnabled();
+    const std::optional<CPlaneTransform> plane = PlaneTransform(xform);
+    if (!plane) return Acad::eNotApplicable;
+    for (CPolylineVertex& vertex : m_arVertices) {
+        const AcGePoint3d moved = AcGePoint3d(vertex.m_pt.x, vertex.m_pt.y, 0.0).transformBy(xform);
+        vertex.m_pt.set(moved.x, moved.y);
+        if (plane->m_bMirrored) vertex.m_dBulge = -vertex.m_dBulge;
+        if (vertex.m_dStartWidth > 0.0) vertex.m_dStartWidth *= plane->m_dScale;
+        if (vertex.m_dEndWidth > 0.0) vertex.m_dEndWidth *= plane->m_dScale;
+    }
+    return Acad::eOk;
+}

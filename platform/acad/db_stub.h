@@ -1,0 +1,25 @@
+#pragma once
+// What a drawing knows of one of its objects. For the drawing database itself only.
+
+#include "platform/acad/db_object.h"
+
+#include <memory>
+
+struct CDbStub {
+    AcDbDatabase* m_pDatabase = nullptr;
+    AcDbHandle m_handle;
+    std::unique_ptr<AcDbObject> m_pObject;
+    int m_nReaders = 0;
+    bool m_bWriting = false, m_bNotifying = false, m_bErased = false;
+    bool m_bModified = false; ///< changed in this opening
+    bool m_bNoted = false;    ///< stands in the drawing's list of changed entities
+
+    bool IsOpen() const { return m_nReaders > 0 || m_bWriting || m_bNotifying; }
+};
+
+/// The object itself in whatever state it is, for looking something up in passing; null for a null id and for
+/// an object of another class.
+template <class T>
+T* PeekObject(AcDbObjectId id) {
+    return id.isNull() ? nullptr : T::cast(id.Stub()->m_pObject.get());
+}

@@ -1,0 +1,142 @@
+#include "platform/acad/db_tables.h"
+
+#include "platform/acad/db_database.h"
+#include "platform/acad/db_stub.h"
+#include "platform/windows/code_page.h"
+
+#include <algorithm>
+#include <cmath>
+
+ACRX_DEFINE_MEMBERS(AcDbBlockTableRecord, AcDbSymbolTableRecord, L"BLOCK_RECORD")
+ACRX_DEFINE_MEMBERS(AcDbLayerTableRecord, AcDbSymbolTableRecord, L"LAYER")
+ACRX_DEFINE_MEMBERS(AcDbLinetypeTableRecord, AcDbSymbolTableRecord, L"LTYPE")
+ACRX_DEFINE_MEMBERS(AcDbTextStyleTableRecord, AcDbSymbolTableRecord, L"STYLE")
+ACRX_DEFINE_MEMBERS(AcDbBlockTable, AcDbSymbolTable, L"TABLE")
+ACRX_DEFINE_MEMBERS(AcDbLayerTable, AcDbSymbolTable, L"TABLE")
+ACRX_DEFINE_MEMBERS(AcDbLinetypeTable, AcDbSymbolTable, L"TABLE")
+ACRX_DEFINE_MEMBERS(AcDbTextStyleTable, AcDbSymbolTable, L"TABLE")
+
+Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbObjectId& id, AcDbEntity* pEntity) {
+    assertWriteEnabled();
+    if (!pEntity) return Acad::eNullObjectPointer;
+    if (!pEntity->objectId().isNull()) return Acad::eAlreadyInDb;
+    if (!database()) return Acad::eNoDatabase;
+    const Acad::ErrorStatus status = database()->AddObject(id, pEntity, objectId());
+    if (status != Acad::eOk) return status;
+    m_arIds.push_back(id);
+    if (pEntity->layerId().isNull()) pEntity->setLayer(database()->clayer());
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockTableRecord::appendAcDbEntity(AcDbEntity* pEntity) {
+    AcDbObjectId id;
+    return appendAcDbEntity(id, pEntity);
+}
+
+Acad::ErrorStatus AcDbBlockTableRecord::setOrigin(const AcGePoint3d& origin) {
+    assertWriteEnabled();
+    m_ptOrigin = origin;
+    return Acad::eOk;
+}
+
+std::vector<AcDbObjectId> AcDbBlockTableRecord::EntityIds(bool bWithErased) const {
+    assertReadEnabled();
+    std::vector<AcDbObjectId> ids = m_arIds;
+    if (!bWithErased) std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
+    return ids;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::SetColorIndex(Adesk::UInt16 color) {
+    assertWriteEnabled();
+    if (color == 0 || color >= g_nColorByLayer) return Acad::eInvalidInput;
+    m_nColorIndex = color;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(AcDbObjectId idLinetype) {
+    assertWriteEnabled();
+    if (!idLinetype.isNull() && !PeekObject<AcDbLinetypeTableRecord>(idLinetype))
+        return Acad::eNotThatKindOfClass;
+    if (!idLinetype.isNull() && database() && idLinetype.database() != database())
+        return Acad::eWrongDatabase;
+    m_idLinetype = idLinetype;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLinetypeTableRecord::SetPattern(const ACHAR* comments, std::vector<double> dashes) {
+    assertWriteEnabled();
+    if (!std::all_of(dashes.begin(), dashes.end(), [](double length) { return std::isfinite(length); }))
+        return Acad::eInvalidInput;
+    m_strComments = comments ? comments : L"";
+    m_arDashes = std::move(dashes);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setFont(const ACHAR* typeface, Adesk::Boolean bold,
+                                                    Adesk::Boolean italic, int charset, int pitchAndFamily) {
+    assertWriteEnabled();
+    if (!typeface || !*typeface) return Acad::eInvalidInput;
+    m_strTypeface = typeface;
+    m_strFileName.clear();
+    m_strBigFontFileName.clear();
+    m_bBold = bold ? Adesk::kTrue : Adesk::kFalse;
+    m_bItalic = italic ? Adesk::kTrue : Adesk::kFalse;
+    m_nCharset = charset;
+    m_nPitchAndFamily = pitchAndFamily;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::font(std::wstring& typeface, Adesk::Boolean& bold,
+                                                 Adesk::Boolean& italic, int& charset,
+                                                 int& pitchAndFamily) const {
+    assertReadEnabled();
+    typeface = m_strTypeface;
+    bold = m_bBold;
+    italic = m_bItalic;
+    charset = m_nCharset;
+    pitchAndFamily = m_nPitchAndFamily;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setFileName(const ACHAR* fileName) {
+    assertWriteEnabled();
+    if (!fileName) return Acad::eInvalidInput;
+    m_strFileName = fileName;
+    m_strTypeface.clear();
+    m_bBold = m_bItalic = Adesk::kFalse;
+    m_nCharset = m_nPitchAndFamily = 0;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setBigFontFileName(const ACHAR* fileName) {
+    assertWriteEnabled();
+    if (!fileName) return Acad::eInvalidInput;
+    m_strBigFontFileName = fileName;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setTextSize(double size) {
+    assertWriteEnabled();
+    if (!std::isfinite(size) || size < 0.0) return Acad::eInvalidInput;
+    m_dTextSize = size;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setXScale(double scale) {
+    assertWriteEnabled();
+    if (!std::isfinite(scale) || scale <= 0.0) return Acad::eInvalidInput;
+    m_dXScale = scale;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::setObliquingAngle(double radians) {
+    assertWriteEnabled();
+    if (!std::isfinite(radians)) return Acad::eInvalidInput;
+    m_dObliquingAngle = radians;
+    return Acad::eOk;
+}
+
+CTextFont AcDbTextStyleTableRecord::Font() const {
+    if (!m_strTypeface.empty()) return {GbkFromWide(m_strTypeface), std::string()};
+    return {GbkFromWide(m_strFileName), GbkFromWide(m_strBigFontFileName)};
+}

@@ -1,0 +1,145 @@
+#include "platform/acad/wide_format.h"
+
+#include "platform/mfc/format.h"
+#include "platform/windows/code_page.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <string_view>
+
+namespace {
+
+constexpr int g_nWidest = 4096; // what a mistaken width may cost
+
+struct CArguments {
+    std::va_list m_list;
+};
+
+struct CSpec {
+    std::string m_strFlags;
+    int m_nWidth = 0, m_nPrecision = -1;
+    std::string m_strSize; // h, l, ll, z or nothing
+    wchar_t m_cLetter = 0;
+};
+
+int ReadNumber(const ACHAR*& at, CArguments& arguments) {
+    if (*at == L'*') {
+        ++at;
+        return va_arg(arguments.m_list, int);
+    }
+    int number = 0;
+    for (; *at >= L'0' && *at <= L'9'; ++at)
+        number = std::min(number * 10 + static_cast<int>(*at - L'0'), g_nWidest);
+    return number;
+}
+
+void ReadSize(const ACHAR*& at, CSpec& spec) {
+    if (std::wcsncmp(at, L"I64", 3) == 0) {
+        spec.m_strSize = "ll";
+        at += 3;
+    }
+    for (; *at && std::wcschr(L"hlz", *at); ++at)
+        spec.m_strSize += static_cast<char>(*at);
+}
+
+/// Reads what follows a percent sign.
+CSpec ReadSpec(const ACHAR*& at, CArguments& arguments) {
+    CSpec spec;
+    for (; *at && std::wcschr(L"-+ #0", *at); ++at)
+        if (spec.m_strFlags.find(static_cast<char>(*at)) == std::string::npos)
+            spec.m_strFlags += static_cast<char>(*at);
+    const int width = ReadNumber(at, arguments);
+    if (width < 0 && spec.m_strFlags.find('-') == std::string::npos) spec.m_strFlags += '-';
+    spec.m_nWidth = width < -g_nWidest ? g_nWidest : std::min(width < 0 ? -width : width, g_nWidest);
+    if (*at == L'.') {
+        ++at;
+        spec.m_nPrecision = std::clamp(ReadNumber(at, arguments), -1, g_nWidest);
+    }
+    ReadSize(at, spec);
+    spec.m_cLetter = *at;
+    if (*at) ++at;
+    return spec;
+}
+
+/// The spec as a narrow format of one conversion.
+std::string Narrow(const CSpec& spec, const std::string& strSize) {
+    std::string format = "%" + spec.m_strFlags;
+    if (spec.m_nWidth) format += std::to_string(spec.m_nWidth);
+    if (spec.m_nPrecision >= 0) format += "." + std::to_string(spec.m_nPrecision);
+    return format + strSize + static_cast<char>(spec.m_cLetter);
+}
+
+void AppendPadded(std::wstring& text, std::wstring_view piece, const CSpec& spec) {
+    if (spec.m_nPrecision >= 0) piece = piece.substr(0, static_cast<std::size_t>(spec.m_nPrecision));
+    const auto width = static_cast<std::size_t>(spec.m_nWidth);
+    const std::size_t padding = width > piece.size() ? width - piece.size() : 0;
+    const bool bLeft = spec.m_strFlags.find('-') != std::string::npos;
+    if (!bLeft) text.append(padding, L' ');
+    text += piece;
+    if (bLeft) text.append(padding, L' ');
+}
+
+void AppendText(std::wstring& text, const CSpec& spec, CArguments& arguments) {
+    const bool bNarrow = spec.m_strSize == "h" || (spec.m_cLetter == L'S' && spec.m_strSize != "l");
+    if (bNarrow) {
+        const char* const pText = va_arg(arguments.m_list, const char*);
+        return AppendPadded(text, pText ? WideFromGbk(pText) : L"(null)", spec);
+    }
+    const wchar_t* const pText = va_arg(arguments.m_list, const wchar_t*);
+    AppendPadded(text, pText ? pText : L"(null)", spec);
+}
+
+void AppendCharacter(std::wstring& text, CSpec spec, CArguments& arguments) {
+    const auto character = static_cast<wchar_t>(va_arg(arguments.m_list, int));
+    spec.m_nPrecision = -1;
+    AppendPadded(text, std::wstring_view(&character, 1), spec);
+}
+
+std::string Integer(const CSpec& spec, CArguments& arguments) {
+    if (spec.m_strSize == "ll" || spec.m_strSize == "l" || spec.m_strSize == "z") {
+        // On Windows a long has 32 bits, here 64; callers hand over this system's long.
+        const long long value = va_arg(arguments.m_list, long long);
+        return FormatText(Narrow(spec, "ll").c_str(), value);
+    }
+    const int value = va_arg(arguments.m_list, int); // char and short come as int
+    return FormatText(Narrow(spec, spec.m_strSize == "h" ? "h" : "").c_str(), value);
+}
+
+/// False for a conversion that is none here.
+bool AppendConversion(std::wstring& text, const CSpec& spec, CArguments& arguments) {
+    if (!spec.m_cLetter) return false;
+    if (spec.m_cLetter == L'%') {
+        text += L'%';
+    } else if (spec.m_cLetter == L's' || spec.m_cLetter == L'S') {
+        AppendText(text, spec, arguments);
+    } else if (spec.m_cLetter == L'c' || spec.m_cLetter == L'C') {
+        AppendCharacter(text, spec, arguments);
+    } else if (std::wcschr(L"diuxXo", spec.m_cLetter)) {
+        text += WideFromGbk(Integer(spec, arguments));
+    } else if (std::wcschr(L"fFeEgG", spec.m_cLetter)) {
+        text += WideFromGbk(FormatText(Narrow(spec, "").c_str(), va_arg(arguments.m_list, double)));
+    } else if (spec.m_cLetter == L'p') {
+        text += WideFromGbk(FormatText("%p", va_arg(arguments.m_list, void*)));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::wstring FormatWideV(const ACHAR* format, std::va_list arguments) {
+    std::wstring text;
+    if (!format) return text;
+    CArguments left;
+    va_copy(left.m_list, arguments);
+    while (const ACHAR* const pPercent = std::wcschr(format, L'%')) {
+        text.append(format, pPercent);
+        format = pPercent + 1;
+        if (AppendConversion(text, ReadSpec(format, left), left)) continue;
+        format = pPercent;
+        break;
+    }
+    va_end(left.m_list);
+    return text + format;
+}
