@@ -17,8 +17,8 @@ std::optional<CPlaneArc> ArcOfBulge(const QPointF& from, const QPointF& to, doub
     if (!(std::abs(dBulge) > 1e-9) || !(dChord > 0.0)) return {};
     CPlaneArc arc;
     arc.m_dRadius = dChord * (1.0 + dBulge * dBulge) / (4.0 * std::abs(dBulge));
-    arc.m_center = (from + to) / 2.0 +
-                   QPointF(-chord.y(), chord.x()) * ((1.0 - dBulge * dBulge) / (4.0 * dBulge));
+    arc.m_center =
+        (from + to) / 2.0 + QPointF(-chord.y(), chord.x()) * ((1.0 - dBulge * dBulge) / (4.0 * dBulge));
     arc.m_u = (from - arc.m_center) / arc.m_dRadius;
     arc.m_v = QPointF(-arc.m_u.y(), arc.m_u.x());
     arc.m_dSweep = 4.0 * std::atan(dBulge);

@@ -4,8 +4,8 @@
 
 #include <optional>
 
-/// An arc in the plane: center + radius * (u cos t + v sin t), t from 0 to sweep. u and v are the axes as they
-/// are seen, so an arc that stands askew to the page is an elliptic one.
+/// An arc in the plane: center + radius * (u cos t + v sin t), t from 0 to sweep. u and v are the axes as
+/// they are seen, so an arc that stands askew to the page is an elliptic one.
 struct CPlaneArc {
     QPointF m_center, m_u, m_v;
     double m_dRadius = 0.0, m_dSweep = 0.0;
@@ -14,8 +14,8 @@ struct CPlaneArc {
     QPointF Tangent(double dAngle) const; ///< in the sense of growing angle; length as u and v have it
 };
 
-/// The arc between two points with a bulge (tangent of a quarter of the angle); none for a straight piece, or a
-/// bulge so small that it is one.
+/// The arc between two points with a bulge (tangent of a quarter of the angle); none for a straight piece, or
+/// a bulge so small that it is one.
 std::optional<CPlaneArc> ArcOfBulge(const QPointF& from, const QPointF& to, double dBulge);
 
 /// Appends the arc to a path whose end is the arc's start, as Bézier pieces of at most a quarter turn.

@@ -16,8 +16,8 @@ struct CStroke {
     CDashes m_dashes;
 };
 
-/// A text, laid out. It has a space of its own: millimetres, x along the base line, y down, the first character
-/// at the origin.
+/// A text, laid out. It has a space of its own: millimetres, x along the base line, y down, the first
+/// character at the origin.
 struct CTextRun {
     struct CPlaced {
         CGlyph m_glyph;

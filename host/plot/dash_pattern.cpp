@@ -37,6 +37,7 @@ CDashes MakeDashes(const std::vector<double>& arLinetype, double dScale) {
         dashes.m_dPhase = std::fmod(dashes.m_dPhase + dTotal - arPieces.front().m_dLength, dTotal);
         std::rotate(arPieces.begin(), arPieces.begin() + 1, arPieces.end());
     }
-    for (const CPiece& piece : arPieces) dashes.m_arLengths.push_back(piece.m_dLength);
+    for (const CPiece& piece : arPieces)
+        dashes.m_arLengths.push_back(piece.m_dLength);
     return dashes;
 }

@@ -4,6 +4,7 @@
 
 #include <QtGui/QFont>
 #include <QtGui/QFontDatabase>
+#include <QtGui/QPainterPath>
 
 #include <algorithm>
 #include <array>
@@ -12,8 +13,12 @@
 namespace {
 
 // Song type in the standard's own shapes for the common characters, the other for the rest of the code page.
-constexpr const char16_t* MAIN_FAMILY = u"AR PL SungtiL GB";
-constexpr const char16_t* REST_FAMILY = u"BabelStone Han";
+QString MainFamily() {
+    return u"AR PL SungtiL GB"_qs;
+}
+QString RestFamily() {
+    return u"BabelStone Han"_qs;
+}
 
 /// Names that stand for the main family: what Chinese drawings ask for and no Linux system has.
 bool IsMapped(const QString& strName) {
@@ -39,18 +44,22 @@ QRawFont MakeFont(const QString& strFamily) {
     return QRawFont::fromFont(font);
 }
 
-double EmPerCapitalOf(const QRawFont& font) {
-    const QList<quint32> arGlyphs = font.glyphIndexesForString(u"H"_qs);
-    const double dCapital = arGlyphs.isEmpty() ? 0.0 : font.boundingRect(arGlyphs.front()).height();
-    return dCapital > 0.0 ? CFonts::PixelSize / dCapital : 1.0;
-}
-
 } // namespace
 
 CFontChain::CFontChain(const QStringList& arFamilies)
     : m_arFamilies(arFamilies) {
-    for (const QString& strFamily : arFamilies) m_arFonts.push_back(MakeFont(strFamily));
-    m_dEmPerCapital = EmPerCapitalOf(m_arFonts.front());
+    for (const QString& strFamily : arFamilies)
+        m_arFonts.push_back(MakeFont(strFamily));
+    MeasureCapitals();
+}
+
+void CFontChain::MeasureCapitals() {
+    const QList<quint32> arGlyphs = m_arFonts.front().glyphIndexesForString(u"H"_qs);
+    if (arGlyphs.isEmpty() || arGlyphs.front() == 0) return;
+    const QRectF capital = m_arFonts.front().pathForGlyph(arGlyphs.front()).boundingRect();
+    if (!(capital.height() > 0.0)) return;
+    m_dEmPerCapital = CFonts::PixelSize / capital.height();
+    m_dCapitalLift = -capital.bottom() / capital.height();
 }
 
 bool CFontChain::Covers(char32_t character) const {
@@ -60,13 +69,11 @@ bool CFontChain::Covers(char32_t character) const {
 
 CGlyph CFontChain::Find(char32_t character) const {
     if (character < U' ' || character == 0x7F) return {};
-    const auto found = std::find_if(m_arFonts.begin(), m_arFonts.end(), [&](const QRawFont& font) {
-        return font.supportsCharacter(character);
-    });
+    const auto found = std::find_if(m_arFonts.begin(), m_arFonts.end(),
+                                    [&](const QRawFont& font) { return font.supportsCharacter(character); });
     CGlyph glyph;
     glyph.m_pFont = found != m_arFonts.end() ? &*found : &m_arFonts.front();
-    const QList<quint32> arGlyphs =
-        glyph.m_pFont->glyphIndexesForString(QString::fromUcs4(&character, 1));
+    const QList<quint32> arGlyphs = glyph.m_pFont->glyphIndexesForString(QString::fromUcs4(&character, 1));
     if (!arGlyphs.isEmpty() && found != m_arFonts.end()) glyph.m_nIndex = arGlyphs.front();
     const QList<QPointF> arAdvances =
         glyph.m_pFont->advancesForGlyphIndexes({glyph.m_nIndex}, QRawFont::UseDesignMetrics);
@@ -84,9 +91,9 @@ const CGlyph& CFontChain::Glyph(char32_t character) {
 CFonts::CFonts(CWarning warn)
     : m_fnWarn(std::move(warn))
     , m_arInstalled(QFontDatabase::families()) {
-    for (const char16_t* strFamily : {MAIN_FAMILY, REST_FAMILY})
-        if (Installed(QString(strFamily)).isEmpty())
-            Warn("Font " + GbkFromWide(QString(strFamily).toStdWString()) +
+    for (const QString& strFamily : {MainFamily(), RestFamily()})
+        if (Installed(strFamily).isEmpty())
+            Warn("Font " + GbkFromWide(strFamily.toStdWString()) +
                  " is not installed: Chinese texts may lack characters");
 }
 
@@ -108,7 +115,7 @@ CFontChain& CFonts::Chain(const CTextFont& font) {
     if (found != m_mapChains.end()) return found->second;
     QStringList arFamilies = {FamilyFor(font.m_strFont)};
     if (!font.m_strBigFont.empty()) arFamilies.append(FamilyFor(font.m_strBigFont));
-    arFamilies.append({FamilyFor({}), QString(REST_FAMILY)});
+    arFamilies.append({FamilyFor({}), RestFamily()});
     arFamilies.removeDuplicates();
     return m_mapChains.try_emplace(key, arFamilies).first->second;
 }
@@ -122,11 +129,12 @@ QString CFonts::Installed(const QString& strFamily) const {
 }
 
 QString CFonts::FamilyFor(const std::string& strName) {
-    const auto [position, bNew] = m_mapFamilies.try_emplace(strName, MAIN_FAMILY);
+    const auto [position, bNew] = m_mapFamilies.try_emplace(strName, MainFamily());
     if (!bNew) return position->second;
     const QString strWanted = QString::fromStdWString(WideFromGbk(strName));
     const QString strOwn = Installed(strWanted);
-    if (!strOwn.isEmpty()) position->second = strOwn;
+    if (!strOwn.isEmpty())
+        position->second = strOwn;
     else if (!IsMapped(strWanted))
         Warn("Font " + strName + " is not installed and was replaced");
     return position->second;

@@ -32,14 +32,18 @@ public:
     bool Covers(char32_t character) const;
     /// Size of the em square over the height of the first font's capitals.
     double EmPerCapital() const { return m_dEmPerCapital; }
+    /// How far the first font's capitals stand above its base line (fonts that centre them beside hanzi do),
+    /// in capital heights. Texts are lowered by it, so that capitals stand on the text's position.
+    double CapitalLift() const { return m_dCapitalLift; }
     const QStringList& Families() const { return m_arFamilies; }
 
 private:
     CGlyph Find(char32_t character) const;
+    void MeasureCapitals();
 
     QStringList m_arFamilies;
     std::vector<QRawFont> m_arFonts; // stays as constructed: glyphs point into it
-    double m_dEmPerCapital = 1.0;
+    double m_dEmPerCapital = 1.0, m_dCapitalLift = 0.0;
     std::unordered_map<char32_t, CGlyph> m_mapGlyphs;
 };
 

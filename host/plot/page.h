@@ -12,6 +12,7 @@ struct CPageBox {
 /// The page that is the extents.
 CPageBox PageOf(const AcDbExtents& extents);
 
-/// The smallest sheet of A4, A3, A2, A1, A0 (upright before lying) that holds the extents, these in its middle;
-/// what is too large for A0 gets a page of its own size. Empty extents get an A4 sheet around the origin.
+/// The smallest sheet of A4, A3, A2, A1, A0 (upright before lying) that holds the extents, these in its
+/// middle; what is too large for A0 gets a page of its own size. Empty extents get an A4 sheet around the
+/// origin.
 CPageBox SheetFor(const AcDbExtents& extents);

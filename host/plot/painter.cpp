@@ -124,5 +124,6 @@ private:
 void PaintDisplayList(const CDisplayList& list, const CPaintContext& context, CFonts& fonts,
                       CCanvas& canvas) {
     CPainter painter(context, fonts, canvas);
-    for (const CPrimitive& primitive : list) painter.Paint(primitive);
+    for (const CPrimitive& primitive : list)
+        painter.Paint(primitive);
 }

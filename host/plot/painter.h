@@ -19,7 +19,7 @@ struct CPaintContext {
     Adesk::UInt16 m_nLayerColor = 7; ///< what colour 256 (ByLayer) means
 };
 
-/// Paints the primitives in order, one drawing unit a millimetre, seen from above. What has a value that is no
-/// finite number, or lies kilometres off the page, is left out. The line types "ByLayer", "ByBlock",
+/// Paints the primitives in order, one drawing unit a millimetre, seen from above. What has a value that is
+/// no finite number, or lies kilometres off the page, is left out. The line types "ByLayer", "ByBlock",
 /// "Continuous" (in any case) and "" are continuous.
 void PaintDisplayList(const CDisplayList& list, const CPaintContext& context, CFonts& fonts, CCanvas& canvas);

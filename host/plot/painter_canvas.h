@@ -4,9 +4,9 @@
 
 class QPainter;
 
-/// Paints with a QPainter: on paper, picture or screen. The painter's transformation takes page millimetres to
-/// the device; it must outlive the canvas. Texts stay texts where the device keeps them (PDF), else they are
-/// filled as outlines, so that they stand where they were measured at any resolution.
+/// Paints with a QPainter: on paper, picture or screen. The painter's transformation takes page millimetres
+/// to the device; it must outlive the canvas. Texts stay texts where the device keeps them (PDF), else they
+/// are filled as outlines, so that they stand where they were measured at any resolution.
 class CPainterCanvas final : public CCanvas {
 public:
     explicit CPainterCanvas(QPainter& painter);

@@ -1,5 +1,7 @@
 #include "host/plot/pdf_page_box.h"
 
+#include <QtCore/QByteArrayList>
+
 #include <cmath>
 
 namespace {
@@ -30,11 +32,12 @@ bool ExactPageBoxes(QByteArray* pPdf, const std::vector<QSizeF>& arSizesMm) {
         const qsizetype nLength = pdf.indexOf(']', nAt) - nAt;
         const QList<QByteArray> arOld = pdf.mid(nAt, nLength).split(' ');
         const QSize whole = WholePointsOf(sizeMm);
-        if (arOld.size() != 2 || arOld[0].toDouble() != whole.width() || arOld[1].toDouble() != whole.height())
+        if (arOld.size() != 2 || arOld[0].toDouble() != whole.width() ||
+            arOld[1].toDouble() != whole.height())
             return false;
         const QSizeF exact = PointsOf(sizeMm);
-        QByteArray box = QByteArray::number(exact.width(), 'f', 4) + ' ' +
-                         QByteArray::number(exact.height(), 'f', 4);
+        QByteArray box =
+            QByteArray::number(exact.width(), 'f', 4) + ' ' + QByteArray::number(exact.height(), 'f', 4);
         if (box.size() > nLength) return false;
         pdf.replace(nAt, nLength, box.leftJustified(nLength, ' '));
     }

@@ -1,7 +1,7 @@
 #include "host/plot/plot.h"
 
-#include "host/plot/painter_canvas.h"
 #include "host/plot/paintable.h"
+#include "host/plot/painter_canvas.h"
 #include "host/plot/pdf_page_box.h"
 #include "host/plot/svg_canvas.h"
 #include "platform/windows/code_page.h"
@@ -105,7 +105,8 @@ QByteArray MakePng(const CPlotPage& page, const CPlotOptions& options, CFonts& f
     const double dDotsPerMm = options.m_dDotsPerInch / MM_PER_INCH;
     const QSizeF dots = SizeOf(page) * dDotsPerMm;
     constexpr double MOST_DOTS = 32767.0; // the raster's own limit
-    if (!(dots.width() >= 0.5) || !(dots.height() >= 0.5) || dots.width() > MOST_DOTS || dots.height() > MOST_DOTS)
+    if (!(dots.width() >= 0.5) || !(dots.height() >= 0.5) || dots.width() > MOST_DOTS ||
+        dots.height() > MOST_DOTS)
         throw CPlotError("the page is too large or too small for a picture at this resolution");
     QImage image(static_cast<int>(std::lround(dots.width())), static_cast<int>(std::lround(dots.height())),
                  QImage::Format_RGB32);

@@ -24,12 +24,14 @@ struct CPlotOptions {
     double m_dDotsPerInch = 150.0; ///< of a PNG
 };
 
-/// The file of a page (from 0): the path itself where there is one page or the file holds all, else with "-1",
+/// The file of a page (from 0): the path itself where there is one page or the file holds all, else with
+/// "-1",
 /// "-2", ... before its ending.
 std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t nPage, std::size_t nPages);
 
 /// Writes the pages at 1:1 by the path's ending: .pdf (one file), .svg or .png (a page a file). Each file is
 /// saved whole, or what stood there stays. False with *pError (GBK, without a line end) for another ending, a
-/// page without size or too large for a picture, and a file that can't be written. Needs Qt's graphics started.
+/// page without size or too large for a picture, and a file that can't be written. Needs Qt's graphics
+/// started.
 bool Plot(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts,
           const std::filesystem::path& path, std::string* pError);

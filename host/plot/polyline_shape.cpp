@@ -85,8 +85,10 @@ void AddOutline(QPainterPath& path, QPolygonF polygon) {
 void AddWide(QPainterPath& path, const CPiece& piece, double dFrom, double dTo) {
     const int nSteps = piece.Steps(dTo - dFrom);
     QPolygonF polygon;
-    for (int i = 0; i <= nSteps; ++i) polygon << piece.Edge(dFrom + (dTo - dFrom) * i / nSteps, 1.0);
-    for (int i = nSteps; i >= 0; --i) polygon << piece.Edge(dFrom + (dTo - dFrom) * i / nSteps, -1.0);
+    for (int i = 0; i <= nSteps; ++i)
+        polygon << piece.Edge(dFrom + (dTo - dFrom) * i / nSteps, 1.0);
+    for (int i = nSteps; i >= 0; --i)
+        polygon << piece.Edge(dFrom + (dTo - dFrom) * i / nSteps, -1.0);
     AddOutline(path, polygon);
 }
 
@@ -94,7 +96,8 @@ void AddWideDashes(QPainterPath& path, const CPiece& piece, const CDashes& dashe
     constexpr double MOST_DASHES = 10000.0;
     const double dLength = piece.PieceLength();
     double dPeriod = 0.0;
-    for (const double dOne : dashes.m_arLengths) dPeriod += dOne;
+    for (const double dOne : dashes.m_arLengths)
+        dPeriod += dOne;
     if (dashes.m_arLengths.empty() || dLength / dPeriod > MOST_DASHES) return AddWide(path, piece, 0.0, 1.0);
     double dAt = -dashes.m_dPhase;
     for (std::size_t i = 0; dAt < dLength; ++i) {

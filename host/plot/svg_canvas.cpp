@@ -5,14 +5,16 @@ namespace {
 /// Six decimals and no trailing zeros: a millionth of a millimetre is more than any device shows.
 QString Number(double dValue) {
     QString strValue = QString::number(dValue, 'f', 6);
-    while (strValue.endsWith(u'0')) strValue.chop(1);
+    while (strValue.endsWith(u'0'))
+        strValue.chop(1);
     if (strValue.endsWith(u'.')) strValue.chop(1);
     return strValue == u"-0"_qs ? u"0"_qs : strValue;
 }
 
 QString Numbers(std::initializer_list<double> arValues) {
     QStringList arTexts;
-    for (const double dValue : arValues) arTexts << Number(dValue);
+    for (const double dValue : arValues)
+        arTexts << Number(dValue);
     return arTexts.join(u' ');
 }
 
@@ -34,7 +36,8 @@ QString PathData(const QPainterPath& path) {
 
 QString FamilyList(const QStringList& arFamilies) {
     QStringList arQuoted;
-    for (const QString& strFamily : arFamilies) arQuoted << u"'%1'"_qs.arg(strFamily);
+    for (const QString& strFamily : arFamilies)
+        arQuoted << u"'%1'"_qs.arg(strFamily);
     return arQuoted.join(u", ");
 }
 
@@ -65,7 +68,8 @@ void CSvgCanvas::StrokePath(const QPainterPath& path, const CStroke& stroke) {
     m_writer.writeAttribute(u"stroke-linejoin"_qs, u"round"_qs);
     if (stroke.m_dashes.m_arLengths.empty()) return;
     QStringList arLengths;
-    for (const double dLength : stroke.m_dashes.m_arLengths) arLengths << Number(dLength);
+    for (const double dLength : stroke.m_dashes.m_arLengths)
+        arLengths << Number(dLength);
     m_writer.writeAttribute(u"stroke-dasharray"_qs, arLengths.join(u' '));
     m_writer.writeAttribute(u"stroke-dashoffset"_qs, Number(stroke.m_dashes.m_dPhase));
 }
@@ -79,8 +83,7 @@ void CSvgCanvas::DrawText(const CTextRun& run) {
     const QTransform& m = run.m_toPage;
     m_writer.writeStartElement(u"text"_qs);
     m_writer.writeAttribute(
-        u"transform"_qs,
-        u"matrix(%1)"_qs.arg(Numbers({m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy()})));
+        u"transform"_qs, u"matrix(%1)"_qs.arg(Numbers({m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy()})));
     m_writer.writeAttribute(u"font-family"_qs, FamilyList(run.m_arFamilies));
     m_writer.writeAttribute(u"font-size"_qs, Number(run.m_dEm));
     m_writer.writeAttribute(u"textLength"_qs, Number(run.m_dWidth));

@@ -11,7 +11,8 @@ bool IsUsableSize(double dSize) {
     return dSize > 0.0 && IsPaintable(dSize, 0.0);
 }
 
-/// From the text's space to the page: slant, width factor, then the base line's direction; y down on both sides.
+/// From the text's space to the page: slant, width factor, then the base line's direction; y down on both
+/// sides.
 std::optional<QTransform> Placement(const CTextPrimitive& text, const QPointF& position) {
     const AcGeVector3d along =
         text.m_vecDirection.isZeroLength() ? AcGeVector3d::kXAxis : text.m_vecDirection.normal();
@@ -39,7 +40,7 @@ std::optional<CTextRun> LayOut(const CTextPrimitive& text, const QPointF& positi
     CTextRun run;
     run.m_arFamilies = chain.Families();
     run.m_dEm = text.m_dHeight * chain.EmPerCapital();
-    run.m_toPage = *placement;
+    run.m_toPage = QTransform::fromTranslate(0.0, chain.CapitalLift() * text.m_dHeight) * *placement;
     for (const wchar_t wide : strText) {
         const auto character = static_cast<char32_t>(wide);
         const CGlyph& glyph = chain.Glyph(character);
