@@ -31,16 +31,15 @@ std::optional<unsigned> NumberOf(const std::string& strText) {
 
 // The control, which the user can reach.
 CWnd& Usable(const CModalWindow& window, const std::string& strNumber) {
-    const std::string controls = "; controls here: " + NamesOfItems(window);
     const auto number = NumberOf(strNumber);
+    std::string what = "no control " + strNumber;
     for (CWnd* pItem : number ? window.GetItems() : std::vector<CWnd*>()) {
         if (pItem->GetDlgCtrlID() != *number) continue;
-        if (!pItem->IsWindowVisible()) throw CBadDialogLine("control " + strNumber + " is hidden" + controls);
-        if (!pItem->IsWindowEnabled())
-            throw CBadDialogLine("control " + strNumber + " is disabled" + controls);
-        return *pItem;
+        if (pItem->IsWindowVisible() && pItem->IsWindowEnabled()) return *pItem;
+        what = "control " + strNumber + (pItem->IsWindowVisible() ? " is disabled" : " is hidden");
+        break;
     }
-    throw CBadDialogLine("no control " + strNumber + controls);
+    throw CBadDialogLine(what + "; controls here: " + NamesOfItems(window));
 }
 
 std::string NameOf(const CWnd& control) {

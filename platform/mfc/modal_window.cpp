@@ -12,7 +12,8 @@ std::chrono::year_month_day Today() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
-    return {std::chrono::year(local.tm_year + 1900), std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+    return {std::chrono::year(local.tm_year + 1900),
+            std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
             std::chrono::day(static_cast<unsigned>(local.tm_mday))};
 }
 
@@ -94,9 +95,9 @@ void CModalWindow::CreateFrom(const CDialogTemplate& dialog) {
     self.m_place = {0, 0, dialog.m_cx, dialog.m_cy};
     Attach(MakeControl(self, nullptr));
     for (const CControlTemplate& control : dialog.m_arControls) {
-        auto pItem = MakeHandle(control.m_kind);
-        pItem->m_pControl = MakeControl(control, this);
-        pItem->m_pControl->m_pHandle = pItem.get();
-        m_arItems.push_back(std::move(pItem));
+        m_arItems.push_back(MakeHandle(control.m_kind));
+        CWnd& item = *m_arItems.back();
+        item.m_pControl = MakeControl(control, this);
+        item.m_pControl->m_pHandle = &item;
     }
 }
