@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/console/script_answers.h"
+#include "host/console/words.h"
+#include "platform/acad/db_database.h"
+#include "platform/acad/host_application.h"
+
+#include <deque>
+#include <vector>
+
+/// Thrown by a prompt of a host command that the user answered with Escape; ends the command, not the run.
+struct CCommandCancelled {};
+
+/// What a running command reads: first the words that stood behind its name, then lines. The host's own
+/// commands are given each answer or an exception (CRunFailure, CCommandCancelled); a module is given a
+/// result.
+class CCommandInput {
+public:
+    explicit CCommandInput(CScriptAnswers& answers)
+        : m_answers(answers) {}
+
+    /// Begins a command with the words behind its name.
+    void Begin(std::vector<CWord> arWords);
+    /// Throws when words are left that the command didn't take.
+    void End() const;
+    bool WasCancelled() const { return m_bCancelled; } ///< a module's prompt was answered with Escape
+
+    // Prompts of the host's commands.
+    std::string Text(const std::string& strPrompt);      ///< without blanks around it, not empty
+    std::string WholeText(const std::string& strPrompt); ///< as it stands, may be empty
+    std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
+    double Number(const std::string& strPrompt);
+    AcDbObjectId Entity(AcDbDatabase& drawing, const std::string& strPrompt); ///< null when nothing is picked
+    std::vector<AcDbObjectId> Selection(AcDbDatabase& drawing, const std::string& strPrompt);
+
+    // Prompts of a module; a bad answer fails the run and cancels the prompt.
+    CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint);
+
+    void ForgetLastPoint() { m_ptLast = AcGePoint3d::kOrigin; }
+
+private:
+    std::optional<std::string> TakeWord();
+    std::string TakeLine(const std::string& strPrompt);
+
+    CScriptAnswers& m_answers;
+    std::deque<CWord> m_arWords;
+    AcGePoint3d m_ptLast; // relative points count from it
+    bool m_bCancelled = false;
+};

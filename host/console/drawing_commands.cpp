@@ -1,0 +1,62 @@
+#include "host/console/host_commands.h"
+#include "host/console/numbers.h"
+#include "host/console/texts.h"
+#include "platform/acad/editor.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+bool IsSingleDocument() {
+    resbuf value;
+    return acedGetVar(L"SDI", &value) == RTNORM && value.resval.rint != 0;
+}
+
+std::string ExtentsText(const AcDbEntity& entity) {
+    AcDbExtents extents;
+    if (entity.getGeomExtents(extents) != Acad::eOk) return "none";
+    const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
+    return NumberText(low.x) + "," + NumberText(low.y) + " to " + NumberText(high.x) + "," + NumberText(high.y);
+}
+
+} // namespace
+
+void CommandNew(CHost& host) {
+    host.m_input.End();
+    if (IsSingleDocument())
+        host.m_drawings.ReplaceCurrent();
+    else
+        host.m_drawings.AddNew();
+    host.m_input.ForgetLastPoint();
+}
+
+void CommandQuit(CHost& host) {
+    host.m_input.End();
+    host.m_bQuit = true;
+}
+
+void CommandErase(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), "Select entities: ");
+    host.m_input.End();
+    for (const AcDbObjectId& id : ids) {
+        const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
+        const Acad::ErrorStatus status = entity ? entity->erase() : entity.Status();
+        if (status != Acad::eOk)
+            throw CRunFailure(EXIT_NO_SUCH_ANSWER,
+                              "cannot erase #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
+    }
+}
+
+void CommandList(CHost& host) {
+    const AcDbObjectId id = host.m_input.Entity(host.Drawing(), "Select an entity: ");
+    host.m_input.End();
+    if (id.isNull()) return;
+    const CDbOpen<AcDbEntity> entity(id);
+    if (!entity)
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER,
+                          "cannot open #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(entity.Status()));
+    host.Print("#" + id.handle().Hex() + " " + Utf8FromWide(entity->isA()->name()));
+    host.Print("layer " + ToUtf8(entity->LayerName()));
+    host.Print("color " + std::to_string(entity->colorIndex()));
+    host.Print("linetype " + ToUtf8(entity->LinetypeName()));
+    host.Print("extents " + ExtentsText(*entity.Get()));
+}

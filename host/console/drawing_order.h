@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/acad/db_database.h"
+
+#include <vector>
+
+/// The living entities of model space in database order, which is the order of handles.
+std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase& drawing);
+
+/// The living entities of all blocks, model and paper space among them, in database order.
+std::vector<AcDbObjectId> AllEntities(AcDbDatabase& drawing);
+
+/// The living records of a symbol table, in order of adding.
+std::vector<AcDbObjectId> LivingRecords(AcDbObjectId idTable);

@@ -1,0 +1,115 @@
+#include "host/console/dump_entities.h"
+
+#include "host/console/dump_primitives.h"
+#include "host/console/texts.h"
+#include "platform/acad/db_polyline.h"
+#include "platform/acad/db_spline.h"
+#include "platform/acad/db_text.h"
+#include "platform/acad/rx_class.h"
+
+#include <memory>
+
+namespace {
+
+CJson JsonExtents(const AcDbEntity& entity) {
+    AcDbExtents extents;
+    if (entity.getGeomExtents(extents) != Acad::eOk) return nullptr;
+    const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
+    return CJson::array({JsonPoint(AcGePoint2d(low.x, low.y)), JsonPoint(AcGePoint2d(high.x, high.y))});
+}
+
+void AddText(const AcDbText& text, CJson* json) {
+    (*json)["position"] = JsonPoint(text.position());
+    (*json)["text"] = Utf8FromWide(text.textString());
+    (*json)["height"] = JsonNumber(text.height());
+    (*json)["rotation"] = JsonNumber(text.rotation());
+    (*json)["widthFactor"] = JsonNumber(text.widthFactor());
+    (*json)["oblique"] = JsonNumber(text.oblique());
+    (*json)["style"] = JsonText(text.StyleName());
+    // Texts of this platform stand left on their base line, which has no alignment point of its own.
+    (*json)["horizontalMode"] = 0;
+    (*json)["verticalMode"] = 0;
+    (*json)["alignment"] = JsonPoint(AcGePoint3d::kOrigin);
+    (*json)["extents"] = JsonExtents(text);
+}
+
+void AddPolyline(const AcDbPolyline& polyline, CJson* json) {
+    (*json)["vertices"] = JsonVertices(polyline.Vertices());
+    (*json)["closed"] = polyline.isClosed();
+}
+
+void AddSpline(const AcDbSpline& spline, CJson* json) {
+    (*json)["fitPoints"] = JsonPoints(spline.FitPoints());
+    (*json)["order"] = spline.Order();
+    (*json)["fitTolerance"] = JsonNumber(spline.FitTolerance());
+    // A spline here is known by its fit points alone.
+    (*json)["controlPoints"] = CJson::array();
+    (*json)["knots"] = CJson::array();
+}
+
+const CFieldTable* FieldsOf(const AcDbEntity& entity) {
+    return static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+}
+
+void AddFields(const AcDbEntity& entity, const CFieldTable& table, CJson* json) {
+    CJson fields = CJson::object();
+    for (const int row : table.DeclaredOrder())
+        fields[JsonText(table.Info(row).m_pName).get<std::string>()] = JsonField(table.Get(entity, row));
+    (*json)["fields"] = std::move(fields);
+}
+
+CJson JsonGrips(const AcDbEntity& entity) {
+    AcGePoint3dArray points;
+    AcDbIntArray osnapModes, geomIds;
+    if (entity.getGripPoints(points, osnapModes, geomIds) != Acad::eOk) return CJson::array();
+    return JsonPoints(points);
+}
+
+void AddClass(const AcDbEntity& entity, CJson* json) {
+    if (const auto* const pText = AcDbText::cast(&entity)) AddText(*pText, json);
+    if (const auto* const pPolyline = AcDbPolyline::cast(&entity)) AddPolyline(*pPolyline, json);
+    if (const auto* const pSpline = AcDbSpline::cast(&entity)) AddSpline(*pSpline, json);
+    if (const CFieldTable* const pFields = FieldsOf(entity)) AddFields(entity, *pFields, json);
+}
+
+void AddCommon(const AcDbEntity& entity, CJson* json) {
+    (*json)["class"] = Utf8FromWide(entity.isA()->name());
+    (*json)["dxfName"] = Utf8FromWide(entity.isA()->dxfName());
+    (*json)["layer"] = JsonText(entity.LayerName());
+    (*json)["color"] = entity.colorIndex();
+    (*json)["linetype"] = JsonText(entity.LinetypeName());
+    (*json)["xdata"] = CJson::object(); // no object of this platform carries any
+}
+
+// The parts belong to the caller of explode, also when it fails after making some.
+CJson JsonExplode(const AcDbEntity& entity) {
+    AcDbVoidPtrArray parts;
+    const Acad::ErrorStatus status = entity.explode(parts);
+    CJson list = CJson::array();
+    for (void* const pPart : parts) {
+        const std::unique_ptr<AcDbEntity> part(static_cast<AcDbEntity*>(pPart));
+        if (status != Acad::eOk) continue;
+        CJson& json = list.emplace_back(CJson::object());
+        AddCommon(*part, &json);
+        AddClass(*part, &json);
+    }
+    return list;
+}
+
+} // namespace
+
+bool HasFields(const AcDbEntity& entity) {
+    return FieldsOf(entity) != nullptr;
+}
+
+CJson JsonEntity(const AcDbEntity& entity) {
+    CJson json;
+    json["handle"] = entity.handle().Hex();
+    AddCommon(entity, &json);
+    AddClass(entity, &json);
+    if (HasFields(entity)) {
+        json["grips"] = JsonGrips(entity);
+        json["explode"] = JsonExplode(entity);
+    }
+    return json;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/console/command_input.h"
+#include "host/console/drawings.h"
+#include "host/console/modules.h"
+#include "host/console/script_answers.h"
+
+class CFonts;
+
+/// What a command of the host works on: one scripted run of the program.
+struct CHost {
+    CScriptAnswers& m_answers;
+    CCommandInput& m_input;
+    CDrawings& m_drawings;
+    CModules& m_modules;
+    CFonts& m_fonts;
+    bool m_bQuit = false;         ///< QUIT ran: the run is over
+    bool m_bModuleFailed = false; ///< a module did not load: the run ends with 4 if nothing else stops it
+
+    AcDbDatabase& Drawing() const { return m_drawings.Current(); }
+    void Print(const std::string& strLine) const { m_answers.Print(strLine); }
+};

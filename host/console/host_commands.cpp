@@ -1,0 +1,34 @@
+#include "host/console/host_commands.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array g_arCommands = {
+    CHostCommand{"NEW", CommandNew, "begins a new drawing"},
+    CHostCommand{"QUIT", CommandQuit, "ends the run"},
+    CHostCommand{"ERASE", CommandErase, "selection: erases the entities"},
+    CHostCommand{"LIST", CommandList, "entity: tells what it is"},
+    CHostCommand{"REGEN", CommandRegen, "draws all entities anew"},
+    CHostCommand{"SETVAR", CommandSetVar, "name [value]: shows or sets a system variable"},
+    CHostCommand{"MEASURE", CommandMeasure, "style height text: prints the width of the text's extents"},
+    CHostCommand{"LOADMODULE", CommandLoadModule, "path: loads a module"},
+    CHostCommand{"UNLOADMODULE", CommandUnloadModule, "path: unloads a module"},
+    CHostCommand{"COMMANDS", CommandCommands, "lists the commands of modules: group, name, flags"},
+    CHostCommand{"DUMP", CommandDump, "path: writes the drawing as JSON"},
+    CHostCommand{"PLOT", CommandPlot, "path: plots to .pdf, .svg or .png"},
+};
+
+} // namespace
+
+std::span<const CHostCommand> HostCommands() {
+    return g_arCommands;
+}
+
+const CHostCommand* FindHostCommand(std::string_view strName) {
+    const auto* const found = std::find_if(g_arCommands.begin(), g_arCommands.end(), [&](const CHostCommand& command) {
+        return strName == command.m_pName;
+    });
+    return found == g_arCommands.end() ? nullptr : found;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/console/host.h"
+
+#include <span>
+#include <string_view>
+
+/// A command of the host itself. Its function takes all its answers and the end of the line before it acts;
+/// it throws CRunFailure or CCommandCancelled.
+struct CHostCommand {
+    const char* m_pName; ///< upper case
+    void (*m_pFunction)(CHost& host);
+    const char* m_pHelp; ///< its answers and what it does, for --help
+};
+
+std::span<const CHostCommand> HostCommands();
+/// The command of that upper-case name; null if none.
+const CHostCommand* FindHostCommand(std::string_view strName);
+
+// drawing_commands.cpp
+void CommandNew(CHost& host);
+void CommandQuit(CHost& host);
+void CommandErase(CHost& host);
+void CommandList(CHost& host);
+// view_commands.cpp
+void CommandRegen(CHost& host);
+void CommandSetVar(CHost& host);
+void CommandMeasure(CHost& host);
+// module_commands.cpp
+void CommandLoadModule(CHost& host);
+void CommandUnloadModule(CHost& host);
+void CommandCommands(CHost& host);
+// output_commands.cpp
+void CommandDump(CHost& host);
+void CommandPlot(CHost& host);

@@ -1,0 +1,71 @@
+#include "host/console/script_answers.h"
+
+namespace {
+
+constexpr const char* COMMAND_PROMPT = "Command: ";
+
+} // namespace
+
+CScriptAnswers::CScriptAnswers(std::string strName, std::istream& input, CTextOutput& output, bool bAskFirst,
+                               bool bQuiet)
+    : m_strName(std::move(strName))
+    , m_input(input)
+    , m_output(output)
+    , m_bAskFirst(bAskFirst)
+    , m_bQuiet(bQuiet) {}
+
+std::optional<std::string> CScriptAnswers::Next(const std::string& strPrompt) {
+    if (HasFailed()) return std::nullopt;
+    ShowPrompt(strPrompt);
+    std::optional<std::string> answer = ReadLine();
+    if (answer) {
+        ShowAnswer(*answer);
+    } else {
+        m_output.BeginLine();
+        Fail(EXIT_INPUT_RAN_OUT, "the input ran out before an answer that is still needed");
+    }
+    return answer;
+}
+
+std::optional<std::string> CScriptAnswers::NextCommandLine() {
+    if (HasFailed()) return std::nullopt;
+    m_output.BeginLine();
+    if (m_bAskFirst) ShowPrompt(COMMAND_PROMPT);
+    std::optional<std::string> line = ReadLine();
+    if (!line) {
+        m_output.BeginLine();
+        return std::nullopt;
+    }
+    if (!m_bAskFirst) ShowPrompt(COMMAND_PROMPT);
+    ShowAnswer(*line);
+    return line;
+}
+
+void CScriptAnswers::ShowAnswered(const std::string& strPrompt, const std::string& strAnswer) {
+    ShowPrompt(strPrompt);
+    ShowAnswer(strAnswer);
+}
+
+void CScriptAnswers::Fail(CExitStatus status, const std::string& strWhat) {
+    if (!m_fault) m_fault = CRunFault{status, m_nLine, strWhat};
+}
+
+std::optional<std::string> CScriptAnswers::ReadLine() {
+    std::string line;
+    while (std::getline(m_input, line)) {
+        if (++m_nLine == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+        std::erase(line, '\r');
+        if (!line.starts_with(';')) return line;
+    }
+    return std::nullopt;
+}
+
+void CScriptAnswers::ShowPrompt(const std::string& strPrompt) {
+    if (m_bQuiet) return;
+    m_output.Write(strPrompt);
+    if (m_bAskFirst) m_output.Flush();
+}
+
+void CScriptAnswers::ShowAnswer(const std::string& strAnswer) {
+    if (!m_bQuiet) m_output.Write(strAnswer + "\n");
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "host/console/answers.h"
+#include "host/console/text_output.h"
+
+#include <istream>
+
+/// How a run failed, as `FILE:LINE: what` tells it.
+struct CRunFault {
+    CExitStatus m_status;
+    int m_nLine;
+    std::string m_strWhat;
+};
+
+/// The answers of a run from the lines of a script or of standard input. Comments are skipped, '\r' is
+/// dropped, a mark at the beginning too.
+class CScriptAnswers final : public CAnswers {
+public:
+    /// strName stands in messages. bAskFirst: the prompt is shown before the line is read, for an input
+    /// whose end isn't known beforehand. bQuiet leaves out prompts and the answers read.
+    CScriptAnswers(std::string strName, std::istream& input, CTextOutput& output, bool bAskFirst, bool bQuiet);
+
+    std::optional<std::string> Next(const std::string& strPrompt) override;
+    void Print(const std::string& strLine) override { m_output.WriteLine(strLine); }
+    void Fail(CExitStatus status, const std::string& strWhat) override;
+
+    /// The next line for the command prompt. Here the end of the input is the end of the run, no failure.
+    std::optional<std::string> NextCommandLine();
+    /// Shows an answer that stood on the command's line, as if it had been read at this prompt.
+    void ShowAnswered(const std::string& strPrompt, const std::string& strAnswer);
+
+    bool HasFailed() const { return m_fault.has_value(); }
+    const std::optional<CRunFault>& Fault() const { return m_fault; }
+    const std::string& Name() const { return m_strName; }
+    int Line() const { return m_nLine; } ///< number of the line read last, 0 before the first
+
+private:
+    std::optional<std::string> ReadLine();
+    void ShowPrompt(const std::string& strPrompt);
+    void ShowAnswer(const std::string& strAnswer);
+
+    std::string m_strName;
+    std::istream& m_input;
+    CTextOutput& m_output;
+    bool m_bAskFirst, m_bQuiet;
+    int m_nLine = 0;
+    std::optional<CRunFault> m_fault;
+};
