@@ -10,6 +10,18 @@
 #include "platform/ado/cursor.h"
 #include "platform/ado/value.h"
 
+/// A statement that gives no rows, prepared once and run many times. It holds its database open.
+class CDbStatement {
+public:
+    CDbStatement() = default;
+    CDbStatement(const CDbStatement&) = delete;
+    CDbStatement& operator=(const CDbStatement&) = delete;
+    virtual ~CDbStatement() = default;
+
+    /// Runs it with these values for its parameters; failures throw CDbError, and it can be run again.
+    virtual void Execute(std::span<const CDbValue> arParameters) = 0;
+};
+
 /// An open database. Statements and values are GBK, in the suite's SQL dialect; `?` stands for a parameter.
 /// Operations that fail throw CDbError. A cursor may outlive the object that gave it: it holds the database
 /// open itself.
@@ -25,6 +37,9 @@ public:
                                                            std::span<const CDbValue> arParameters) = 0;
     /// Runs a statement that gives none; the result is the number of rows it inserted, changed or deleted.
     virtual std::int64_t Execute(std::string_view strSql, std::span<const CDbValue> arParameters) = 0;
+
+    /// Prepares a statement that gives no rows.
+    [[nodiscard]] virtual std::unique_ptr<CDbStatement> Prepare(std::string_view strSql) = 0;
 
     /// A transaction takes the write lock at once; one that is neither committed nor rolled back is undone on
     /// close.

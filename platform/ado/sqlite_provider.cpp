@@ -22,6 +22,22 @@ std::string EngineStatement(std::string_view strSql) {
     return TranslateDialect(strUtf8);
 }
 
+class CSqlitePrepared : public CDbStatement {
+public:
+    CSqlitePrepared(CSqliteHandle pDatabase, std::string_view strSqlUtf8)
+        : m_statement(std::move(pDatabase), strSqlUtf8) {}
+
+    void Execute(std::span<const CDbValue> arParameters) override {
+        sqlite3_reset(m_statement.Get());
+        m_statement.Bind(arParameters);
+        while (m_statement.Step()) {}
+        sqlite3_reset(m_statement.Get());
+    }
+
+private:
+    CSqliteStatement m_statement;
+};
+
 class CSqliteConnection : public CDbConnection {
 public:
     explicit CSqliteConnection(CSqliteHandle pDatabase)
@@ -41,6 +57,10 @@ public:
         while (statement.Step()) {
         }
         return sqlite3_total_changes(m_pDatabase.get()) == nBefore ? 0 : sqlite3_changes(m_pDatabase.get());
+    }
+
+    std::unique_ptr<CDbStatement> Prepare(std::string_view strSql) override {
+        return std::make_unique<CSqlitePrepared>(m_pDatabase, EngineStatement(strSql));
     }
 
     void BeginTransaction() override { Execute("BEGIN IMMEDIATE"); }
