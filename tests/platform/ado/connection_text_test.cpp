@@ -1,0 +1,39 @@
+#include "platform/ado/connection_text.h"
+
+#include <gtest/gtest.h>
+
+TEST(ConnectionText, FindsAKeyInAnyCaseWithBlanksAround) {
+    const CConnectionText text(" provider = SQLite ; DATA SOURCE=/a b/c.db ");
+    EXPECT_EQ(text.Value("Provider"), "SQLite");
+    EXPECT_EQ(text.Value("Data Source"), "/a b/c.db");
+    EXPECT_EQ(text.Value("Uid"), "");
+}
+
+TEST(ConnectionText, KeepsSemicolonsInsideQuotesAndBraces) {
+    const CConnectionText text("Data Source='/a;b.db';Pwd={x;y};Uid=\"u;v\"");
+    EXPECT_EQ(text.Value("Data Source"), "/a;b.db");
+    EXPECT_EQ(text.Value("Pwd"), "{x;y}");
+    EXPECT_EQ(text.Value("Uid"), "u;v");
+}
+
+TEST(ConnectionText, TakesAnApostropheInsideAPathAsItStands) {
+    const CConnectionText text("Data Source=/o'neill/p.db;Provider=SQLite");
+    EXPECT_EQ(text.Value("Data Source"), "/o'neill/p.db");
+    EXPECT_EQ(text.Value("Provider"), "SQLite");
+}
+
+TEST(ConnectionText, TakesTheLastOfAKeyGivenTwice) {
+    EXPECT_EQ(CConnectionText("Uid=a;uid=b").Value("UID"), "b");
+}
+
+TEST(ConnectionText, HandsOnAllButOneKeyAsWritten) {
+    EXPECT_EQ(CConnectionText("Provider=ODBC;Driver={A;B};;Uid= u").Without("provider"),
+              "Driver={A;B};Uid= u");
+}
+
+TEST(ConnectionText, IgnoresEmptyPairsAndTakesAKeyWithoutValueAsEmpty) {
+    const CConnectionText text(";;Trusted;Data Source=");
+    EXPECT_EQ(text.Value("Trusted"), "");
+    EXPECT_EQ(text.Value("Data Source"), "");
+    EXPECT_EQ(text.Without("x"), "Trusted;Data Source=");
+}
