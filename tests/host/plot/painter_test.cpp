@@ -71,6 +71,35 @@ TEST_F(PaintDisplayListTest, DrawsAnArcOfRadiusZeroAsNothingMuch) {
         EXPECT_EQ(path.boundingRect().width(), 0.0);
 }
 
+TEST_F(PaintDisplayListTest, DrawsASplineAsOneCurveThroughItsFitPoints) {
+    CSplinePrimitive spline;
+    for (const auto& [x, y] : {std::pair(110.0, 290.0), {120.0, 260.0}, {120.0, 260.0}, {150.0, 250.0}})
+        spline.m_arFitPoints.emplace_back(x, y, 0.0);
+    Paint(Primitive(spline, 3));
+    ASSERT_EQ(m_canvas.m_arStrokes.size(), 1u);
+    const QPainterPath& path = m_canvas.m_arStrokes[0].first;
+    ASSERT_EQ(path.elementCount(), 7); // a start and two pieces: equal neighbours count once
+    EXPECT_TRUE(path.elementAt(1).isCurveTo());
+    const auto near = [](const QPointF& a, const QPointF& b) { return (a - b).manhattanLength() < 1e-9; };
+    EXPECT_TRUE(near(path.elementAt(0), {10, 10}));
+    EXPECT_TRUE(near(path.elementAt(3), {20, 40}));
+    EXPECT_TRUE(near(path.elementAt(6), {50, 50}));
+}
+
+TEST_F(PaintDisplayListTest, DrawsNoSplineThatHasNoCurve) {
+    CSplinePrimitive spline;
+    Paint(Primitive(spline));
+    spline.m_arFitPoints = {AcGePoint3d(110, 290, 0)};
+    Paint(Primitive(spline));
+    for (const double dBad :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e9}) {
+        spline.m_arFitPoints = {AcGePoint3d(110, 290, 0), AcGePoint3d(120, dBad, 0),
+                                AcGePoint3d(130, 290, 0)};
+        Paint(Primitive(spline));
+    }
+    EXPECT_TRUE(IsEmpty());
+}
+
 TEST_F(PaintDisplayListTest, KeepsTheBulgesSideThoughYIsTurned) {
     Paint(Primitive(CPlinePrimitive{{Vertex(110, 290, 1.0), Vertex(130, 290)}, false}));
     const QRectF box = m_canvas.m_arStrokes.at(0).first.boundingRect();
