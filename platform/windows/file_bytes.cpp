@@ -1,0 +1,85 @@
+#include "platform/windows/file_bytes.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+
+#include "platform/windows/descriptor.h"
+
+namespace {
+
+std::string FolderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+/// The file that a link leads to; the path itself where there is none yet.
+std::string LinkTarget(const std::string& path) {
+    std::array<char, PATH_MAX> real = {};
+    return realpath(path.c_str(), real.data()) ? std::string(real.data()) : path;
+}
+
+mode_t ModeFor(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
+bool WriteAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) return false;
+        if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+/// So that the new name itself survives a power cut; not every file system can.
+void FlushFolder(const std::string& folder) {
+    const CDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor) fsync(descriptor.Get());
+}
+
+} // namespace
+
+bool ReadFileWhole(const std::string& utf8Path, std::string* bytes) {
+    const CDescriptor descriptor(open(utf8Path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!descriptor) return false;
+    std::string result;
+    std::array<char, 65536> part = {};
+    for (;;) {
+        const ssize_t got = read(descriptor.Get(), part.data(), part.size());
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) return false;
+        if (got == 0) break;
+        result.append(part.data(), static_cast<std::size_t>(got));
+    }
+    *bytes = std::move(result);
+    return true;
+}
+
+bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes) {
+    const std::string target = LinkTarget(utf8Path);
+    const std::string folder = FolderOf(target);
+    std::string beside = (folder == "." ? std::string("./") : folder) + ".tervo-XXXXXX";
+    CDescriptor descriptor(mkostemp(beside.data(), O_CLOEXEC));
+    if (!descriptor) return false;
+    const bool written = WriteAll(descriptor.Get(), bytes) &&
+                         fchmod(descriptor.Get(), ModeFor(target)) == 0 && fsync(descriptor.Get()) == 0 &&
+                         descriptor.Close() && rename(beside.c_str(), target.c_str()) == 0;
+    if (!written) {
+        const int reason = errno;
+        unlink(beside.c_str());
+        errno = reason;
+        return false;
+    }
+    FlushFolder(folder);
+    return true;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Whole files by their file system (UTF-8) path.
+
+/// False when the file can't be read; *bytes is untouched then.
+bool ReadFileWhole(const std::string& utf8Path, std::string* bytes);
+
+/// Writes beside the target, flushes to the disk, then renames: a reader sees the old content or the new, and
+/// a failure (false, errno tells why) leaves the old. Keeps the mode of a file that is replaced, follows a
+/// link.
+bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes);

@@ -1,0 +1,122 @@
+#include "platform/windows/path.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "platform/acad/wide_names.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+bool IsSlash(std::string_view character) {
+    return character == "/" || character == "\\";
+}
+
+std::vector<std::string> Components(std::string_view path) {
+    std::vector<std::string> components;
+    std::string component;
+    for (std::size_t i = 0; i < path.size();) {
+        const int length = GbkCharLength(path.data() + i, path.data() + path.size());
+        const std::string_view character = path.substr(i, static_cast<std::size_t>(length));
+        i += character.size();
+        if (!IsSlash(character)) {
+            component += character;
+        } else if (!component.empty()) {
+            components.push_back(std::exchange(component, {}));
+        }
+    }
+    if (!component.empty()) components.push_back(component);
+    return components;
+}
+
+bool Exists(const std::string& utf8Path) {
+    struct stat status = {};
+    return stat(utf8Path.c_str(), &status) == 0;
+}
+
+/// Appends one name to the path in the spelling that the folder has; false when it isn't there.
+bool StepInto(const std::string& name, const std::string& utf8Name, std::string* utf8Path) {
+    const std::string start = utf8Path->empty() || utf8Path->back() == '/' ? *utf8Path : *utf8Path + '/';
+    *utf8Path = start + utf8Name;
+    if (Exists(*utf8Path)) return true;
+    for (const std::string& candidate : FileNames(start.empty() ? "." : start)) {
+        std::string spelling;
+        if (!SameFileName(candidate, name) || !GbkToUtf8(candidate, &spelling) || !Exists(start + spelling))
+            continue;
+        *utf8Path = start + spelling;
+        return true;
+    }
+    return false;
+}
+
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+} // namespace
+
+bool ResolvePath(std::string_view base, std::string_view path, std::string* utf8) {
+    const bool absolute = IsAbsolutePath(path);
+    std::vector<std::string> components = absolute ? std::vector<std::string>() : Components(base);
+    for (std::string& component : Components(path))
+        components.push_back(std::move(component));
+    std::string result = absolute || IsAbsolutePath(base) ? "/" : "";
+    bool exists = true;
+    for (const std::string& component : components) {
+        std::string name;
+        if (!GbkToUtf8(component, &name)) {
+            utf8->clear();
+            return false;
+        }
+        if (exists) {
+            exists = StepInto(component, name, &result);
+        } else {
+            result += '/' + name;
+        }
+    }
+    *utf8 = std::move(result);
+    return exists && !utf8->empty();
+}
+
+bool IsAbsolutePath(std::string_view path) {
+    return !path.empty() && IsSlash(path.substr(0, 1));
+}
+
+std::size_t LastSlash(std::string_view path) {
+    std::size_t found = std::string_view::npos;
+    for (std::size_t i = 0; i < path.size();) {
+        const int length = GbkCharLength(path.data() + i, path.data() + path.size());
+        if (IsSlash(path.substr(i, static_cast<std::size_t>(length)))) found = i;
+        i += static_cast<std::size_t>(length);
+    }
+    return found;
+}
+
+bool SameFileName(std::string_view left, std::string_view right) {
+    if (left == right) return true;
+    if (IsAscii(left) != IsAscii(right)) return false;
+    return SameName(WideFromGbk(left), WideFromGbk(right));
+}
+
+std::vector<std::string> FileNames(const std::string& utf8Folder) {
+    std::vector<std::pair<std::wstring, std::string>> names; // a name behind its capitals
+    const auto closeFolder = [](DIR* folder) { closedir(folder); };
+    const std::unique_ptr<DIR, decltype(closeFolder)> folder(opendir(utf8Folder.c_str()), closeFolder);
+    while (const dirent* entry = folder ? readdir(folder.get()) : nullptr) {
+        const std::string_view utf8 = entry->d_name;
+        std::string name;
+        if (utf8 == "." || utf8 == ".." || !Utf8ToGbk(utf8, &name)) continue;
+        names.emplace_back(UpperName(WideFromGbk(name)), name);
+    }
+    std::sort(names.begin(), names.end());
+    std::vector<std::string> result;
+    result.reserve(names.size());
+    for (auto& [capitals, name] : names)
+        result.push_back(std::move(name));
+    return result;
+}

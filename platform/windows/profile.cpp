@@ -1,0 +1,140 @@
+#include "platform/windows/profile.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "platform/windows/code_page.h"
+#include "platform/windows/descriptor.h"
+#include "platform/windows/file_bytes.h"
+#include "platform/windows/ini_text.h"
+#include "platform/windows/path.h"
+
+namespace {
+
+constexpr std::chrono::seconds LOCK_PATIENCE(10);
+constexpr std::chrono::milliseconds LOCK_PAUSE(5);
+
+CIniText ReadIni(const char* file) {
+    std::string path;
+    std::string bytes;
+    if (file && ResolvePath("", file, &path)) ReadFileWhole(path, &bytes);
+    return CIniText(bytes);
+}
+
+/// The value, or nothing; a character that the code page lacks is told.
+std::optional<std::string> ReadValue(const char* section, const char* key, const char* file) {
+    const CIniText ini = ReadIni(file);
+    std::optional<std::string> value = ini.Value(section, key);
+    if (!value && !ini.Refused().empty())
+        std::fprintf(stderr, "%s: [%s] %s: the system code page has no character %s\n", ToUtf8(file).c_str(),
+                     ToUtf8(section).c_str(), ToUtf8(key).c_str(), ini.Refused().c_str());
+    return value;
+}
+
+/// A cut text gives size - 1; where the cut left out half a character a zero stands in its place.
+DWORD CopyText(std::string_view text, char* buffer, DWORD size) {
+    std::fill_n(buffer, size, '\0');
+    GbkCopy(buffer, size, text);
+    return text.size() < size ? static_cast<DWORD>(text.size()) : size - 1;
+}
+
+DWORD CopyNames(const std::vector<std::string>& names, char* buffer, DWORD size) {
+    std::fill_n(buffer, size, '\0');
+    if (size < 2) return 0;
+    DWORD used = 0;
+    for (const std::string& name : names) {
+        const DWORD room = size - 1 - used; // the list's own zero stays
+        GbkCopy(buffer + used, room, name);
+        if (name.size() >= room) return size - 2;
+        used += static_cast<DWORD>(name.size()) + 1;
+    }
+    return used;
+}
+
+std::string_view WithoutTrailingBlanks(const char* text) {
+    const std::string_view whole = text ? text : "";
+    return whole.substr(0, whole.find_last_not_of(" \t") + 1);
+}
+
+bool IsStillTheFile(const CDescriptor& descriptor, const std::string& path) {
+    struct stat opened = {};
+    struct stat named = {};
+    return fstat(descriptor.Get(), &opened) == 0 && stat(path.c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+/// Opens (or makes) the file and locks it. Each writer puts a new file in its place, so a lock counts only
+/// while the locked file still has the name.
+CDescriptor LockFile(const std::string& path) {
+    const auto deadline = std::chrono::steady_clock::now() + LOCK_PATIENCE;
+    do {
+        CDescriptor descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+        if (!descriptor) return descriptor;
+        if (flock(descriptor.Get(), LOCK_EX | LOCK_NB) == 0) {
+            if (IsStillTheFile(descriptor, path)) return descriptor;
+        } else {
+            std::this_thread::sleep_for(LOCK_PAUSE);
+        }
+    } while (std::chrono::steady_clock::now() < deadline);
+    return {};
+}
+
+} // namespace
+
+DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer,
+                               DWORD size, const char* file) {
+    if (!buffer || !size) return 0;
+    if (!section || !key) {
+        const CIniText ini = ReadIni(file);
+        const std::vector<std::string> names = section ? ini.Keys(section) : ini.Sections();
+        return names.empty() ? CopyText(WithoutTrailingBlanks(defaultText), buffer, size)
+                             : CopyNames(names, buffer, size);
+    }
+    const std::optional<std::string> value = ReadValue(section, key, file);
+    return CopyText(value ? std::string_view(*value) : WithoutTrailingBlanks(defaultText), buffer, size);
+}
+
+UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValue, const char* file) {
+    const std::optional<std::string> value = section && key ? ReadValue(section, key, file) : std::nullopt;
+    if (!value || value->empty()) return static_cast<UINT>(defaultValue);
+    const bool negative = value->front() == '-';
+    std::uint32_t number = 0;
+    for (std::size_t i = negative || value->front() == '+' ? 1 : 0; i < value->size(); ++i) {
+        const char digit = (*value)[i];
+        if (digit < '0' || digit > '9') break;
+        number = number * 10 + static_cast<std::uint32_t>(digit - '0');
+    }
+    return negative ? 0U - number : number;
+}
+
+BOOL WritePrivateProfileStringA(const char* section, const char* key, const char* text, const char* file) {
+    std::string path;
+    if (!section || !file) return FALSE;
+    const bool exists = ResolvePath("", file, &path);
+    if (path.empty()) return FALSE;
+    if (!exists && !(key && text)) return TRUE; // nothing to remove, and no file to make for it
+    if (!CIniText("").Set(section, key ? key : "k", key && text ? text : "")) return FALSE;
+    const CDescriptor lock = LockFile(path);
+    std::string before;
+    if (!lock || !ReadFileWhole(path, &before)) return FALSE;
+    CIniText ini(before);
+    if (!key) {
+        ini.RemoveSection(section);
+    } else if (!text) {
+        ini.Remove(section, key);
+    } else if (!ini.Set(section, key, text)) {
+        return FALSE;
+    }
+    const std::string after = ini.Bytes();
+    return after == before || WriteFileWhole(path, after);
+}
