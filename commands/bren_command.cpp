@@ -1,0 +1,73 @@
+#include "commands/bren_command.h"
+
+#include "commands/sheet_maker.h"
+#include "commands/text_conversion.h"
+#include "data/project_context.h"
+#include "platform/acad/editor.h"
+#include "platform/acad/host_application.h"
+#include "platform/windows/profile.h"
+#include "ui/bren_dlg.h"
+#include "ui/resources.h"
+
+#include <array>
+
+namespace {
+void ForceMultiDocument() {
+    resbuf value;
+    value.restype = RTSHORT;
+    value.resval.rint = 0;
+    acedSetVar(L"SDI", &value);
+}
+
+CString ProjectNumber() {
+    std::array<char, 1024> buffer{};
+    GetPrivateProfileStringA("Project", "GCBH", "", buffer.data(), static_cast<DWORD>(buffer.size()), g_strProjectIni);
+    return buffer.data();
+}
+
+Adesk::Int32 ProjectStandard() {
+    return static_cast<Adesk::Int32>(GetPrivateProfileIntA("Project", "GCBZ", -1, g_strProjectIni));
+}
+
+/// The samples of one group: those of the chosen borehole, or an element of the all-samples list.
+CArray<QYPropty> GroupSamples(const CBRENDlg& dialog, int nGroup) {
+    if (dialog.AllSamples()) return dialog.m_arAll[nGroup].m_arQY;
+    CArray<QYPropty> samples;
+    for (int i = 0; i < dialog.m_saSelQY.GetSize(); i++)
+        samples.Add({dialog.m_strZKBH, dialog.m_saSelQY[i], dialog.m_saSelSYFF[i], dialog.m_saDepth[i],
+                     dialog.m_saWater[i], dialog.m_saIL[i], dialog.m_saIP[i], dialog.m_saLayer[i]});
+    return samples;
+}
+
+bool AskInsertionPoint(AcGePoint3d& ptPicked) {
+    ads_point point{0.0, 0.0, 0.0};
+    CString strPrompt;
+    strPrompt.Format("\r\n请指定三轴剪切曲线%s的左下插入点:", "BREN_");
+    if (acedGetPoint(nullptr, ToWide(strPrompt), point) == RTCAN) return false;
+    ptPicked.set(point[0], point[1], point[2]);
+    return true;
+}
+} // namespace
+
+void BrenCommand() {
+    ForceMultiDocument();
+    const int nGCSY = GetProjectIndex();
+    if (nGCSY < 0 || !CheckDataManager()) return;
+    const CString strGCBH = ProjectNumber();
+    const Adesk::Int32 nGCBZ = ProjectStandard();
+
+    const CTemporaryResourceOverride resources(ModuleResources());
+    CBRENDlg dialog("生成三轴剪切试验成果图", adsw_acadMainWnd());
+    dialog.m_nGCSY = nGCSY;
+    dialog.m_nGCBZ = nGCBZ;
+    if (dialog.DoModal() != IDOK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk) return;
+
+    AcDbDatabase* pDatabase = acdbHostApplicationServices()->workingDatabase();
+    const int nGroups = dialog.AllSamples() ? dialog.m_arAll.GetSize() : 1;
+    for (int nGroup = 0; nGroup < nGroups; nGroup++) {
+        AcGePoint3d ptPicked;
+        if (!AskInsertionPoint(ptPicked)) return;
+        CSheetMaker sheets(pDatabase, nGCSY, strGCBH, nGCBZ);
+        if (!sheets.PlaceGroup(GroupSamples(dialog, nGroup), ptPicked)) return;
+    }
+}
