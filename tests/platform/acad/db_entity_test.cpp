@@ -1,0 +1,86 @@
+#include "platform/acad/db_entity.h"
+
+#include "platform/acad/db_polyline.h"
+#include "platform/acad/display_recorder.h"
+#include "platform/acad/rx_class.h"
+#include "platform/acad/rx_registry.h"
+#include "tests/platform/acad/sample_entity.h"
+
+#include <gtest/gtest.h>
+
+TEST(AcDbEntity, BeginsByLayer) {
+    const AcDbPolyline polyline;
+    EXPECT_EQ(polyline.colorIndex(), 256);
+    EXPECT_EQ(polyline.LinetypeName(), "ByLayer");
+    EXPECT_EQ(polyline.LayerName(), "0");
+    EXPECT_EQ(polyline.Picture(), nullptr);
+}
+
+TEST(AcDbEntity, TakesColoursAndRecordsOfItsDrawingOnly) {
+    AcDbDatabase database, other;
+    CDbOpen<AcDbPolyline> polyline(Append(database, new AcDbPolyline), AcDb::kForWrite);
+    EXPECT_EQ(polyline->setColorIndex(2), Acad::eOk);
+    EXPECT_EQ(polyline->setColorIndex(257), Acad::eInvalidInput);
+    EXPECT_EQ(polyline->colorIndex(), 2);
+    const auto continuous = [](AcDbDatabase& drawing) {
+        AcDbObjectId id;
+        CDbOpen<AcDbLinetypeTable>(drawing.linetypeTableId())->getAt(L"Continuous", id);
+        return id;
+    };
+    EXPECT_EQ(polyline->setLinetype(continuous(database)), Acad::eOk);
+    EXPECT_EQ(polyline->setLinetype(continuous(other)), Acad::eWrongDatabase);
+    EXPECT_EQ(polyline->setLinetype(database.clayer()), Acad::eNotThatKindOfClass);
+    EXPECT_EQ(polyline->LinetypeName(), "Continuous");
+    EXPECT_EQ(polyline->setLinetype(AcDbObjectId::kNull), Acad::eOk);
+    EXPECT_EQ(polyline->LinetypeName(), "ByLayer");
+    EXPECT_EQ(polyline->setLayer(other.clayer()), Acad::eWrongDatabase);
+    EXPECT_EQ(polyline->setLayer(AcDbObjectId::kNull), Acad::eNullObjectId);
+    EXPECT_EQ(polyline->setLayer(database.textstyle()), Acad::eNotThatKindOfClass);
+}
+
+TEST(AcDbEntity, OfACustomClassExtendsAsFarAsThePictureItDrewLast) {
+    CSampleEntity entity;
+    AcDbExtents extents;
+    EXPECT_EQ(entity.getGeomExtents(extents), Acad::eInvalidExtents);
+    DrawEntity(entity);
+    ASSERT_EQ(entity.getGeomExtents(extents), Acad::eOk);
+    EXPECT_EQ(extents.maxPoint().x, 10.0);
+    entity.m_dLength = 30.0;
+    entity.getGeomExtents(extents);
+    EXPECT_EQ(extents.maxPoint().x, 10.0); // not drawn since
+    DrawEntity(entity);
+    entity.getGeomExtents(extents);
+    EXPECT_EQ(extents.maxPoint().x, 30.0);
+}
+
+TEST(AcDbEntity, OfACustomClassLeavesWhatItDoesNotKnow) {
+    CSampleEntity entity;
+    AcDbVoidPtrArray parts;
+    AcGePoint3dArray grips;
+    AcDbIntArray osnapModes, geomIds;
+    EXPECT_EQ(entity.transformBy(AcGeMatrix3d()), Acad::eNotApplicable);
+    EXPECT_EQ(entity.explode(parts), Acad::eNotApplicable);
+    EXPECT_EQ(entity.getGripPoints(grips, osnapModes, geomIds), Acad::eNotApplicable);
+    EXPECT_EQ(entity.moveGripPointsAt(geomIds, AcGeVector3d::kXAxis), Acad::eNotApplicable);
+}
+
+TEST(AcDbEntity, IsAParentThatModulesDeriveTheirClassesFrom) {
+    AcRxClass* const pClass = newAcRxClass(L"CEntityOfModule", L"AcDbEntity", 31, 55, 255);
+    ASSERT_NE(pClass, nullptr);
+    EXPECT_EQ(pClass->myParent(), AcDbEntity::desc());
+    EXPECT_TRUE(pClass->isDerivedFrom(AcDbObject::desc()));
+    deleteAcRxClass(pClass);
+    auto* const pClasses = static_cast<AcRxDictionary*>(acrxSysRegistry()->at(ACDB_CLASS_DICTIONARY));
+    for (const wchar_t* name : {L"AcDbText", L"AcDbPolyline", L"AcDbSpline", L"AcDbBlockTableRecord"}) {
+        auto* const pPlatform = static_cast<AcRxClass*>(pClasses->at(name));
+        ASSERT_NE(pPlatform, nullptr);
+        AcRxObject* const pObject = pPlatform->create();
+        ASSERT_NE(pObject, nullptr);
+        EXPECT_EQ(pObject->isA(), pPlatform);
+        EXPECT_STRNE(pPlatform->dxfName(), L"");
+        delete pObject;
+    }
+    EXPECT_EQ(AcDbEntity::desc()->create(), nullptr);
+    EXPECT_STREQ(AcDbPolyline::desc()->dxfName(), L"LWPOLYLINE");
+    EXPECT_EQ(AcDbEntity::cast(nullptr), nullptr);
+}
