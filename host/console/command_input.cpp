@@ -23,7 +23,8 @@ void CCommandInput::Begin(std::vector<CWord> arWords) {
 
 void CCommandInput::End() const {
     if (m_arWords.empty()) return;
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, "more on the line than the command takes: " + m_arWords[0].m_strText);
+    throw CRunFailure(EXIT_NO_SUCH_ANSWER,
+                      "more on the line than the command takes: " + m_arWords[0].m_strText);
 }
 
 std::optional<std::string> CCommandInput::TakeWord() {

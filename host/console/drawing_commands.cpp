@@ -15,7 +15,8 @@ std::string ExtentsText(const AcDbEntity& entity) {
     AcDbExtents extents;
     if (entity.getGeomExtents(extents) != Acad::eOk) return "none";
     const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
-    return NumberText(low.x) + "," + NumberText(low.y) + " to " + NumberText(high.x) + "," + NumberText(high.y);
+    return NumberText(low.x) + "," + NumberText(low.y) + " to " + NumberText(high.x) + "," +
+           NumberText(high.y);
 }
 
 } // namespace
@@ -52,8 +53,8 @@ void CommandList(CHost& host) {
     if (id.isNull()) return;
     const CDbOpen<AcDbEntity> entity(id);
     if (!entity)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER,
-                          "cannot open #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(entity.Status()));
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "cannot open #" + id.handle().Hex() + ": " +
+                                                   Acad::ErrorStatusText(entity.Status()));
     host.Print("#" + id.handle().Hex() + " " + Utf8FromWide(entity->isA()->name()));
     host.Print("layer " + ToUtf8(entity->LayerName()));
     host.Print("color " + std::to_string(entity->colorIndex()));

@@ -15,9 +15,9 @@ public:
     CDrawings& operator=(const CDrawings&) = delete;
 
     AcDbDatabase& Current() const { return *m_arDrawings[m_nCurrent].m_pDatabase; }
-    void AddNew();                ///< opens a new drawing, which becomes the current one
-    void ReplaceCurrent();        ///< a new drawing in place of the current one
-    std::string Name() const;     ///< the current drawing's file path, else "Drawing1" and so on; UTF-8
+    void AddNew();                 ///< opens a new drawing, which becomes the current one
+    void ReplaceCurrent();         ///< a new drawing in place of the current one
+    std::string Name() const;      ///< the current drawing's file path, else "Drawing1" and so on; UTF-8
     std::string FolderGbk() const; ///< folder of the current drawing's file; empty without a file
     std::vector<std::string> ChangedNames() const; ///< of all drawings changed and not saved
 

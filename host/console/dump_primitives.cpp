@@ -8,7 +8,9 @@ namespace {
 struct CShapeToJson {
     CJson& m_json;
 
-    void operator()(const CPolylinePrimitive& shape) const { m_json["points"] = JsonPoints(shape.m_arPoints); }
+    void operator()(const CPolylinePrimitive& shape) const {
+        m_json["points"] = JsonPoints(shape.m_arPoints);
+    }
     void operator()(const CPlinePrimitive& shape) const {
         m_json["vertices"] = JsonVertices(shape.m_arVertices);
         m_json["closed"] = shape.m_bClosed;

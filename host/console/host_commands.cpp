@@ -27,8 +27,8 @@ std::span<const CHostCommand> HostCommands() {
 }
 
 const CHostCommand* FindHostCommand(std::string_view strName) {
-    const auto* const found = std::find_if(g_arCommands.begin(), g_arCommands.end(), [&](const CHostCommand& command) {
-        return strName == command.m_pName;
-    });
+    const auto* const found =
+        std::find_if(g_arCommands.begin(), g_arCommands.end(),
+                     [&](const CHostCommand& command) { return strName == command.m_pName; });
     return found == g_arCommands.end() ? nullptr : found;
 }

@@ -1,23 +1,39 @@
 #include "host/console/dump.h"
 #include "host/console/host_commands.h"
-#include "host/console/plot_pages.h"
-#include "host/console/whole_file.h"
+#include "host/console/plot_drawing.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/file_bytes.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
+
+namespace {
+
+bool IsPlotFormat(const std::string& strPath) {
+    std::string ending = std::filesystem::path(strPath).extension().string();
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](unsigned char c) { return std::tolower(c); });
+    constexpr std::array<const char*, 3> endings = {".pdf", ".svg", ".png"};
+    return std::find(endings.begin(), endings.end(), ending) != endings.end();
+}
+
+} // namespace
 
 void CommandDump(CHost& host) {
     const std::string path = host.m_input.Text("File: ");
     host.m_input.End();
-    std::string reason;
-    if (!WriteWholeFile(path, DumpDrawing(host.Drawing(), host.m_drawings.Name()), &reason))
-        throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be written: " + reason);
+    if (!WriteFileWhole(path, DumpDrawing(host.Drawing(), host.m_drawings.Name())))
+        throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be written: " + std::strerror(errno));
 }
 
 void CommandPlot(CHost& host) {
     const std::string path = host.m_input.Text("File: ");
     host.m_input.End();
+    if (!IsPlotFormat(path)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .pdf, .svg or .png: " + path);
     std::string reason;
     if (!PlotDrawing(host.Drawing(), host.m_fonts, path, &reason))
-        throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be plotted: " + ToUtf8(reason));
+        throw CRunFailure(EXIT_FILE_FAILED, ToUtf8(reason));
 }

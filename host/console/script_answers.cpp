@@ -1,5 +1,7 @@
 #include "host/console/script_answers.h"
 
+#include <iostream>
+
 namespace {
 
 constexpr const char* COMMAND_PROMPT = "Command: ";
@@ -48,6 +50,11 @@ void CScriptAnswers::ShowAnswered(const std::string& strPrompt, const std::strin
 
 void CScriptAnswers::Fail(CExitStatus status, const std::string& strWhat) {
     if (!m_fault) m_fault = CRunFault{status, m_nLine, strWhat};
+}
+
+void CScriptAnswers::Report(int nLine, const std::string& strWhat) const {
+    m_output.Flush();
+    std::cerr << m_strName << ":" << nLine << ": " << strWhat << std::endl;
 }
 
 std::optional<std::string> CScriptAnswers::ReadLine() {

@@ -18,7 +18,8 @@ class CScriptAnswers final : public CAnswers {
 public:
     /// strName stands in messages. bAskFirst: the prompt is shown before the line is read, for an input
     /// whose end isn't known beforehand. bQuiet leaves out prompts and the answers read.
-    CScriptAnswers(std::string strName, std::istream& input, CTextOutput& output, bool bAskFirst, bool bQuiet);
+    CScriptAnswers(std::string strName, std::istream& input, CTextOutput& output, bool bAskFirst,
+                   bool bQuiet);
 
     std::optional<std::string> Next(const std::string& strPrompt) override;
     void Print(const std::string& strLine) override { m_output.WriteLine(strLine); }
@@ -29,10 +30,13 @@ public:
     /// Shows an answer that stood on the command's line, as if it had been read at this prompt.
     void ShowAnswered(const std::string& strPrompt, const std::string& strAnswer);
 
+    /// Tells standard error `FILE:LINE: what`, after all that was printed so far.
+    void Report(int nLine, const std::string& strWhat) const;
+    void ReportHere(const std::string& strWhat) const { Report(m_nLine, strWhat); }
+    void Flush() const { m_output.Flush(); }
+
     bool HasFailed() const { return m_fault.has_value(); }
     const std::optional<CRunFault>& Fault() const { return m_fault; }
-    const std::string& Name() const { return m_strName; }
-    int Line() const { return m_nLine; } ///< number of the line read last, 0 before the first
 
 private:
     std::optional<std::string> ReadLine();

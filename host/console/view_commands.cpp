@@ -80,8 +80,8 @@ void CommandMeasure(CHost& host) {
     const std::string text = host.m_input.WholeText("Text: ");
     host.m_input.End();
     if (height <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a height is above 0");
-    const AcDbText measured(AcGePoint3d::kOrigin, WideAnswer(text).c_str(), FindTextStyle(host.Drawing(), style),
-                            height);
+    const AcDbText measured(AcGePoint3d::kOrigin, WideAnswer(text).c_str(),
+                            FindTextStyle(host.Drawing(), style), height);
     AcDbExtents extents; // a text without a character has none
     const bool bShown = measured.getGeomExtents(extents) == Acad::eOk;
     host.Print(NumberText(bShown ? extents.maxPoint().x - extents.minPoint().x : 0.0));

@@ -1,0 +1,116 @@
+#include "host/console/scripted_run.h"
+
+#include "host/console/command_runner.h"
+#include "host/console/dialog_presenter.h"
+#include "host/console/script_editor.h"
+#include "host/plot/fonts.h"
+#include "host/plot/headless.h"
+#include "platform/windows/code_page.h"
+#include "platform/windows/installation_root.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+constexpr const char* STANDARD_INPUT = "-";
+constexpr const char* NO_MODULE = "none";
+
+/// The fonts that measure and paint, registered as the text metrics while they live.
+class CRegisteredFonts {
+public:
+    explicit CRegisteredFonts(CTextOutput& output)
+        : m_fonts([&output](const std::string& strText) { output.WriteLine(ToUtf8(strText)); }) {
+        SetTextMetrics(&m_fonts);
+    }
+    ~CRegisteredFonts() { SetTextMetrics(nullptr); }
+    CRegisteredFonts(const CRegisteredFonts&) = delete;
+    CRegisteredFonts& operator=(const CRegisteredFonts&) = delete;
+    CFonts& Fonts() { return m_fonts; }
+
+private:
+    CFonts m_fonts;
+};
+
+class CRegisteredDialogs {
+public:
+    explicit CRegisteredDialogs(CAnswers& answers)
+        : m_presenter(answers) {
+        SetDialogPresenter(&m_presenter);
+    }
+    ~CRegisteredDialogs() { SetDialogPresenter(nullptr); }
+    CRegisteredDialogs(const CRegisteredDialogs&) = delete;
+    CRegisteredDialogs& operator=(const CRegisteredDialogs&) = delete;
+
+private:
+    CConsoleDialogPresenter m_presenter;
+};
+
+void LoadAtStart(CHost& host, const std::string& strModule) {
+    if (strModule == NO_MODULE) return;
+    const std::string name = strModule.empty() ? g_szDefaultModule : strModule;
+    std::string reason;
+    if (host.m_modules.Load(name, &reason)) return;
+    host.m_bModuleFailed = true;
+    std::cerr << "tvcad: module " << name << " did not load: " << reason << std::endl;
+}
+
+// What is told at the end, and the status that goes with it.
+int Finish(const CHost& host) {
+    if (const std::optional<CRunFault>& fault = host.m_answers.Fault()) {
+        host.m_answers.Report(fault->m_nLine, fault->m_strWhat);
+        return fault->m_status;
+    }
+    if (!host.m_bQuit) // QUIT discards them knowingly
+        for (const std::string& strName : host.m_drawings.ChangedNames())
+            std::cerr << "tvcad: " << strName << " was changed and is not saved" << std::endl;
+    return host.m_bModuleFailed ? EXIT_FILE_FAILED : EXIT_DONE;
+}
+
+int RunFrom(std::istream& input, const CProgramOptions& options, const std::string& strRootGbk) {
+    CTextOutput output;
+    CScriptAnswers answers(options.m_strScript, input, output, options.m_strScript == STANDARD_INPUT,
+                           options.m_bQuiet);
+    StartHeadlessQt();
+    CRegisteredFonts fonts(output);
+    const CRegisteredDialogs dialogs(answers);
+    CModules modules;
+    int nStatus = EXIT_DONE;
+    {
+        CDrawings drawings;
+        CCommandInput commandInput(answers);
+        const CScriptEditor editor(output, commandInput, drawings, strRootGbk);
+        CHost host{answers, commandInput, drawings, modules, fonts.Fonts()};
+        LoadAtStart(host, options.m_strModule);
+        RunCommands(host);
+        output.Flush();
+        nStatus = Finish(host);
+    }
+    modules.UnloadAll(); // after the drawings: their entities' code is in the modules
+    output.Flush();
+    return nStatus;
+}
+
+} // namespace
+
+int RunScript(const CProgramOptions& options) {
+    SetInstallationRoot(options.m_strRoot);
+    std::string strRootGbk, refused;
+    if (!Utf8ToGbk(InstallationRoot(), &strRootGbk, &refused)) {
+        std::cerr << "tvcad: the system code page lacks the character " << refused << " of the root "
+                  << InstallationRoot() << std::endl;
+        return EXIT_BAD_USAGE;
+    }
+    if (options.m_strScript == STANDARD_INPUT) return RunFrom(std::cin, options, strRootGbk);
+    std::ifstream script(options.m_strScript, std::ios::binary);
+    // A folder opens, but gives nothing.
+    if (!script || (script.peek() == std::ifstream::traits_type::eof() && !script.eof())) {
+        std::cerr << "tvcad: " << options.m_strScript << " cannot be read: " << std::strerror(errno)
+                  << std::endl;
+        return EXIT_FILE_FAILED;
+    }
+    script.clear();
+    return RunFrom(script, options, strRootGbk);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "host/console/program_options.h"
+
+/// Runs a script to its end and gives the program's exit status. Failures are told on standard error.
+int RunScript(const CProgramOptions& options);
