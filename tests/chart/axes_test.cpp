@@ -1,0 +1,148 @@
+#include "chart/axes.h"
+
+#include "drawing/styles.h"
+#include "drawing/world_sink.h"
+#include "chart/chart_entity.h"
+#include "platform/acad/display_recorder.h"
+#include "tests/support/drawing.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+CAxes Frame() {
+    return {{100, 50, 0}, 4, 6, 1.0, 20.0, 10, 10, "XX", "YY", false, 0.5, AcDbObjectId::kNull};
+}
+
+CDisplayList Draw(const CAxes& axes) {
+    CBRENChart chart;
+    CDisplayRecorder recorder(chart);
+    SetupChartTextStyle(g_ChartTextStyle);
+    CWorldSink sink(&recorder, 0, 3);
+    DescribeChartAxes(sink, axes, g_axesWorldForm);
+    return recorder.Take();
+}
+
+std::vector<std::string> Texts(const CDisplayList& list) {
+    std::vector<std::string> texts;
+    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(list)) texts.push_back(text.m_strText);
+    return texts;
+}
+} // namespace
+
+TEST(ChartAxes, OverrunTheGridByAThirdOfACell) {
+    const CTestDrawing drawing;
+    const auto lines = Shapes<CPlinePrimitive>(Draw(Frame()));
+    ASSERT_EQ(lines.size(), 4U + 4U + 6U);
+    EXPECT_EQ(lines[0].m_arVertices[0].m_pt.x, 100.0);
+    EXPECT_EQ(lines[0].m_arVertices[1].m_pt.x, 100.0 + (6 + 0.3333333333333333) * 10);
+    EXPECT_EQ(lines[0].m_arVertices[0].m_dStartWidth, -1.0);
+    EXPECT_EQ(lines[2].m_arVertices[1].m_pt.y, 50.0 + (4 + 0.3333333333333333) * 10);
+}
+
+TEST(ChartAxes, EndInArrowsThatTaper) {
+    const CTestDrawing drawing;
+    const auto lines = Shapes<CPlinePrimitive>(Draw(Frame()));
+    const CPolylineVertex& from = lines[1].m_arVertices[0];
+    const CPolylineVertex& to = lines[1].m_arVertices[1];
+    EXPECT_EQ(from.m_dStartWidth, 1.0);
+    EXPECT_EQ(from.m_dEndWidth, 0.0);
+    EXPECT_EQ(to.m_pt.x - from.m_pt.x, 3.0);
+    EXPECT_EQ(lines[3].m_arVertices[1].m_pt.y - lines[3].m_arVertices[0].m_pt.y, 3.0);
+}
+
+TEST(ChartAxes, DrawNoGridLineWhereTheAxisStands) {
+    const CTestDrawing drawing;
+    const auto lines = Shapes<CPlinePrimitive>(Draw(Frame()));
+    EXPECT_EQ(lines[4].m_arVertices[0].m_pt.y, 60.0);
+    EXPECT_EQ(lines[7].m_arVertices[1].m_pt.y, 90.0);
+    EXPECT_EQ(lines[7].m_arVertices[1].m_pt.x, 160.0);
+    EXPECT_EQ(lines[8].m_arVertices[0].m_pt.x, 110.0);
+    EXPECT_EQ(lines[13].m_arVertices[1].m_pt.x, 160.0);
+}
+
+TEST(ChartAxes, WithoutRowsAndColumnsKeepAxesAndOneZero) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_nRows = axes.m_nCols = 0;
+    const CDisplayList list = Draw(axes);
+    EXPECT_EQ(Shapes<CPlinePrimitive>(list).size(), 4U);
+    EXPECT_EQ(Texts(list), (std::vector<std::string>{"0", "XX", "YY"}));
+    EXPECT_EQ(Shapes<CPlinePrimitive>(list)[0].m_arVertices[1].m_pt.x, 100.0 + 0.3333333333333333 * 10);
+}
+
+TEST(ChartAxes, WithSevenColumnsLabelOneCellPastTheGrid) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_nRows = 0;
+    axes.m_nCols = 7;
+    const CDisplayList list = Draw(axes);
+    EXPECT_EQ(Texts(list), (std::vector<std::string>{"2", "4", "6", "8", "0", "XX", "YY"}));
+    const double dWidth = 0.8 * 2.5 * 0.7;
+    EXPECT_DOUBLE_EQ(Shapes<CTextPrimitive>(list)[3].m_ptPosition.x, 100.0 + 80.0 - dWidth / 2);
+    EXPECT_EQ(Shapes<CTextPrimitive>(list)[3].m_ptPosition.y, 45.0);
+}
+
+TEST(ChartAxes, WithSevenRowsLabelNotTheTopLine) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_nRows = 7;
+    axes.m_nCols = 0;
+    const CDisplayList list = Draw(axes);
+    EXPECT_EQ(Texts(list), (std::vector<std::string>{"0", "40", "80", "120", "XX", "YY"}));
+    const auto texts = Shapes<CTextPrimitive>(list);
+    for (int i = 0; i < 4; i++) EXPECT_EQ(texts[static_cast<std::size_t>(i)].m_ptPosition.y, 50.0 + 20.0 * i);
+    EXPECT_DOUBLE_EQ(texts[1].m_ptPosition.x, 100.0 - 2.0 - 2 * 0.8 * 2.5 * 0.7);
+}
+
+TEST(ChartAxes, WriteUpToTwoDecimalsAndLeaveOtherLabelsEmpty) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_nRows = 0;
+    axes.m_nCols = 8;
+    axes.m_dStepX = 0.25;
+    EXPECT_EQ(Texts(Draw(axes)), (std::vector<std::string>{"0.5", "1", "1.5", "2", "0", "XX", "YY"}));
+    axes.m_dStepX = 0.1; // the sum of three steps is 0.6000000000000001
+    const CDisplayList list = Draw(axes);
+    EXPECT_EQ(Texts(list), (std::vector<std::string>{"0.2", "0.4", "", "0.8", "0", "XX", "YY"}));
+    EXPECT_EQ(Shapes<CTextPrimitive>(list)[2].m_ptPosition.x, 160.0); // the empty label has its place
+}
+
+TEST(ChartAxes, CentreTheirTitles) {
+    const CTestDrawing drawing;
+    const auto texts = Shapes<CTextPrimitive>(Draw(Frame()));
+    const CTextPrimitive& x = texts[texts.size() - 2];
+    const CTextPrimitive& y = texts.back();
+    const double dWidth = 2 * 0.8 * 2.5 * 0.7;
+    EXPECT_DOUBLE_EQ(x.m_ptPosition.x, 100.0 + 30.0 - dWidth / 2);
+    EXPECT_EQ(x.m_ptPosition.y, 40.0);
+    EXPECT_EQ(x.m_vecDirection.x, 1.0);
+    EXPECT_EQ(y.m_ptPosition.x, 90.0);
+    EXPECT_DOUBLE_EQ(y.m_ptPosition.y, 50.0 + 20.0 - dWidth / 2);
+    EXPECT_EQ(y.m_vecDirection.y, 1.0);
+    EXPECT_EQ(y.m_dHeight, 2.5);
+    EXPECT_EQ(y.m_dTracking, 80.0);
+    EXPECT_EQ(y.m_nLength, -1);
+}
+
+TEST(ChartAxes, SetSubscriptsAlongTheVerticalTitle) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_bSubscripts = true;
+    const auto texts = Shapes<CTextPrimitive>(Draw(axes));
+    const CTextPrimitive& title = texts[texts.size() - 3];
+    const CTextPrimitive& one = texts[texts.size() - 2];
+    const CTextPrimitive& three = texts.back();
+    EXPECT_EQ(one.m_strText, "1");
+    EXPECT_EQ(three.m_strText, "3");
+    EXPECT_DOUBLE_EQ(one.m_ptPosition.y - title.m_ptPosition.y, 16.1);
+    EXPECT_DOUBLE_EQ(three.m_ptPosition.y - one.m_ptPosition.y, 5.3);
+    EXPECT_EQ(one.m_dHeight, 1.0);
+    EXPECT_EQ(one.m_vecDirection.y, 1.0);
+    EXPECT_EQ(g_ChartTextStyle.textSize(), 1.0); // every later user sets its own
+}
+
+TEST(AxisLabel, IsEmptyForWhatIsNoNumberOrTooLarge) {
+    EXPECT_TRUE(AxisLabel(1e10).IsEmpty());
+    EXPECT_TRUE(AxisLabel(0.125).IsEmpty());
+    EXPECT_TRUE(AxisLabel(-0.25) == "-0.25");
+}

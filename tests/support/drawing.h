@@ -1,0 +1,44 @@
+#pragma once
+// A working drawing and fixed text widths for tests of what is drawn.
+
+#include "platform/acad/db_database.h"
+#include "platform/acad/host_application.h"
+#include "platform/acad/text_metrics.h"
+
+/// Every byte of a text is 0.8 of its height wide: a width that tests can compute by hand.
+class CFixedMetrics final : public CTextMetrics {
+public:
+    double AdvanceWidth(const CTextFont&, const std::string& strText) override {
+        return 0.8 * static_cast<double>(strText.size());
+    }
+};
+
+/// A drawing in force, a line type file that holds "Dashed2", and fixed text widths, for the length of a test. What
+/// the module prints is kept.
+class CTestDrawing final : public CEditorHost {
+public:
+    CTestDrawing();
+    ~CTestDrawing() override;
+    CTestDrawing(const CTestDrawing&) = delete;
+    CTestDrawing& operator=(const CTestDrawing&) = delete;
+
+    AcDbDatabase& Database() { return m_database; }
+    std::string m_strPrinted; ///< GBK
+    bool m_bHasLinetypeFile = true;
+
+    void Print(const std::string& strText) override { m_strPrinted += strText; }
+    CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
+    std::string FindFile(const std::string& strName) override;
+
+private:
+    CFixedMetrics m_metrics;
+    AcDbDatabase m_database;
+};
+
+/// Primitives of one kind, in the order drawn.
+template <class T> std::vector<T> Shapes(const CDisplayList& list) {
+    std::vector<T> shapes;
+    for (const CPrimitive& primitive : list)
+        if (const T* pShape = std::get_if<T>(&primitive.m_shape)) shapes.push_back(*pShape);
+    return shapes;
+}
