@@ -116,20 +116,20 @@ TEST_F(SqliteFunctions, NaturalOrderEqualsASortByItsThreeKeys) {
     CRows arExpected;
     for (const auto& [strHole, strSample] : arPairs)
         arExpected.push_back(strHole + "|" + strSample);
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select * from t order by ") + kNaturalOrder), arExpected);
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select * from t order by ").append(kNaturalOrder)), arExpected);
 }
 
 TEST_F(SqliteFunctions, NaturalOrderPutsTenBehindNineAndLettersBehindDigits) {
     m_pDatabase->Execute("create table t(ZKBH text, QYBH text)");
     m_pDatabase->Execute(
         "insert into t values('A1','1'),('10','1'),('ZK10','1'),('9','1'),('ZK9','1'),('1-2','1')");
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ") + kNaturalOrder),
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(kNaturalOrder)),
               (CRows{"1-2", "9", "10", "A1", "ZK9", "ZK10"}));
 }
 
 TEST_F(SqliteFunctions, ThirdKeyComparesByCodePointWhateverTheColumnSays) {
     m_pDatabase->Execute("create table t(ZKBH text collate nocase, QYBH text)");
     m_pDatabase->Execute("insert into t values('b','1'),('B','1'),('a','1'),('_','1')");
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ") + kNaturalOrder),
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(kNaturalOrder)),
               (CRows{"B", "_", "a", "b"}));
 }
