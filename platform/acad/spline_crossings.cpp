@@ -211,13 +211,15 @@ private:
 
     /// Follows a curve from u (forward or back), where it is near the other at v, until it is off it.
     CLeaving Leave(const CBezierChain& curve, double u, double direction, const CBezierChain& other,
-                   double v) const {
+                   double v) {
         constexpr double longest = 0.01; // of the curve's size; nearer for longer is a common stretch
         const AcGePoint2d start = curve.At(u);
-        for (double step = g_dFirstStep; true; step *= 2.0) {
-            const double next = std::clamp(u + direction * step, 0.0, curve.End());
+        double step = g_dFirstStep, next = u;
+        while (--m_nSteps > 0) {
+            next = std::clamp(next + direction * step, 0.0, curve.End());
             const AcGePoint2d point = curve.At(next);
             v = other.Project(v, point);
+            step = std::min(2.0 * step, PieceStep(curve, next, other, v));
             const AcGePoint2d foot = other.At(v);
             const bool bOtherEnds = v <= 0.0 || v >= other.End();
             if (foot.distanceTo(point) > m_dTolerance / 2.0) {
@@ -229,6 +231,14 @@ private:
             if (bEnds || point.distanceTo(start) > longest * curve.Box().Size())
                 return {false, next, v, false};
         }
+        return {false, next, v, false};
+    }
+
+    /// The step on a curve that is no longer than a piece of either: the foot is sought downhill, and must
+    /// not be lost.
+    static double PieceStep(const CBezierChain& curve, double u, const CBezierChain& other, double v) {
+        const double pace = curve.Derivative(u).length(), otherPace = other.Derivative(v).length();
+        return pace > otherPace ? std::max(otherPace / pace, g_dFirstStep) : 1.0;
     }
 
     /// How far left of b (negative: right) a runs at u; v is moved to the foot.
@@ -328,7 +338,7 @@ private:
 
     const CBezierChain &m_a, &m_b;
     double m_dTolerance;
-    long long m_nBudget = g_nBudget;
+    long long m_nBudget = g_nBudget, m_nSteps = g_nBudget;
     std::vector<CContact> m_arContacts;
     std::vector<CMeeting> m_arFound;
 };

@@ -11,10 +11,6 @@ namespace {
 
 constexpr int g_nWidest = 4096; // what a mistaken width may cost
 
-struct CArguments {
-    std::va_list m_list;
-};
-
 struct CSpec {
     std::string m_strFlags;
     int m_nWidth = 0, m_nPrecision = -1;
@@ -22,10 +18,10 @@ struct CSpec {
     wchar_t m_cLetter = 0;
 };
 
-int ReadNumber(const ACHAR*& at, CArguments& arguments) {
+int ReadNumber(const ACHAR*& at, std::va_list* arguments) {
     if (*at == L'*') {
         ++at;
-        return va_arg(arguments.m_list, int);
+        return va_arg(*arguments, int);
     }
     int number = 0;
     for (; *at >= L'0' && *at <= L'9'; ++at)
@@ -43,7 +39,7 @@ void ReadSize(const ACHAR*& at, CSpec& spec) {
 }
 
 /// Reads what follows a percent sign.
-CSpec ReadSpec(const ACHAR*& at, CArguments& arguments) {
+CSpec ReadSpec(const ACHAR*& at, std::va_list* arguments) {
     CSpec spec;
     for (; *at && std::wcschr(L"-+ #0", *at); ++at)
         if (spec.m_strFlags.find(static_cast<char>(*at)) == std::string::npos)
@@ -79,34 +75,34 @@ void AppendPadded(std::wstring& text, std::wstring_view piece, const CSpec& spec
     if (bLeft) text.append(padding, L' ');
 }
 
-void AppendText(std::wstring& text, const CSpec& spec, CArguments& arguments) {
+void AppendText(std::wstring& text, const CSpec& spec, std::va_list* arguments) {
     const bool bNarrow = spec.m_strSize == "h" || (spec.m_cLetter == L'S' && spec.m_strSize != "l");
     if (bNarrow) {
-        const char* const pText = va_arg(arguments.m_list, const char*);
+        const char* const pText = va_arg(*arguments, const char*);
         return AppendPadded(text, pText ? WideFromGbk(pText) : L"(null)", spec);
     }
-    const wchar_t* const pText = va_arg(arguments.m_list, const wchar_t*);
+    const wchar_t* const pText = va_arg(*arguments, const wchar_t*);
     AppendPadded(text, pText ? pText : L"(null)", spec);
 }
 
-void AppendCharacter(std::wstring& text, CSpec spec, CArguments& arguments) {
-    const auto character = static_cast<wchar_t>(va_arg(arguments.m_list, int));
+void AppendCharacter(std::wstring& text, CSpec spec, std::va_list* arguments) {
+    const auto character = static_cast<wchar_t>(va_arg(*arguments, int));
     spec.m_nPrecision = -1;
     AppendPadded(text, std::wstring_view(&character, 1), spec);
 }
 
-std::string Integer(const CSpec& spec, CArguments& arguments) {
+std::string Integer(const CSpec& spec, std::va_list* arguments) {
     if (spec.m_strSize == "ll" || spec.m_strSize == "l" || spec.m_strSize == "z") {
         // On Windows a long has 32 bits, here 64; callers hand over this system's long.
-        const long long value = va_arg(arguments.m_list, long long);
+        const long long value = va_arg(*arguments, long long);
         return FormatText(Narrow(spec, "ll").c_str(), value);
     }
-    const int value = va_arg(arguments.m_list, int); // char and short come as int
+    const int value = va_arg(*arguments, int); // char and short come as int
     return FormatText(Narrow(spec, spec.m_strSize == "h" ? "h" : "").c_str(), value);
 }
 
 /// False for a conversion that is none here.
-bool AppendConversion(std::wstring& text, const CSpec& spec, CArguments& arguments) {
+bool AppendConversion(std::wstring& text, const CSpec& spec, std::va_list* arguments) {
     if (!spec.m_cLetter) return false;
     if (spec.m_cLetter == L'%') {
         text += L'%';
@@ -117,9 +113,9 @@ bool AppendConversion(std::wstring& text, const CSpec& spec, CArguments& argumen
     } else if (std::wcschr(L"diuxXo", spec.m_cLetter)) {
         text += WideFromGbk(Integer(spec, arguments));
     } else if (std::wcschr(L"fFeEgG", spec.m_cLetter)) {
-        text += WideFromGbk(FormatText(Narrow(spec, "").c_str(), va_arg(arguments.m_list, double)));
+        text += WideFromGbk(FormatText(Narrow(spec, "").c_str(), va_arg(*arguments, double)));
     } else if (spec.m_cLetter == L'p') {
-        text += WideFromGbk(FormatText("%p", va_arg(arguments.m_list, void*)));
+        text += WideFromGbk(FormatText("%p", va_arg(*arguments, void*)));
     } else {
         return false;
     }
@@ -131,15 +127,15 @@ bool AppendConversion(std::wstring& text, const CSpec& spec, CArguments& argumen
 std::wstring FormatWideV(const ACHAR* format, std::va_list arguments) {
     std::wstring text;
     if (!format) return text;
-    CArguments left;
-    va_copy(left.m_list, arguments);
+    std::va_list left;
+    va_copy(left, arguments);
     while (const ACHAR* const pPercent = std::wcschr(format, L'%')) {
         text.append(format, pPercent);
         format = pPercent + 1;
-        if (AppendConversion(text, ReadSpec(format, left), left)) continue;
+        if (AppendConversion(text, ReadSpec(format, &left), &left)) continue;
         format = pPercent;
         break;
     }
-    va_end(left.m_list);
+    va_end(left);
     return text + format;
 }

@@ -281,6 +281,9 @@ TEST(Crossings, EndSoonForHugeAndDegenerateInput) {
     for (int i = 0; i < 20000; ++i)
         thin.emplace_back(i * 1e-9, (i % 3) * 1e-9, 0.0);
     EXPECT_NO_FATAL_FAILURE(CrossingsOf(thin, Reversed(thin)));
+    const CPoints dense = Sampled([](double x) { return std::sin(x); }, 0.0, 200.0, 20000);
+    EXPECT_TRUE(CrossingsOf(dense, dense).empty());
+    EXPECT_TRUE(CrossingsOf(dense, Reversed(dense)).empty());
     const CPoints huge = {{-1e150, 0, 0}, {1e150, 1e150, 0}, {0, -1e150, 0}};
     EXPECT_NO_FATAL_FAILURE(CrossingsOf(huge, {{-1e150, 1e149, 0}, {1e150, 1e149, 0}}));
     EXPECT_TRUE(Crossings({}, NaturalSpline(zigzag)).empty());
