@@ -2,11 +2,11 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
+#include "platform/ado/connection_text.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
 #include "platform/windows/path.h"
@@ -77,25 +77,6 @@ std::string ProjectConnect() {
     return path.empty() ? std::string() : ConnectTo(Setting("Provider", DEFAULT_PROVIDER), path);
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-/// The value of key Provider of a connection text, empty when it names none.
-std::string ProviderOf(std::string_view connect) {
-    while (!connect.empty()) {
-        const std::size_t end = std::min(connect.find(';'), connect.size());
-        const std::string_view part = connect.substr(0, end);
-        const std::size_t sign = part.find('=');
-        if (sign != std::string_view::npos && SameFileName(Trimmed(part.substr(0, sign)), "Provider"))
-            return std::string(Trimmed(part.substr(sign + 1)));
-        connect.remove_prefix(std::min(end + 1, connect.size()));
-    }
-    return {};
-}
-
 } // namespace
 
 int TVToolGetProjectConnect(char* connect) {
@@ -116,7 +97,7 @@ int TVToolPathToConnect(const char* path, char* connect) {
 }
 
 int TVToolGetDbInfo(CTVToolDbInfo* info) {
-    std::string provider = ProviderOf(ProjectConnect());
+    std::string provider = CConnectionText(ProjectConnect()).Value("Provider");
     if (provider.empty()) provider = Setting("Provider", DEFAULT_PROVIDER);
     return Give(provider, info->m_szProvider, sizeof info->m_szProvider);
 }
