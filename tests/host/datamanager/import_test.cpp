@@ -6,18 +6,12 @@
 #include "host/datamanager/layout.h"
 #include "host/datamanager/transaction.h"
 #include "platform/ado/sqlite_provider.h"
-#include "platform/windows/code_page.h"
-#include "tests/host/datamanager/temp_folder.h"
+#include "tests/host/datamanager/program.h"
 
 namespace {
 
 const std::string kReadingHeader =
     "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
-
-/// Text of a source file's UTF-8 literal.
-std::string Utf8(const char8_t* pszText) {
-    return reinterpret_cast<const char*>(pszText);
-}
 
 class Import : public testing::Test {
 protected:
@@ -53,18 +47,8 @@ protected:
         return counts;
     }
 
-    /// The rows of a query: fields joined by '|', rows by line ends, NULL as "-", UTF-8.
-    std::string Rows(const std::string& strSql) {
-        const auto pCursor = m_pDatabase->Query(strSql);
-        std::string strRows;
-        for (std::size_t nRow = 0; nRow < pCursor->RowCount(); ++nRow)
-            for (std::size_t i = 0; i < pCursor->Columns().size(); ++i) {
-                const CDbCell& cell = pCursor->Cell(nRow, i);
-                strRows += std::holds_alternative<std::monostate>(cell) ? "-" : ToUtf8(CellText(cell));
-                strRows += i + 1 < pCursor->Columns().size() ? "|" : "\n";
-            }
-        return strRows;
-    }
+    /// The rows of a query, see RowsText.
+    std::string Rows(const std::string& strSql) { return RowsText(*m_pDatabase->Query(strSql)); }
 
     CTempFolder m_folder;
     std::shared_ptr<CDbConnection> m_pDatabase;

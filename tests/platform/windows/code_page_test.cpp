@@ -7,11 +7,9 @@
 #include <initializer_list>
 #include <utility>
 
-namespace {
+#include "tests/platform/utf8_text.h"
 
-std::string Utf8(const char8_t* text) {
-    return reinterpret_cast<const char*>(text);
-}
+namespace {
 
 std::string Encoded(char32_t character) {
     std::string utf8;

@@ -1,0 +1,87 @@
+#include "host/datamanager/project.h"
+
+#include <algorithm>
+
+#include "host/datamanager/failure.h"
+#include "host/datamanager/terminal_text.h"
+#include "platform/windows/code_page.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kSection = "Project";
+
+CIniFile ProjectFile(const CInstallation& installation, const std::string& strGCBH) {
+    return CIniFile(installation.Below("Projects/" + strGCBH + "/project.ini"));
+}
+
+CProject ReadProject(const CInstallation& installation, const std::string& strFolder) {
+    const CIniFile file = ProjectFile(installation, strFolder);
+    CProject project;
+    project.m_nGCSY = file.Number(kSection, "GCSY", -1);
+    project.m_strGCBH = file.Text(kSection, "GCBH", strFolder);
+    project.m_strGCMC = file.Text(kSection, "GCMC");
+    project.m_nGCBZ = file.Number(kSection, "GCBZ", 0);
+    project.m_strConnect = file.Text(kSection, "Connect");
+    return project;
+}
+
+} // namespace
+
+std::vector<CProject> ReadProjects(const CInstallation& installation) {
+    std::vector<CProject> arProjects;
+    if (!fs::is_directory(installation.ProjectsFolder())) return arProjects;
+    for (const auto& entry : fs::directory_iterator(installation.ProjectsFolder())) {
+        std::string strFolder;
+        // A folder whose name the code page lacks was not made by the suite.
+        if (!Utf8ToGbk(entry.path().filename().string(), &strFolder)) continue;
+        if (IsProject(installation, strFolder)) arProjects.push_back(ReadProject(installation, strFolder));
+    }
+    std::ranges::sort(arProjects, [](const CProject& a, const CProject& b) {
+        return a.m_nGCSY != b.m_nGCSY ? a.m_nGCSY < b.m_nGCSY : a.m_strGCBH < b.m_strGCBH;
+    });
+    return arProjects;
+}
+
+bool IsProject(const CInstallation& installation, const std::string& strGCBH) {
+    return fs::is_regular_file(installation.ProjectsFolder() / ToUtf8(strGCBH) / "project.ini");
+}
+
+CProject FindProject(const CInstallation& installation, const std::string& strGCBH) {
+    if (strGCBH.empty() || strGCBH.find('/') != std::string::npos || !IsProject(installation, strGCBH))
+        throw CFailure(ExitStatus::Refused,
+                       "there is no project " + ToUtf8(strGCBH) + " in " + installation.Root().string());
+    return ReadProject(installation, strGCBH);
+}
+
+void WriteProject(const CInstallation& installation, const CProject& project) {
+    const CIniFile file = ProjectFile(installation, project.m_strGCBH);
+    file.SetNumber(kSection, "GCSY", project.m_nGCSY);
+    file.SetText(kSection, "GCBH", project.m_strGCBH);
+    file.SetText(kSection, "GCMC", project.m_strGCMC);
+    file.SetNumber(kSection, "GCBZ", project.m_nGCBZ);
+    file.SetText(kSection, "Connect", project.m_strConnect);
+}
+
+std::string ProjectDatabase(const std::string& strGCBH) {
+    return "Projects/" + strGCBH + "/project.db";
+}
+
+std::string FileConnection(const std::string& strPath) {
+    const char* pszQuote = strPath.find('"') == std::string::npos ? "\"" : "'";
+    const bool bPlain = strPath.find_first_of(";'\"") == std::string::npos;
+    return "Provider=SQLite;Data Source=" + (bPlain ? strPath : pszQuote + strPath + pszQuote);
+}
+
+std::string ProjectConnection(const CInstallation& installation, const CProject& project) {
+    if (!project.m_strConnect.empty()) return project.m_strConnect;
+    const std::string strForAll = installation.ProjectConnect();
+    if (!strForAll.empty()) return strForAll;
+    return FileConnection(installation.Below(ProjectDatabase(project.m_strGCBH)));
+}
+
+std::shared_ptr<CDbConnection> OpenProjectDatabase(const CInstallation& installation,
+                                                   const CProject& project) {
+    return OpenDbConnection(ProjectConnection(installation, project));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/datamanager/installation.h"
+#include "platform/ado/provider.h"
+
+/// A project of an installation. Texts are GBK.
+struct CProject {
+    std::int32_t m_nGCSY = -1;
+    std::string m_strGCBH;
+    std::string m_strGCMC;
+    std::int32_t m_nGCBZ = 0;
+    std::string
+        m_strConnect; ///< its own connection text; empty where the installation says where the database is
+};
+
+/// All projects by their index.
+std::vector<CProject> ReadProjects(const CInstallation& installation);
+
+/// The project of that number; CFailure (refused) where there is none.
+CProject FindProject(const CInstallation& installation, const std::string& strGCBH);
+
+/// Notes the project in its folder, which makes the folder a project.
+void WriteProject(const CInstallation& installation, const CProject& project);
+
+/// Whether the folder of that number is a project.
+bool IsProject(const CInstallation& installation, const std::string& strGCBH);
+
+/// The path of the project's own database, below the root.
+std::string ProjectDatabase(const std::string& strGCBH);
+
+/// The connection text of the project's database.
+std::string ProjectConnection(const CInstallation& installation, const CProject& project);
+
+/// A connection text for a file of the embedded database.
+std::string FileConnection(const std::string& strPath);
+
+/// Opens the project's database. Throws CDbError.
+std::shared_ptr<CDbConnection> OpenProjectDatabase(const CInstallation& installation,
+                                                   const CProject& project);
