@@ -29,7 +29,8 @@ double Degrees(double dPhi) {
     return dPhi / 3.1415926 * 180.0;
 }
 
-const std::vector<CPair> g_smith34 = {Stresses(200, 481.7), Stresses(400, 719.6), Stresses(600, 983)};
+/// Failure stresses as the readings of the published example reduce to them.
+const std::vector<CPair> g_smith34 = {Stresses(200, 200 + 281.72), Stresses(400, 400 + 319.61), Stresses(600, 600 + 383.04)};
 } // namespace
 
 TEST(MorCircles, AddCircleCountsFromZeroAndReturnsOne) {
@@ -282,24 +283,25 @@ TEST_P(TangentCase, GivesEachPairTheSameLineInAnyOrder) {
     } while (permuted.size() <= 5 && std::next_permutation(permuted.begin(), permuted.end()));
 }
 
-TEST_P(TangentCase, DoublesCohesionAndKeepsTheAngleWhenStressesDouble) {
-    const CMorCircles circles = Circles(GetParam().m_circles);
-    if (LeastDistance(circles) < 0.002) GTEST_SKIP() << "tangents that nearly coincide may group otherwise";
-    std::vector<CPair> doubled = GetParam().m_circles;
-    for (auto& [dCentre, dRadius] : doubled) {
-        dCentre *= 2.0;
-        dRadius *= 2.0;
+TEST(FindEnvelope, DoublesCohesionAndKeepsTheAngleWhenStressesDouble) {
+    int nTried = 0;
+    for (const CTangentCase& c : TangentCases()) {
+        const CMorCircles circles = Circles(c.m_circles);
+        // Tangents that nearly coincide may group otherwise when their intercepts double.
+        if (LeastDistance(circles) < 0.002) continue;
+        nTried++;
+        std::vector<CPair> doubled = c.m_circles;
+        for (auto& [dCentre, dRadius] : doubled) {
+            dCentre *= 2.0;
+            dRadius *= 2.0;
+        }
+        double dC = 0.0, dPhi = 0.0, dC2 = 0.0, dPhi2 = 0.0;
+        ASSERT_EQ(circles.FindEnvelope(&dC, &dPhi), 1) << c.m_strName;
+        ASSERT_EQ(Circles(doubled).FindEnvelope(&dC2, &dPhi2), 1) << c.m_strName;
+        EXPECT_EQ(dPhi2, dPhi) << c.m_strName;
+        EXPECT_NEAR(dC2, 2.0 * dC, 1e-9) << c.m_strName;
     }
-    double dC = 0.0, dPhi = 0.0, dC2 = 0.0, dPhi2 = 0.0;
-    ASSERT_EQ(circles.FindEnvelope(&dC, &dPhi), 1);
-    ASSERT_EQ(Circles(doubled).FindEnvelope(&dC2, &dPhi2), 1);
-    EXPECT_EQ(dPhi2, dPhi);
-    EXPECT_NEAR(dC2, 2.0 * dC, 1e-9);
+    EXPECT_GE(nTried, 4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Named, TangentCase, testing::ValuesIn(TangentCases()), [](const auto& info) {
-    std::string strName = info.param.m_strName;
-    for (char& c : strName)
-        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-    return strName;
-});
+INSTANTIATE_TEST_SUITE_P(Named, TangentCase, testing::ValuesIn(TangentCases()), [](const auto& sample) { return TestName(sample.param.m_strName); });

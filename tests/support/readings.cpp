@@ -4,6 +4,7 @@
 #include "platform/windows/code_page.h"
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -88,6 +89,12 @@ CString MethodOf(const std::string& strSet) {
     std::string strGbk;
     Utf8ToGbk(CsvRows(SetFolder(strSet) + "/samples.csv").at(0)["SYFF"], &strGbk);
     return strGbk;
+}
+
+std::string TestName(std::string strText) {
+    for (char& c : strText)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return strText;
 }
 
 CPrintedText::CPrintedText() {

@@ -19,6 +19,9 @@ std::vector<CTestReading> ReadingsOf(const std::string& strSet);
 /// The set's test method as the table holds it.
 CString MethodOf(const std::string& strSet);
 
+/// A text as part of a test's name: letters and digits, "_" for the rest.
+std::string TestName(std::string strText);
+
 /// What the module printed since the object was made, GBK.
 class CPrintedText {
 public:
