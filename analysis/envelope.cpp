@@ -25,15 +25,15 @@ void CBRENChart::FitEnvelopeLine(AcGePoint3d& ptStart, AcGePoint3d& ptEnd, doubl
 }
 
 namespace {
-/// Angle of the line on the drawing, in degrees. It is the soil's because a cell stands for equal stresses both ways.
+/// Angle of the line on the drawing, in degrees. It is the soil's because a cell stands for equal stresses
+/// both ways.
 double AngleOf(const AcGePoint3d& ptStart, const AcGePoint3d& ptEnd) {
     return std::atan2(ptEnd.y - ptStart.y, ptEnd.x - ptStart.x) / g_dPi * 180.0;
 }
 
 /// Height above the origin where the line, however short, meets the τ axis; drawing units.
 double InterceptOf(const AcGePoint3d& ptStart, const AcGePoint3d& ptEnd, const AcGePoint3d& ptOrigin) {
-    return ptStart.y - ptOrigin.y -
-           (ptStart.x - ptOrigin.x) * (ptEnd.y - ptStart.y) / (ptEnd.x - ptStart.x);
+    return ptStart.y - ptOrigin.y - (ptStart.x - ptOrigin.x) * (ptEnd.y - ptStart.y) / (ptEnd.x - ptStart.x);
 }
 } // namespace
 

@@ -47,7 +47,8 @@ void CMorCircles::CollectTangents(CTangents& tangents) const {
         for (int j = i + 1; j < nCircles; j++) {
             ComTangent tangent = TangentOfCircles(GetAt(i), GetAt(j));
             int nSame = 0;
-            while (nSame < tangents.GetSize() && !tangents[nSame].SameTangent(tangent)) nSame++;
+            while (nSame < tangents.GetSize() && !tangents[nSame].SameTangent(tangent))
+                nSame++;
             if (nSame < tangents.GetSize()) {
                 tangents[nSame].AddSupport(i, j);
             } else {
@@ -65,7 +66,8 @@ int CMorCircles::FindEnvelope(double* pC, double* pPhi) const {
     if (nTangents == 0) return 0;
 
     bool bPositive = false;
-    for (int i = 0; i < nTangents && !bPositive; i++) bPositive = tangents[i].m_dC > g_dZeroIntercept;
+    for (int i = 0; i < nTangents && !bPositive; i++)
+        bPositive = tangents[i].m_dC > g_dZeroIntercept;
     if (!bPositive) {
         // Soil has no negative cohesion: the line through the origin that touches the second to last circle.
         const int nCircle = static_cast<int>(GetSize()) - 2;

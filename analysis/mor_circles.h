@@ -6,8 +6,8 @@
 
 /// One Mohr circle on the normal-stress axis, kPa.
 struct MorCircle {
-    double m_dCentre = 0.0; ///< (σ1+σ3)/2
-    double m_dRadius = 0.0; ///< (σ1−σ3)/2
+    double m_dCentre = 0.0;    ///< (σ1+σ3)/2
+    double m_dRadius = 0.0;    ///< (σ1−σ3)/2
     Adesk::Int64 m_nIndex = 0; ///< its place in the list when it was added
 };
 
@@ -37,9 +37,10 @@ public:
     /// NaN where there is none: equal centres, or one circle inside the other.
     ComTangent TangentOfCircles(const MorCircle& a, const MorCircle& b) const;
 
-    /// The envelope: the tangent that most pairs share, ties settled by centrality; the line through the origin
-    /// that touches the second to last circle when every intercept is negative. 1 when it settled, also when it left
-    /// the outputs as they were (only intercepts between -1e-6 and 0); 0 when there is no pair. c in kPa, φ in radians.
+    /// The envelope: the tangent that most pairs share, ties settled by centrality; the line through the
+    /// origin that touches the second to last circle when every intercept is negative. 1 when it settled,
+    /// also when it left the outputs as they were (only intercepts between -1e-6 and 0); 0 when there is no
+    /// pair. c in kPa, φ in radians.
     int FindEnvelope(double* pC, double* pPhi) const;
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
-// The fixed constants and roundings of the suite's arithmetic: results stored by one edition must come out of every
-// other edition to the last digit, so they are part of the method.
+// The fixed constants and roundings of the suite's arithmetic: results stored by one edition must come out of
+// every other edition to the last digit, so they are part of the method.
 
 #include "platform/acad/adesk.h"
 

@@ -27,7 +27,7 @@ CSpecimen Consolidated(const CTestReading& reading, double dArea0) {
 } // namespace
 
 bool CTestReading::HasNegativeFault() const {
-    const double checked[] = {m_dSYGD, m_dSYZJ, m_dCLHXS, m_dWY,   m_dCLHDS,
+    const double checked[] = {m_dSYGD, m_dSYZJ, m_dCLHXS, m_dWY,    m_dCLHDS,
                               m_dZXBX, m_dJQPS, m_dKXYL,  m_dGJKXYL};
     for (const double dValue : checked)
         if (dValue < g_dLimit) return true;
@@ -56,7 +56,9 @@ CReducedReading ReduceReading(const CTestReading& reading, CTestMethod method) {
     return reduced;
 }
 
-CReduction::CReduction(CBRENChart& chart) : m_chart(chart), m_method(chart.Method()) {
+CReduction::CReduction(CBRENChart& chart)
+    : m_chart(chart)
+    , m_method(chart.Method()) {
     // The one list emptied here; the others rely on the chart being new.
     m_chart.m_arTotal.setLogicalLength(0);
 }
@@ -107,8 +109,8 @@ int CReduction::AddFailureRow(const CTestReading& reading, const CReducedReading
     }
     m_chart.m_arSigma3.append(dSigma3);
     m_chart.m_arDeviator.append(q);
-    for (const double dValue : {dSigma3, dSigma1, dSigma1 + dSigma3, dSigma1 - dSigma3, (dSigma1 + dSigma3) / 2.0,
-                                (dSigma1 - dSigma3) / 2.0})
+    for (const double dValue : {dSigma3, dSigma1, dSigma1 + dSigma3, dSigma1 - dSigma3,
+                                (dSigma1 + dSigma3) / 2.0, (dSigma1 - dSigma3) / 2.0})
         m_chart.m_arTotal.append(dValue);
     m_circles.AddCircle((dSigma1 + dSigma3) / 2.0, (dSigma1 - dSigma3) / 2.0);
 
@@ -121,7 +123,8 @@ int CReduction::AddFailureRow(const CTestReading& reading, const CReducedReading
     }
     m_chart.m_arSigma3Eff.append(dSigma3Eff);
     m_chart.m_arDeviatorEff.append(q);
-    for (const double dValue : {dSigma3Eff, dSigma1Eff, dSigma1Eff + dSigma3Eff, (dSigma1Eff + dSigma3Eff) / 2.0})
+    for (const double dValue :
+         {dSigma3Eff, dSigma1Eff, dSigma1Eff + dSigma3Eff, (dSigma1Eff + dSigma3Eff) / 2.0})
         m_chart.m_arEffective.append(dValue);
     m_circlesEff.AddCircle((dSigma1Eff + dSigma3Eff) / 2.0, (dSigma1Eff - dSigma3Eff) / 2.0);
     return 1;

@@ -1,5 +1,6 @@
 #pragma once
-// Reduction of triaxial readings: from dial units and burette readings to strain, corrected area and stresses.
+// Reduction of triaxial readings: from dial units and burette readings to strain, corrected area and
+// stresses.
 
 #include "analysis/mor_circles.h"
 #include "chart/chart_entity.h"
@@ -31,9 +32,10 @@ struct CReducedReading {
     double m_dDeviator = 0.0; ///< q, kPa, to two decimals
 };
 
-/// Strain and deviator stress of a reading. The area is corrected for the strain, and for consolidated tests the
-/// specimen's volume for the drained water (parallel-cylinder correction; A. W. Bishop & D. J. Henkel, The
-/// Measurement of Soil Properties in the Triaxial Test). Degenerate specimens give what the arithmetic gives.
+/// Strain and deviator stress of a reading. The area is corrected for the strain, and for consolidated tests
+/// the specimen's volume for the drained water (parallel-cylinder correction; A. W. Bishop & D. J. Henkel,
+/// The Measurement of Soil Properties in the Triaxial Test). Degenerate specimens give what the arithmetic
+/// gives.
 CReducedReading ReduceReading(const CTestReading& reading, CTestMethod method);
 
 /// Values per cell of the two panels, and rows of the Mohr grid.
@@ -42,8 +44,8 @@ struct CPanelScales {
     Adesk::Int32 m_nMohrRows = 0;
 };
 
-/// The first list value whose grid holds the greatest value strictly; the last one if none does. Strain in percent,
-/// stresses in kPa.
+/// The first list value whose grid holds the greatest value strictly; the last one if none does. Strain in
+/// percent, stresses in kPa.
 CPanelScales ChooseScales(double dMaxStrainPercent, double dMaxDeviator, double dMaxSigma1, double dMaxTau);
 
 /// Feeds the readings of one sample, in order of specimen and running number, into a new chart.

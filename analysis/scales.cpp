@@ -7,7 +7,7 @@ namespace {
 constexpr double g_strainSteps[] = {0.1, 0.25, 0.5, 1, 2, 2.5, 5, 10, 15};
 constexpr double g_deviatorSteps[] = {10,   20,   30,    50,    100,   200,    250,    500,    1000,
                                       2000, 5000, 10000, 20000, 50000, 100000, 200000, 500000, 1000000};
-constexpr double g_sigmaSteps[] = {10,   20,   30,   50,    100,   200,   250,    250,    500,    1000,
+constexpr double g_sigmaSteps[] = {10,   20,   30,    50,    100,   200,    250,    250,    500,    1000,
                                    2000, 5000, 10000, 20000, 50000, 100000, 200000, 500000, 1000000};
 
 double FirstStep(std::span<const double> steps, double dGreatest, double dCells) {

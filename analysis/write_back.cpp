@@ -21,8 +21,9 @@ CString Today() {
 }
 
 void Clear(CSanZhouRecord& row) {
-    for (DBSTATUS* pStatus : {&row.m_dwStatusUUC, &row.m_dwStatusUUF, &row.m_dwStatusCUC, &row.m_dwStatusCUF,
-                              &row.m_dwStatusCUCE, &row.m_dwStatusCUFE, &row.m_dwStatusCDC, &row.m_dwStatusCDF})
+    for (DBSTATUS* pStatus :
+         {&row.m_dwStatusUUC, &row.m_dwStatusUUF, &row.m_dwStatusCUC, &row.m_dwStatusCUF, &row.m_dwStatusCUCE,
+          &row.m_dwStatusCUFE, &row.m_dwStatusCDC, &row.m_dwStatusCDF})
         *pStatus = DBSTATUS_S_ISNULL;
 }
 

@@ -8,8 +8,8 @@ constexpr double g_dSheetHeight = 257.0;
 constexpr int g_nTableColumn = 15;
 constexpr double g_dSummaryWidth = 45.0; // of the summary table and its distance, in the stacked arrangement
 
-/// What the arrangement is made of, in drawing units. Sums of whole numbers stay whole, in 64 bits, since a failed
-/// scale may leave any number of rows.
+/// What the arrangement is made of, in drawing units. Sums of whole numbers stay whole, in 64 bits, since a
+/// failed scale may leave any number of rows.
 struct CSizes {
     Adesk::Int64 m_nCurveH, m_nCurveW, m_nMohrH, m_nMohrW;
     Adesk::Int64 m_nStressTableW, m_nStressTableH, m_nSummaryH;
@@ -60,8 +60,7 @@ void ArrangeStacked(CBRENChart& chart, const CSizes& s) {
     const double dMohrW = static_cast<double>(s.m_nMohrW), dMohrH = static_cast<double>(s.m_nMohrH);
     const double dTableH = static_cast<double>(s.m_nStressTableH);
     const Adesk::Int64 nLower = s.m_nMohrH >= s.m_nSummaryH ? s.m_nMohrH : s.m_nSummaryH;
-    const double dAir =
-        (g_dSheetHeight - s.m_dTop - dCurveH - static_cast<double>(nLower) - dTableH) / 4.0;
+    const double dAir = (g_dSheetHeight - s.m_dTop - dCurveH - static_cast<double>(nLower) - dTableH) / 4.0;
     const double dMohrLeft = (g_dSheetWidth - (dMohrW + g_dSummaryWidth)) / 2.0;
 
     chart.m_ptCurveOrigin.set(bx + (g_dSheetWidth - dCurveW) / 2.0, by - s.m_dTop - dAir - dCurveH, 0.0);

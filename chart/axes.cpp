@@ -18,10 +18,12 @@ constexpr double g_dTitleGap = 10.0;
 void Axes(CPictureSink& sink, const CAxes& axes) {
     const AcGePoint3d ptOrigin = axes.m_ptOrigin;
     const double dArrowWidth = 2.0 * axes.m_dArrowHalfWidth;
-    const AcGePoint3d ptEndX(ptOrigin.x + (axes.m_nCols + g_dOverrun) * axes.m_nCellW, ptOrigin.y, ptOrigin.z);
+    const AcGePoint3d ptEndX(ptOrigin.x + (axes.m_nCols + g_dOverrun) * axes.m_nCellW, ptOrigin.y,
+                             ptOrigin.z);
     sink.Line(ptOrigin, ptEndX);
     sink.Arrow(ptEndX, ptEndX + AcGeVector3d(g_dArrowLength, 0.0, 0.0), dArrowWidth);
-    const AcGePoint3d ptEndY(ptOrigin.x, ptOrigin.y + (axes.m_nRows + g_dOverrun) * axes.m_nCellH, ptOrigin.z);
+    const AcGePoint3d ptEndY(ptOrigin.x, ptOrigin.y + (axes.m_nRows + g_dOverrun) * axes.m_nCellH,
+                             ptOrigin.z);
     sink.Line(ptOrigin, ptEndY);
     sink.Arrow(ptEndY, ptEndY + AcGeVector3d(0.0, g_dArrowLength, 0.0), dArrowWidth);
 }
@@ -49,7 +51,8 @@ void Labels(CPictureSink& sink, const CAxes& axes) {
         const CString strLabel = AxisLabel(dValue);
         const double dWidth = MeasureTextWidth(strLabel, axes.m_idTextStyle, g_dAxisText);
         const double x = ptOrigin.x + 2.0 * (i + 1.0) * dCellW;
-        sink.Text({x - dWidth / 2.0, ptOrigin.y - g_dLabelGapX, ptOrigin.z}, strLabel, CTextDirection::Horizontal);
+        sink.Text({x - dWidth / 2.0, ptOrigin.y - g_dLabelGapX, ptOrigin.z}, strLabel,
+                  CTextDirection::Horizontal);
     }
     dValue = 0.0;
     for (Adesk::Int32 i = 0; i <= axes.m_nRows / 2.0; i++) {
@@ -102,14 +105,14 @@ void DescribeChartAxes(CPictureSink& sink, const CAxes& axes, const CAxesForm& f
 }
 
 CAxes CBRENChart::CurveAxes() const {
-    return {m_ptCurveOrigin, m_nCurveRows,  m_nCurveCols,       m_dCurveStepX,       m_dCurveStepY,
-            m_nCurveCellW,   m_nCurveCellH, "轴向应变ε (%)", "主应力差σ-σ (kPa)", true,
-            m_dArrowHalfWidth, m_idTextStyle};
+    return {m_ptCurveOrigin,     m_nCurveRows,  m_nCurveCols,      m_dCurveStepX,
+            m_dCurveStepY,       m_nCurveCellW, m_nCurveCellH,     "轴向应变ε (%)",
+            "主应力差σ-σ (kPa)", true,          m_dArrowHalfWidth, m_idTextStyle};
 }
 
 CAxes CBRENChart::MohrAxes() const {
-    return {m_ptMohrOrigin, m_nMohrRows,  m_nMohrCols, m_dMohrStepX, m_dMohrStepY, m_nMohrCellW, m_nMohrCellH,
-            "σ (kPa)",     "τ (kPa)", false,       m_dArrowHalfWidth, m_idTextStyle};
+    return {m_ptMohrOrigin, m_nMohrRows, m_nMohrCols, m_dMohrStepX, m_dMohrStepY,      m_nMohrCellW,
+            m_nMohrCellH,   "σ (kPa)",   "τ (kPa)",   false,        m_dArrowHalfWidth, m_idTextStyle};
 }
 
 void CBRENChart::DrawChartAxes(AcGiWorldDraw* pMode, const CAxes& axes) const {

@@ -5,9 +5,9 @@
 
 /// One gridded frame with its ticks and titles: both panels are made of it.
 struct CAxes {
-    AcGePoint3d m_ptOrigin;      ///< lower left corner of the grid
+    AcGePoint3d m_ptOrigin; ///< lower left corner of the grid
     Adesk::Int32 m_nRows, m_nCols;
-    double m_dStepX, m_dStepY;   ///< value per cell
+    double m_dStepX, m_dStepY; ///< value per cell
     Adesk::Int32 m_nCellW, m_nCellH;
     const char* m_pTitleX;
     const char* m_pTitleY;
@@ -24,8 +24,10 @@ struct CAxesForm {
 };
 inline constexpr CAxesForm g_axesWorldForm{2.5, 16.1, 5.3};
 
-/// Describes a frame: axes with arrows, grid, tick labels, titles. It leaves another size in the shared text style.
+/// Describes a frame: axes with arrows, grid, tick labels, titles. It leaves another size in the shared text
+/// style.
 void DescribeChartAxes(CPictureSink& sink, const CAxes& axes, const CAxesForm& form);
 
-/// A label's text with up to two decimals; empty when the value needs more, as a running sum's error can make it.
+/// A label's text with up to two decimals; empty when the value needs more, as a running sum's error can make
+/// it.
 CString AxisLabel(double dValue);

@@ -32,7 +32,8 @@ CBRENChart* CBRENChart::cast(const AcRxObject* pObject) {
 
 void CBRENChart::rxInit() {
     if (desc()) return;
-    g_pChartClass = newAcRxClass(g_pClassName, L"AcDbEntity", 31, 55, 255, &MakeChart, L"CBRENCHART", L"CBRENCHART");
+    g_pChartClass =
+        newAcRxClass(g_pClassName, L"AcDbEntity", 31, 55, 255, &MakeChart, L"CBRENCHART", L"CBRENCHART");
     if (g_pChartClass) g_pChartClass->addX(CFieldTable::desc(), ChartFields());
 }
 

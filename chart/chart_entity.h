@@ -1,6 +1,6 @@
 #pragma once
-// The chart: one sample's whole triaxial result sheet as a drawing entity. Once generated it lives in the drawing
-// without the database and draws itself from its own fields.
+// The chart: one sample's whole triaxial result sheet as a drawing entity. Once generated it lives in the
+// drawing without the database and draws itself from its own fields.
 
 #include "analysis/test_method.h"
 #include "platform/acad/db_entity.h"
@@ -32,21 +32,22 @@ public:
 
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color, Adesk::Boolean doSubents = Adesk::kTrue) override;
 
-    /// Reads the sample's readings (m_nGCSY, m_strZKBH, m_strQYBH, m_strSYFF), reduces them, searches the envelopes
-    /// and chooses the scales. 1 on success; 0 on any failure, which it has reported, and then the chart is half
-    /// filled and to be dropped. For a new chart only: a second call would append to the lists again.
+    /// Reads the sample's readings (m_nGCSY, m_strZKBH, m_strQYBH, m_strSYFF), reduces them, searches the
+    /// envelopes and chooses the scales. 1 on success; 0 on any failure, which it has reported, and then the
+    /// chart is half filled and to be dropped. For a new chart only: a second call would append to the lists
+    /// again.
     int ComputeChartData();
     /// Places the panels of a computed chart, fits its envelope lines, seeds the value sets and stores them.
     void ArrangePanels();
 
-    /// End points of the line τ = c + σ·tan φ in the Mohr panel, from the τ axis as far as the greatest σ1 or to
-    /// 0.2 of a cell below the top of the grid. dPhi in radians, dC in kPa.
+    /// End points of the line τ = c + σ·tan φ in the Mohr panel, from the τ axis as far as the greatest σ1 or
+    /// to 0.2 of a cell below the top of the grid. dPhi in radians, dC in kPa.
     void FitEnvelopeLine(AcGePoint3d& ptStart, AcGePoint3d& ptEnd, double dPhi, double dC) const;
     /// Reads the graphical c (kPa) and φ (degrees) off the envelope lines as they stand.
     void ReadEnvelopeValues();
 
-    /// Writes the adopted values and today's date into the sample's row of z_c_SanZhou; the columns of the other
-    /// methods become NULL. 1 on success, else 0 after a message.
+    /// Writes the adopted values and today's date into the sample's row of z_c_SanZhou; the columns of the
+    /// other methods become NULL. 1 on success, else 0 after a message.
     int StoreAdoptedValues();
 
     CTestMethod Method() const { return TestMethodOf(m_strSYFF); }
@@ -72,13 +73,13 @@ public:
     Adesk::Int32 m_nMohrCellH = 10;
     double m_dArrowHalfWidth = 0.5;
     double m_dTextHeight = 2.5; ///< six of it are kept free at the top of the sheet
-    CDoubleList m_arTotal;      ///< six a failure row: σ3, σ1, σ1+σ3, σ1−σ3, (σ1+σ3)/2, (σ1−σ3)/2
-    CStringArray m_saCells;     ///< texts of the summary table
-    CDoubleList m_arEffective;  ///< four a failure row, CU only: σ'3, σ'1, σ'1+σ'3, (σ'1+σ'3)/2
-    CStringArray m_saCellsEff;  ///< passes through the record; nothing fills or reads it
-    CDoubleList m_arSigma3;     ///< σ3 of each failure row, kPa
-    CDoubleList m_arDeviator;   ///< σ1−σ3 of each failure row, kPa
-    CDoubleList m_arSigma3Eff;  ///< σ'3, CU only
+    CDoubleList m_arTotal;  ///< six a failure row: σ3, σ1, σ1+σ3, σ1−σ3, (σ1+σ3)/2, (σ1−σ3)/2
+    CStringArray m_saCells; ///< texts of the summary table
+    CDoubleList m_arEffective; ///< four a failure row, CU only: σ'3, σ'1, σ'1+σ'3, (σ'1+σ'3)/2
+    CStringArray m_saCellsEff; ///< passes through the record; nothing fills or reads it
+    CDoubleList m_arSigma3;    ///< σ3 of each failure row, kPa
+    CDoubleList m_arDeviator;  ///< σ1−σ3 of each failure row, kPa
+    CDoubleList m_arSigma3Eff; ///< σ'3, CU only
     CDoubleList m_arDeviatorEff;
     Adesk::Int32 m_nGCSY = 0;
     CString m_strGCBH; ///< project number when generated; guards the store
@@ -92,16 +93,16 @@ public:
     CDoubleLists m_arStrainSeries; ///< one list per cell-pressure group; a fraction, not percent
     CDoubleLists m_arStressSeries; ///< deviator stress, kPa, parallel
     // φ in degrees (radians between ComputeChartData and ArrangePanels), c in kPa.
-    double m_dCalcPhi = 0.0, m_dCalcC = 0.0;         ///< from the tangent search, fixed when placed
-    double m_dGraphPhi = 0.0, m_dGraphC = 0.0;       ///< what the envelope line shows
-    double m_dAdoptPhi = 0.0, m_dAdoptC = 0.0;       ///< what the database holds or will hold
+    double m_dCalcPhi = 0.0, m_dCalcC = 0.0;   ///< from the tangent search, fixed when placed
+    double m_dGraphPhi = 0.0, m_dGraphC = 0.0; ///< what the envelope line shows
+    double m_dAdoptPhi = 0.0, m_dAdoptC = 0.0; ///< what the database holds or will hold
     double m_dCalcPhiEff = 0.0, m_dCalcCEff = 0.0;
     double m_dGraphPhiEff = 0.0, m_dGraphCEff = 0.0;
     double m_dAdoptPhiEff = 0.0, m_dAdoptCEff = 0.0;
     AcGePoint3d m_ptEnvStart, m_ptEnvEnd;
     AcGePoint3d m_ptEnvStartEff, m_ptEnvEndEff;
-    Adesk::Int16 m_nPolylineMode = 0; ///< 1 only while the picture for a file is drawn
-    double m_dMaxSigma1 = 0.0;        ///< greatest σ1 of all readings, kPa
+    Adesk::Int16 m_nPolylineMode = 0;   ///< 1 only while the picture for a file is drawn
+    double m_dMaxSigma1 = 0.0;          ///< greatest σ1 of all readings, kPa
     Adesk::Int32 m_bSingleSpecimen = 1; ///< all readings are stages of one specimen
     Adesk::Int32 m_bNoEnvelope = 0;     ///< fewer than two circles; not filed
     Adesk::Int32 m_bColorChanging = 0;  ///< the next notification of the frame is to be ignored; not filed

@@ -6,8 +6,8 @@
 namespace {
 using CRow = CFieldRow<CBRENChart>;
 
-// In the order of the drawing file's record; the number is the place in the class. The last rows are not filed: a
-// reloaded chart starts with these flags off.
+// In the order of the drawing file's record; the number is the place in the class. The last rows are not
+// filed: a reloaded chart starts with these flags off.
 const CRow g_chartRows[] = {
     {"m_ptBase", 0, &CBRENChart::m_ptBase},
     {"m_ptCurveOrigin", 1, &CBRENChart::m_ptCurveOrigin},

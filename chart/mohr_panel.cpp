@@ -1,4 +1,5 @@
-// The Mohr panel: half circles of total and, for consolidated undrained tests, of effective stress, and the envelopes.
+// The Mohr panel: half circles of total and, for consolidated undrained tests, of effective stress, and the
+// envelopes.
 
 #include "chart/chart_entity.h"
 #include "drawing/world_sink.h"

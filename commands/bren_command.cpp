@@ -21,7 +21,8 @@ void ForceMultiDocument() {
 
 CString ProjectNumber() {
     std::array<char, 1024> buffer{};
-    GetPrivateProfileStringA("Project", "GCBH", "", buffer.data(), static_cast<DWORD>(buffer.size()), g_strProjectIni);
+    GetPrivateProfileStringA("Project", "GCBH", "", buffer.data(), static_cast<DWORD>(buffer.size()),
+                             g_strProjectIni);
     return buffer.data();
 }
 

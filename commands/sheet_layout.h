@@ -3,13 +3,15 @@
 
 #include "platform/acad/geometry.h"
 
-inline constexpr Adesk::Int32 g_nStandardWithStrip = 2; ///< project standard code with two charts a sheet and a title strip
+inline constexpr Adesk::Int32 g_nStandardWithStrip =
+    2; ///< project standard code with two charts a sheet and a title strip
 inline constexpr int g_nPaperA4 = 4;
-inline constexpr double g_dSheetStep = 220.0; ///< from sheet to sheet and from chart to chart, for every standard code
+inline constexpr double g_dSheetStep =
+    220.0; ///< from sheet to sheet and from chart to chart, for every standard code
 inline constexpr double g_dSheetHeight = 297.0;
 
-/// Sheet size and number of charts for a project standard code and a paper index (0: A0 to 4: A4). For an index it
-/// does not know, and a code other than 2, the results stay as they are.
+/// Sheet size and number of charts for a project standard code and a paper index (0: A0 to 4: A4). For an
+/// index it does not know, and a code other than 2, the results stay as they are.
 void GetSheetLayout(Adesk::Int32 nGCBZ, int nPaper, int& nWidth, int& nHeight, int& nChartsPerRow,
                     int& nChartsPerSheet);
 

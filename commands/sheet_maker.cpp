@@ -14,8 +14,12 @@ constexpr const char* g_pTextStyle = "QM_PMT_BTFont";
 } // namespace
 
 CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, Adesk::Int32 nGCSY, CString strGCBH, Adesk::Int32 nGCBZ)
-    : m_pDatabase(pDatabase), m_nGCSY(nGCSY), m_strGCBH(std::move(strGCBH)), m_nGCBZ(nGCBZ) {
-    int nWidth = 0, nHeight = 0; // the layout depends on the standard code alone, and the size goes no further
+    : m_pDatabase(pDatabase)
+    , m_nGCSY(nGCSY)
+    , m_strGCBH(std::move(strGCBH))
+    , m_nGCBZ(nGCBZ) {
+    int nWidth = 0,
+        nHeight = 0; // the layout depends on the standard code alone, and the size goes no further
     GetSheetLayout(m_nGCBZ, g_nPaperA4, nWidth, nHeight, m_nChartsPerRow, m_nChartsPerSheet);
 }
 
@@ -35,7 +39,8 @@ int CSheetMaker::PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& 
         for (int nColumn = 0; nColumn < m_nChartsPerRow; nColumn++) {
             const int nSample = nFirst + nRow * m_nChartsPerRow + nColumn;
             if (nSample >= samples.GetSize()) break;
-            const AcGePoint3d ptChart(ptFirst.x + g_dSheetStep * nColumn, ptFirst.y - g_dSheetHeight * nRow, 0.0);
+            const AcGePoint3d ptChart(ptFirst.x + g_dSheetStep * nColumn, ptFirst.y - g_dSheetHeight * nRow,
+                                      0.0);
             if (!PlaceChart(samples[nSample], ptChart)) return 0;
         }
     }

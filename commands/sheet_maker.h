@@ -9,8 +9,8 @@ class CSheetMaker {
 public:
     CSheetMaker(AcDbDatabase* pDatabase, Adesk::Int32 nGCSY, CString strGCBH, Adesk::Int32 nGCBZ);
 
-    /// One sheet for each sample of the group, filled with as many charts as a sheet takes. 0 when a sample's data were
-    /// faulty, after a message; what was placed before stays.
+    /// One sheet for each sample of the group, filled with as many charts as a sheet takes. 0 when a sample's
+    /// data were faulty, after a message; what was placed before stays.
     int PlaceGroup(const CArray<QYPropty>& samples, const AcGePoint3d& ptPicked);
 
 private:

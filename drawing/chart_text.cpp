@@ -8,12 +8,12 @@ namespace {
 constexpr double g_dMeasuredWidth = 0.7;
 }
 
-void DrawChartText(AcGiWorldDraw* pMode, const AcGePoint3d& ptPosition, const CString& strText, int nDirection,
-                   const AcGiTextStyle& style) {
+void DrawChartText(AcGiWorldDraw* pMode, const AcGePoint3d& ptPosition, const CString& strText,
+                   int nDirection, const AcGiTextStyle& style) {
     pMode->subEntityTraits().setSelectionMarker(1);
     const AcGeVector3d& vecDirection = nDirection == 0 ? AcGeVector3d::kXAxis : AcGeVector3d::kYAxis;
-    pMode->rawGeometry()->text(ptPosition, AcGeVector3d::kZAxis, vecDirection, ToWide(strText), -1, Adesk::kFalse,
-                               style);
+    pMode->rawGeometry()->text(ptPosition, AcGeVector3d::kZAxis, vecDirection, ToWide(strText), -1,
+                               Adesk::kFalse, style);
 }
 
 double MeasureTextWidth(const CString& strText, AcDbObjectId idStyle, double dHeight) {

@@ -6,12 +6,14 @@
 
 namespace {
 constexpr double g_dSplitTolerance = 0.001;
-constexpr double g_dDotReach = 0.25; // two half circles of this radius, a band twice as wide: a full dot 1.0 across
+constexpr double g_dDotReach =
+    0.25; // two half circles of this radius, a band twice as wide: a full dot 1.0 across
 constexpr double g_dDotWidth = 0.5;
 constexpr Adesk::UInt16 g_nDotColor = 1;
 
 /// The crossings of two curves, in order along the first; false when the search failed.
-bool FindCrossings(const AcGePoint3dArray& first, const AcGePoint3dArray& second, AcGePoint3dArray& crossings) {
+bool FindCrossings(const AcGePoint3dArray& first, const AcGePoint3dArray& second,
+                   AcGePoint3dArray& crossings) {
     const AcDbSpline firstCurve(first), secondCurve(second);
     return firstCurve.intersectWith(&secondCurve, AcDb::kOnBothOperands, crossings) == Acad::eOk;
 }
@@ -25,11 +27,13 @@ void BothSolid(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoin
 int SplitAtFirstDrop(const AcGePoint3dArray& points, AcGePoint3dArray& head, AcGePoint3dArray& tail) {
     const int nPoints = points.length();
     int i = 0;
-    while (i < nPoints - 1 && points[i + 1].y >= points[i].y) head.append(points[i++]);
+    while (i < nPoints - 1 && points[i + 1].y >= points[i].y)
+        head.append(points[i++]);
     if (nPoints == 0) return 2;
     head.append(points[i]);
     if (i == nPoints - 1) return 1;
-    for (; i < nPoints; i++) tail.append(points[i]);
+    for (; i < nPoints; i++)
+        tail.append(points[i]);
     return 2;
 }
 
@@ -41,11 +45,12 @@ void SplitAtPoint(const AcGePoint3d& ptAt, const AcGePoint3dArray& points, bool 
         first.append(points[i++]);
     first.append(ptAt);
     second.append(ptAt);
-    for (; i < points.length(); i++) second.append(points[i]);
+    for (; i < points.length(); i++)
+        second.append(points[i]);
 }
 
 int DrawCrossHead(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
-              AcGePoint3dArray& carry) {
+                  AcGePoint3dArray& carry) {
     AcGePoint3dArray crossings;
     if (!FindCrossings(first, second, crossings)) {
         BothSolid(sink, first, second);
@@ -67,7 +72,7 @@ int DrawCrossHead(CPictureSink& sink, const AcGePoint3dArray& first, const AcGeP
 }
 
 int DrawCrossTail(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
-              AcGePoint3dArray& carry) {
+                  AcGePoint3dArray& carry) {
     carry.setLogicalLength(0);
     AcGePoint3dArray crossings;
     if (!FindCrossings(first, second, crossings)) {

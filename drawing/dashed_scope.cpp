@@ -8,8 +8,9 @@ constexpr Adesk::UInt16 g_nDashedColor = 2;
 }
 
 CDashedScope::CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter)
-    : m_pMode(pMode), m_nColorAfter(nColorAfter),
-      m_pDatabase(acdbHostApplicationServices()->workingDatabase()) {
+    : m_pMode(pMode)
+    , m_nColorAfter(nColorAfter)
+    , m_pDatabase(acdbHostApplicationServices()->workingDatabase()) {
     if (!m_pDatabase) {
         m_pTemporary = std::make_unique<AcDbDatabase>();
         m_pDatabase = m_pTemporary.get();

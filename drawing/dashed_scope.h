@@ -5,9 +5,9 @@
 
 #include <memory>
 
-/// Draws dashed for the length of a scope: line type "Dashed2" and colour index 2; at the end line type "Continuous"
-/// and the given colour. The line types are looked up in the working drawing, or in a temporary one when there is
-/// none. A line type that could not be looked up is a null id, and the drawing goes on.
+/// Draws dashed for the length of a scope: line type "Dashed2" and colour index 2; at the end line type
+/// "Continuous" and the given colour. The line types are looked up in the working drawing, or in a temporary
+/// one when there is none. A line type that could not be looked up is a null id, and the drawing goes on.
 class CDashedScope {
 public:
     CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter);

@@ -1,5 +1,6 @@
 #pragma once
-// A class's fields as one table of typed rows: whoever files, shows, sets or compares them walks the same rows.
+// A class's fields as one table of typed rows: whoever files, shows, sets or compares them walks the same
+// rows.
 
 #include "platform/acad/field_table.h"
 #include "platform/mfc/collections.h"
@@ -9,17 +10,19 @@
 #include <type_traits>
 
 /// A 32-bit field that is a flag.
-template <class T> struct CFlagMember {
+template <class T>
+struct CFlagMember {
     Adesk::Int32 T::*m_pMember;
 };
 
-/// One row: a field's name, its place in the class's declaration, its member, and whether the file's record has it.
-/// A member of another type does not compile.
-template <class T> struct CFieldRow {
+/// One row: a field's name, its place in the class's declaration, its member, and whether the file's record
+/// has it. A member of another type does not compile.
+template <class T>
+struct CFieldRow {
     using CMember =
-        std::variant<AcGePoint3d T::*, Adesk::Int16 T::*, Adesk::UInt16 T::*, Adesk::Int32 T::*, CFlagMember<T>,
-                     double T::*, CString T::*, AcArray<double> T::*, CArray<AcArray<double>, AcArray<double>> T::*,
-                     CStringArray T::*, AcDbObjectId T::*>;
+        std::variant<AcGePoint3d T::*, Adesk::Int16 T::*, Adesk::UInt16 T::*, Adesk::Int32 T::*,
+                     CFlagMember<T>, double T::*, CString T::*, AcArray<double> T::*,
+                     CArray<AcArray<double>, AcArray<double>> T::*, CStringArray T::*, AcDbObjectId T::*>;
     const char* m_pName;
     int m_nDeclared;
     CMember m_member;
@@ -28,31 +31,59 @@ template <class T> struct CFieldRow {
 
 /// Fields as plain values, for those who know the class by its table only.
 namespace FieldValue {
-inline CFieldValue From(const AcGePoint3d& value) { return value; }
-inline CFieldValue From(Adesk::Int32 value) { return value; }
-inline CFieldValue From(double value) { return value; }
-inline CFieldValue From(const CString& value) { return std::string(value.View()); }
-inline CFieldValue From(const AcDbObjectId& value) { return value; }
-inline CFieldValue From(const AcArray<double>& value) { return std::vector<double>(value.begin(), value.end()); }
+inline CFieldValue From(const AcGePoint3d& value) {
+    return value;
+}
+inline CFieldValue From(Adesk::Int32 value) {
+    return value;
+}
+inline CFieldValue From(double value) {
+    return value;
+}
+inline CFieldValue From(const CString& value) {
+    return std::string(value.View());
+}
+inline CFieldValue From(const AcDbObjectId& value) {
+    return value;
+}
+inline CFieldValue From(const AcArray<double>& value) {
+    return std::vector<double>(value.begin(), value.end());
+}
 CFieldValue From(const CArray<AcArray<double>, AcArray<double>>& value);
 CFieldValue From(const CStringArray& value);
 
-inline void Into(AcGePoint3d& field, const AcGePoint3d& value) { field = value; }
-inline void Into(Adesk::Int32& field, Adesk::Int32 value) { field = value; }
-inline void Into(Adesk::Int16& field, Adesk::Int32 value) { field = static_cast<Adesk::Int16>(value); }
-inline void Into(Adesk::UInt16& field, Adesk::Int32 value) { field = static_cast<Adesk::UInt16>(value); }
-inline void Into(double& field, double value) { field = value; }
-inline void Into(CString& field, const std::string& value) { field = value.c_str(); }
-inline void Into(AcDbObjectId& field, const AcDbObjectId& value) { field = value; }
+inline void Into(AcGePoint3d& field, const AcGePoint3d& value) {
+    field = value;
+}
+inline void Into(Adesk::Int32& field, Adesk::Int32 value) {
+    field = value;
+}
+inline void Into(Adesk::Int16& field, Adesk::Int32 value) {
+    field = static_cast<Adesk::Int16>(value);
+}
+inline void Into(Adesk::UInt16& field, Adesk::Int32 value) {
+    field = static_cast<Adesk::UInt16>(value);
+}
+inline void Into(double& field, double value) {
+    field = value;
+}
+inline void Into(CString& field, const std::string& value) {
+    field = value.c_str();
+}
+inline void Into(AcDbObjectId& field, const AcDbObjectId& value) {
+    field = value;
+}
 void Into(AcArray<double>& field, const std::vector<double>& value);
 void Into(CArray<AcArray<double>, AcArray<double>>& field, const std::vector<std::vector<double>>& value);
 void Into(CStringArray& field, const std::vector<std::string>& value);
 } // namespace FieldValue
 
 /// The rows of class T as the platform's field table.
-template <class T> class CFieldTableOf final : public CFieldTable {
+template <class T>
+class CFieldTableOf final : public CFieldTable {
 public:
-    explicit CFieldTableOf(std::span<const CFieldRow<T>> rows) : m_rows(rows) {}
+    explicit CFieldTableOf(std::span<const CFieldRow<T>> rows)
+        : m_rows(rows) {}
 
     int Count() const override { return static_cast<int>(m_rows.size()); }
     CFieldInfo Info(int index) const override {
@@ -71,12 +102,14 @@ public:
 private:
     const CFieldRow<T>& Row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
 
-    template <class M> static CFieldValue Read(const T& object, M T::*pMember) {
+    template <class M>
+    static CFieldValue Read(const T& object, M T::*pMember) {
         return FieldValue::From(object.*pMember);
     }
     static CFieldValue Read(const T& object, CFlagMember<T> flag) { return CFlag{object.*flag.m_pMember}; }
 
-    template <class M> static int Write(T& object, M T::*pMember, const CFieldValue& value) {
+    template <class M>
+    static int Write(T& object, M T::*pMember, const CFieldValue& value) {
         return std::visit(
             [&](const auto& given) {
                 if constexpr (requires { FieldValue::Into(object.*pMember, given); } &&

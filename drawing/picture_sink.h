@@ -1,13 +1,14 @@
 #pragma once
-// Where a picture element goes. An element says once what is drawn; a sink makes of it what its form of output needs.
+// Where a picture element goes. An element says once what is drawn; a sink makes of it what its form of
+// output needs.
 
 #include "platform/acad/geometry.h"
 #include "platform/mfc/string.h"
 
 enum class CTextDirection { Horizontal = 0, Vertical = 1 };
 
-/// Strokes of the chart and the frame. Points are drawing units; "dashed" is line type "Dashed2" in colour index 2;
-/// everything else is in the colour and line type of the entity unless said.
+/// Strokes of the chart and the frame. Points are drawing units; "dashed" is line type "Dashed2" in colour
+/// index 2; everything else is in the colour and line type of the entity unless said.
 class CPictureSink {
 public:
     virtual ~CPictureSink() = default;

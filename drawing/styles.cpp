@@ -27,13 +27,13 @@ struct CStyleSettings {
     bool m_bShx;
 
     explicit CStyleSettings(const CString& strSection)
-        : m_fHeight(Number(strSection, "Font_Height", "2.5")),
-          m_fWidthFactor(Number(strSection, "Font_WidthFactor", "0.7")),
-          m_fOblique(Number(strSection, "Font_Oblique", "0")),
-          m_strFontName(Text<50>(strSection, "Font_FontName", "仿宋_GB2312")),
-          m_strFileName(Text<50>(strSection, "Font_FileName", "ComFont.shx")),
-          m_strBigFileName(Text<50>(strSection, "Font_BigFileName", "Hztxt12a.shx")),
-          m_bShx(GetPrivateProfileIntA(strSection, "Font_IsSHX", 0, g_strSettingsIni) != 0) {}
+        : m_fHeight(Number(strSection, "Font_Height", "2.5"))
+        , m_fWidthFactor(Number(strSection, "Font_WidthFactor", "0.7"))
+        , m_fOblique(Number(strSection, "Font_Oblique", "0"))
+        , m_strFontName(Text<50>(strSection, "Font_FontName", "仿宋_GB2312"))
+        , m_strFileName(Text<50>(strSection, "Font_FileName", "ComFont.shx"))
+        , m_strBigFileName(Text<50>(strSection, "Font_BigFileName", "Hztxt12a.shx"))
+        , m_bShx(GetPrivateProfileIntA(strSection, "Font_IsSHX", 0, g_strSettingsIni) != 0) {}
 
 private:
     template <std::size_t nBuffer>

@@ -5,18 +5,19 @@
 #include "platform/acad/gi_text_style.h"
 #include "platform/mfc/string.h"
 
-/// The one style of the world form, shared by chart and frame. Its size is whatever the last user set: every routine
-/// sets the size it needs before it draws.
+/// The one style of the world form, shared by chart and frame. Its size is whatever the last user set: every
+/// routine sets the size it needs before it draws.
 extern AcGiTextStyle g_ChartTextStyle;
 
 /// The look of the chart's texts: upright "仿宋_GB2312", size 2.5, set with 80 percent of its advance widths.
 void SetupChartTextStyle(AcGiTextStyle& style);
 
-/// Makes the text style of that name in the drawing's table from the section of that name in the settings ini, or
-/// brings an existing one up to date, and makes it current. A null database is the working one. Returns 1.
+/// Makes the text style of that name in the drawing's table from the section of that name in the settings
+/// ini, or brings an existing one up to date, and makes it current. A null database is the working one.
+/// Returns 1.
 int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDatabase* pDatabase);
 
-/// Id of a line type; one that the drawing lacks is loaded from "acad.lin", and then the id stays as it was until the
-/// next lookup. A lookup of "Dashed2" also sets the drawing's line type scale to 10. A null database is the working
-/// one. 1, or 0 when it could not be loaded.
+/// Id of a line type; one that the drawing lacks is loaded from "acad.lin", and then the id stays as it was
+/// until the next lookup. A lookup of "Dashed2" also sets the drawing's line type scale to 10. A null
+/// database is the working one. 1, or 0 when it could not be loaded.
 int LoadLinetypeId(const CString& strName, AcDbDatabase* pDatabase, AcDbObjectId& idLinetype);

@@ -8,7 +8,10 @@ class CWorldSink final : public CPictureSink {
 public:
     /// nColor: the chart's colour index, restored after every stroke of another colour.
     CWorldSink(AcGiWorldDraw* pMode, Adesk::Int16 nPolylineMode, Adesk::UInt16 nColor)
-        : m_pMode(pMode), m_nPolylineMode(nPolylineMode), m_nColor(nColor), m_polyline(2) {}
+        : m_pMode(pMode)
+        , m_nPolylineMode(nPolylineMode)
+        , m_nColor(nColor)
+        , m_polyline(2) {}
 
     void Line(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override;
     void LineInChartColour(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override;
@@ -22,7 +25,8 @@ public:
     void DashedHalfCircle(const AcGePoint3d& ptCenter, double dRadius) override;
 
 private:
-    void TwoVertices(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dStartWidth, double dEndWidth);
+    void TwoVertices(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dStartWidth,
+                     double dEndWidth);
 
     AcGiWorldDraw* m_pMode;
     Adesk::Int16 m_nPolylineMode;

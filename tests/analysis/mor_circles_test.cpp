@@ -11,7 +11,8 @@ using CPair = std::pair<double, double>; // centre, radius
 
 CMorCircles Circles(const std::vector<CPair>& pairs) {
     CMorCircles circles;
-    for (const auto& [dCentre, dRadius] : pairs) circles.AddCircle(dCentre, dRadius);
+    for (const auto& [dCentre, dRadius] : pairs)
+        circles.AddCircle(dCentre, dRadius);
     return circles;
 }
 
@@ -30,7 +31,8 @@ double Degrees(double dPhi) {
 }
 
 /// Failure stresses as the readings of the published example reduce to them.
-const std::vector<CPair> g_smith34 = {Stresses(200, 200 + 281.72), Stresses(400, 400 + 319.61), Stresses(600, 600 + 383.04)};
+const std::vector<CPair> g_smith34 = {Stresses(200, 200 + 281.72), Stresses(400, 400 + 319.61),
+                                      Stresses(600, 600 + 383.04)};
 } // namespace
 
 TEST(MorCircles, AddCircleCountsFromZeroAndReturnsOne) {
@@ -120,7 +122,8 @@ TEST(FindEnvelope, FindsNoneWithFewerThanTwoCircles) {
 
 TEST(FindEnvelope, TakesTheTangentThatMostPairsShare) {
     const double dPhi0 = 0.4;
-    const CMorCircles circles = Circles({OnLine(100, 20, dPhi0), OnLine(220, 20, dPhi0), {300, 60}, OnLine(400, 20, dPhi0)});
+    const CMorCircles circles =
+        Circles({OnLine(100, 20, dPhi0), OnLine(220, 20, dPhi0), {300, 60}, OnLine(400, 20, dPhi0)});
     double dC = 0.0, dPhi = 0.0;
     EXPECT_EQ(circles.FindEnvelope(&dC, &dPhi), 1);
     EXPECT_NEAR(dC, 20.0, 1e-9);
@@ -128,7 +131,8 @@ TEST(FindEnvelope, TakesTheTangentThatMostPairsShare) {
 }
 
 TEST(FindEnvelope, KeepsTheValuesOfThePairThatMadeTheTangent) {
-    const CMorCircles circles = Circles({OnLine(100, 20, 0.4), OnLine(220, 20.0001, 0.4), OnLine(400, 20, 0.4)});
+    const CMorCircles circles =
+        Circles({OnLine(100, 20, 0.4), OnLine(220, 20.0001, 0.4), OnLine(400, 20, 0.4)});
     const ComTangent first = circles.TangentOfCircles(circles[0], circles[1]);
     double dC = 0.0, dPhi = 0.0;
     EXPECT_EQ(circles.FindEnvelope(&dC, &dPhi), 1);
@@ -178,7 +182,8 @@ TEST(FindEnvelope, LeavesTheOutputsWhenInterceptsLieJustBelowZero) {
 }
 
 TEST(FindEnvelope, CountsATangentThatIsNoNumberAsCandidate) {
-    // Pairs (0,1) and (1,2) give none; (0,2) alone prevents the fallback. All three tie, and a later near-tie wins.
+    // Pairs (0,1) and (1,2) give none; (0,2) alone prevents the fallback. All three tie, and a later near-tie
+    // wins.
     const CMorCircles circles = Circles({{100, 60}, {110, 5}, {120, 65}});
     ASSERT_TRUE(std::isnan(circles.TangentOfCircles(circles[0], circles[1]).m_dC));
     ASSERT_TRUE(std::isnan(circles.TangentOfCircles(circles[1], circles[2]).m_dC));
@@ -190,8 +195,8 @@ TEST(FindEnvelope, CountsATangentThatIsNoNumberAsCandidate) {
 }
 
 TEST(FindEnvelope, StartsATieAtTangentZeroEvenWhereItWasSkipped) {
-    // All three tangents of circle 0 fall below zero and are no candidates. Of the others (1,2) comes first and lies
-    // most central, so nothing beats it, and the index it started with is the result.
+    // All three tangents of circle 0 fall below zero and are no candidates. Of the others (1,2) comes first
+    // and lies most central, so nothing beats it, and the index it started with is the result.
     const CMorCircles circles = Circles({{100, 1}, {200, 80}, {300, 110}, {400, 145}});
     const ComTangent skipped = circles.TangentOfCircles(circles[0], circles[1]);
     ASSERT_LT(skipped.m_dC, 0.0);
@@ -258,7 +263,8 @@ TEST_P(TangentCase, HasEachPairsLineAtRadiusFromBothCentres) {
             const ComTangent t = circles.TangentOfCircles(circles[i], circles[j]);
             if (std::isnan(t.m_dC)) continue;
             for (const int k : {i, j}) {
-                const double dDistance = t.m_dC * std::cos(t.m_dPhi) + circles[k].m_dCentre * std::sin(t.m_dPhi);
+                const double dDistance =
+                    t.m_dC * std::cos(t.m_dPhi) + circles[k].m_dCentre * std::sin(t.m_dPhi);
                 EXPECT_NEAR(dDistance, circles[k].m_dRadius, 1e-9) << i << ' ' << j;
             }
         }
@@ -279,7 +285,8 @@ TEST_P(TangentCase, GivesEachPairTheSameLineInAnyOrder) {
     std::sort(permuted.begin(), permuted.end());
     do {
         double dC = 0.0, dPhi = 0.0;
-        EXPECT_EQ(Circles(permuted).FindEnvelope(&dC, &dPhi), 1); // the choice among ties may change, not that there is one
+        EXPECT_EQ(Circles(permuted).FindEnvelope(&dC, &dPhi),
+                  1); // the choice among ties may change, not that there is one
     } while (permuted.size() <= 5 && std::next_permutation(permuted.begin(), permuted.end()));
 }
 
@@ -304,4 +311,5 @@ TEST(FindEnvelope, DoublesCohesionAndKeepsTheAngleWhenStressesDouble) {
     EXPECT_GE(nTried, 4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Named, TangentCase, testing::ValuesIn(TangentCases()), [](const auto& sample) { return TestName(sample.param.m_strName); });
+INSTANTIATE_TEST_SUITE_P(Named, TangentCase, testing::ValuesIn(TangentCases()),
+                         [](const auto& sample) { return TestName(sample.param.m_strName); });

@@ -97,9 +97,9 @@ TEST(ReduceReading, DividesByAVanishedHeightAsArithmeticDoes) {
 
 TEST(NegativeCheck, PassesExactlyMinusOneHundredth) {
     double CTestReading::*const checked[] = {
-        &CTestReading::m_dSYGD,  &CTestReading::m_dSYZJ, &CTestReading::m_dCLHXS,
-        &CTestReading::m_dWY,    &CTestReading::m_dCLHDS, &CTestReading::m_dZXBX,
-        &CTestReading::m_dJQPS,  &CTestReading::m_dKXYL, &CTestReading::m_dGJKXYL};
+        &CTestReading::m_dSYGD, &CTestReading::m_dSYZJ,  &CTestReading::m_dCLHXS,
+        &CTestReading::m_dWY,   &CTestReading::m_dCLHDS, &CTestReading::m_dZXBX,
+        &CTestReading::m_dJQPS, &CTestReading::m_dKXYL,  &CTestReading::m_dGJKXYL};
     for (double CTestReading::*pMember : checked) {
         CTestReading r = Reading();
         r.*pMember = -0.01;
@@ -137,7 +137,8 @@ TEST(Reduction, RefusesAnUndrainedTestWhosePorePressurePassesTheCellPressure) {
 
 TEST(Reduction, FeedsCurveAndCirclesByTheRowsKind) {
     std::vector<CTestReading> readings;
-    for (const int nKind : {0, 1, 2, 3, -1}) readings.push_back(Reading(100.0, static_cast<Adesk::Int8>(nKind)));
+    for (const int nKind : {0, 1, 2, 3, -1})
+        readings.push_back(Reading(100.0, static_cast<Adesk::Int8>(nKind)));
     const CRun run(g_pMethodUU, readings);
     ASSERT_EQ(run.m_nResult, 1);
     EXPECT_EQ(run.m_chart.m_arSigma3.length(), 2); // kinds 1 and 2, at one cell pressure
@@ -155,8 +156,8 @@ TEST(Reduction, CountsEveryRowTowardsTheGreatestValues) {
 TEST(Reduction, WritesSixTotalValuesAFailureRow) {
     const CRun run(g_pMethodUU, {Reading(100.0, 1)});
     const double s1 = 100.0 + 149.91;
-    EXPECT_EQ(List(run.m_chart.m_arTotal),
-              (std::vector<double>{100.0, s1, s1 + 100.0, s1 - 100.0, (s1 + 100.0) / 2.0, (s1 - 100.0) / 2.0}));
+    EXPECT_EQ(List(run.m_chart.m_arTotal), (std::vector<double>{100.0, s1, s1 + 100.0, s1 - 100.0,
+                                                                (s1 + 100.0) / 2.0, (s1 - 100.0) / 2.0}));
     EXPECT_TRUE(run.m_chart.m_arEffective.isEmpty());
 }
 
@@ -199,7 +200,8 @@ TEST(Reduction, DrawsCurvesWithoutCirclesAndSaysSo) {
 }
 
 TEST(Reduction, StartsNoSeriesForAGroupOfFailureRowsOnly) {
-    const CRun run(g_pMethodUU, {Reading(100, 0, 1), Reading(100, 2, 1), Reading(200, 1, 2), Reading(300, 2, 3)});
+    const CRun run(g_pMethodUU,
+                   {Reading(100, 0, 1), Reading(100, 2, 1), Reading(200, 1, 2), Reading(300, 2, 3)});
     EXPECT_EQ(run.m_chart.m_arSigma3.length(), 3);
     EXPECT_EQ(run.m_chart.m_arStrainSeries.GetSize(), 2);
     EXPECT_EQ(run.m_chart.m_arStressSeries.GetSize(), 2);
@@ -271,7 +273,9 @@ TEST_P(MeasuredSet, ReproducesItsFailureStressesOrIsRefused) {
         nChecked++;
     }
     EXPECT_GT(nChecked, 0);
-    for (const double dValue : run.m_chart.m_arTotal) EXPECT_TRUE(std::isfinite(dValue));
+    for (const double dValue : run.m_chart.m_arTotal)
+        EXPECT_TRUE(std::isfinite(dValue));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, MeasuredSet, testing::ValuesIn(ReadingSets()), [](const auto& sample) { return TestName(sample.param); });
+INSTANTIATE_TEST_SUITE_P(All, MeasuredSet, testing::ValuesIn(ReadingSets()),
+                         [](const auto& sample) { return TestName(sample.param); });

@@ -32,8 +32,8 @@ TEST(ChooseScales, LeavesOneRowOfAirAboveTheGreatestCircle) {
 }
 
 TEST(ChooseScales, TakesTheHalfCellAsPartOfSevenTenths) {
-    EXPECT_EQ(ChooseScales(1, 1, 90, 25.0).m_nMohrRows, 4);  // 2.5 cells
-    EXPECT_EQ(ChooseScales(1, 1, 90, 27.5).m_nMohrRows, 5);  // 2.75 cells
+    EXPECT_EQ(ChooseScales(1, 1, 90, 25.0).m_nMohrRows, 4); // 2.5 cells
+    EXPECT_EQ(ChooseScales(1, 1, 90, 27.5).m_nMohrRows, 5); // 2.75 cells
 }
 
 TEST(ChooseScales, SurvivesStressesThatAreNoFiniteNumber) {

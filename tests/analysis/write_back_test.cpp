@@ -32,8 +32,9 @@ TEST_F(WriteBack, StoresRoundedValuesOfTheMethodAndClearsTheOthers) {
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
     EXPECT_EQ(m_project.Number("SELECT UUC FROM z_c_SanZhou"), static_cast<double>(12.35F));
     EXPECT_EQ(m_project.Number("SELECT UUF FROM z_c_SanZhou"), static_cast<double>(6.67F));
-    EXPECT_EQ(m_project.Query("SELECT count(*) FROM z_c_SanZhou WHERE CUC IS NULL AND CUF IS NULL AND CUCE IS NULL AND "
-                              "CUFE IS NULL AND CDC IS NULL AND CDF IS NULL"),
+    EXPECT_EQ(m_project.Query(
+                  "SELECT count(*) FROM z_c_SanZhou WHERE CUC IS NULL AND CUF IS NULL AND CUCE IS NULL AND "
+                  "CUFE IS NULL AND CDC IS NULL AND CDF IS NULL"),
               "1");
 }
 
@@ -42,11 +43,13 @@ TEST_F(WriteBack, StoresBothSetsOfAnUndrainedTestAndClearsAnEarlierMethods) {
     m_project.Execute("UPDATE z_c_SanZhou SET UUC=1, UUF=2, CDC=5, CDF=6");
     m_chart.m_strSYFF = g_pMethodCU;
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
-    EXPECT_EQ(m_project.Query("SELECT round(CUC,2)||' '||round(CUF,2)||' '||round(CUCE,2)||' '||round(CUFE,2) "
-                              "FROM z_c_SanZhou"),
-              "12.35 6.67 -1.24 30.12"); // 30.125 is a tie, which "%.2f" gives to the even digit
-    EXPECT_EQ(m_project.Query("SELECT count(*) FROM z_c_SanZhou WHERE UUC IS NULL AND UUF IS NULL AND CDC IS NULL AND "
-                              "CDF IS NULL"),
+    EXPECT_EQ(
+        m_project.Query("SELECT round(CUC,2)||' '||round(CUF,2)||' '||round(CUCE,2)||' '||round(CUFE,2) "
+                        "FROM z_c_SanZhou"),
+        "12.35 6.67 -1.24 30.12"); // 30.125 is a tie, which "%.2f" gives to the even digit
+    EXPECT_EQ(m_project.Query(
+                  "SELECT count(*) FROM z_c_SanZhou WHERE UUC IS NULL AND UUF IS NULL AND CDC IS NULL AND "
+                  "CDF IS NULL"),
               "1");
 }
 

@@ -11,7 +11,8 @@ constexpr double g_dBaseX = 1000.0, g_dBaseY = 500.0;
 void Prepare(CBRENChart& chart, const char* pMethod, int nSamples, int nMohrRows) {
     chart.m_ptBase.set(g_dBaseX, g_dBaseY, 7.0);
     chart.m_strSYFF = pMethod;
-    for (int i = 0; i < 6 * nSamples; i++) chart.m_arTotal.append(1.0);
+    for (int i = 0; i < 6 * nSamples; i++)
+        chart.m_arTotal.append(1.0);
     chart.m_nMohrRows = nMohrRows;
     chart.m_dMohrStepX = chart.m_dMohrStepY = 50.0;
     chart.m_dMaxSigma1 = 400.0;
@@ -58,7 +59,8 @@ TEST(ArrangePanels, StacksFiveSamples) {
     EXPECT_EQ(chart.m_ptTableOrigin.x, g_dBaseX + (176.0 - 90.0) / 2.0);
     EXPECT_DOUBLE_EQ(chart.m_ptTableOrigin.y, chart.m_ptCurveOrigin.y - dAir);
     EXPECT_EQ(chart.m_ptMohrOrigin.x, g_dBaseX + (176.0 - 145.0) / 2.0);
-    EXPECT_DOUBLE_EQ(chart.m_ptMohrOrigin.y, chart.m_ptTableOrigin.y - dAir - 52.0); // the grid's height is left out
+    EXPECT_DOUBLE_EQ(chart.m_ptMohrOrigin.y,
+                     chart.m_ptTableOrigin.y - dAir - 52.0); // the grid's height is left out
     EXPECT_EQ(chart.m_ptSummaryOrigin.x, chart.m_ptMohrOrigin.x + 100.0 + 15.0);
     EXPECT_DOUBLE_EQ(chart.m_ptSummaryOrigin.y, chart.m_ptMohrOrigin.y + 60.0 - (60.0 - 48.0) / 2.0);
 }

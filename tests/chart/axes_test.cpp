@@ -1,8 +1,8 @@
 #include "chart/axes.h"
 
+#include "chart/chart_entity.h"
 #include "drawing/styles.h"
 #include "drawing/world_sink.h"
-#include "chart/chart_entity.h"
 #include "platform/acad/display_recorder.h"
 #include "tests/support/drawing.h"
 
@@ -24,7 +24,8 @@ CDisplayList Draw(const CAxes& axes) {
 
 std::vector<std::string> Texts(const CDisplayList& list) {
     std::vector<std::string> texts;
-    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(list)) texts.push_back(text.m_strText);
+    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(list))
+        texts.push_back(text.m_strText);
     return texts;
 }
 } // namespace
@@ -90,7 +91,8 @@ TEST(ChartAxes, WithSevenRowsLabelNotTheTopLine) {
     const CDisplayList list = Draw(axes);
     EXPECT_EQ(Texts(list), (std::vector<std::string>{"0", "40", "80", "120", "XX", "YY"}));
     const auto texts = Shapes<CTextPrimitive>(list);
-    for (int i = 0; i < 4; i++) EXPECT_EQ(texts[static_cast<std::size_t>(i)].m_ptPosition.y, 50.0 + 20.0 * i);
+    for (int i = 0; i < 4; i++)
+        EXPECT_EQ(texts[static_cast<std::size_t>(i)].m_ptPosition.y, 50.0 + 20.0 * i);
     EXPECT_DOUBLE_EQ(texts[1].m_ptPosition.x, 100.0 - 2.0 - 2 * 0.8 * 2.5 * 0.7);
 }
 

@@ -53,7 +53,8 @@ TEST(ChartFields, TakeBackWhatTheyGave) {
     series.append(0.1);
     series.append(0.2);
     from.m_arStrainSeries.Add(series);
-    for (int i = 0; i < table.Count(); i++) ASSERT_EQ(table.Set(to, i, table.Get(from, i)), 1) << table.Info(i).m_pName;
+    for (int i = 0; i < table.Count(); i++)
+        ASSERT_EQ(table.Set(to, i, table.Get(from, i)), 1) << table.Info(i).m_pName;
     EXPECT_TRUE(to.m_ptBase == from.m_ptBase);
     EXPECT_EQ(to.m_nCurveRows, 7);
     EXPECT_EQ(to.m_nPolylineMode, -1);

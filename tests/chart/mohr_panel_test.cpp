@@ -38,7 +38,8 @@ std::vector<CPrimitive> Envelopes(const CDisplayList& list) {
         const auto* pLine = std::get_if<CPlinePrimitive>(&primitive.m_shape);
         if (pLine && pLine->m_arVertices.size() == 2 && pLine->m_arVertices[1].m_pt.x == 90.0 &&
             (pLine->m_arVertices[1].m_pt.y == 60.0 || pLine->m_arVertices[1].m_pt.y == 70.0) &&
-            pLine->m_arVertices[0].m_pt.x == 10.0 && pLine->m_arVertices[0].m_pt.y != pLine->m_arVertices[1].m_pt.y)
+            pLine->m_arVertices[0].m_pt.x == 10.0 &&
+            pLine->m_arVertices[0].m_pt.y != pLine->m_arVertices[1].m_pt.y)
             lines.push_back(primitive);
     }
     return lines;
@@ -70,7 +71,8 @@ TEST(MohrPanel, ShowsNoEffectiveSetForOtherMethods) {
         const CDisplayList list = DrawEntity(chart);
         EXPECT_EQ(Arcs(list).size(), 1U);
         EXPECT_EQ(Envelopes(list).size(), 1U);
-        for (const CPrimitive& primitive : list) EXPECT_NE(primitive.m_nColor, 2);
+        for (const CPrimitive& primitive : list)
+            EXPECT_NE(primitive.m_nColor, 2);
     }
 }
 

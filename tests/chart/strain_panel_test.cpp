@@ -39,7 +39,8 @@ struct CCurves {
     }
     int Dots() {
         int nDots = 0;
-        for (const CPrimitive& primitive : DrawEntity(m_chart)) nDots += primitive.m_nColor == 1;
+        for (const CPrimitive& primitive : DrawEntity(m_chart))
+            nDots += primitive.m_nColor == 1;
         return nDots;
     }
 };
@@ -107,15 +108,16 @@ TEST(StrainCurves, OfSeveralSpecimensStandByThemselves) {
     CCurves curves({g_rising, g_rising}, 0);
     const auto splines = curves.Splines();
     ASSERT_EQ(splines.size(), 2U);
-    for (const CPrimitive& spline : splines) EXPECT_EQ(spline.m_strLinetype, "ByLayer");
+    for (const CPrimitive& spline : splines)
+        EXPECT_EQ(spline.m_strLinetype, "ByLayer");
     EXPECT_EQ(curves.Dots(), 6);
 }
 
 TEST(StrainCurves, OfStagesAreCutWhereTheNextOneCrosses) {
     // The first stage rises along a line, the second crosses it from below at x = 25, y = 50.
-    CCurves curves({{{0.0, 0}, {0.02, 40}, {0.03, 60}, {0.04, 80}},
-                    {{0.02, 30}, {0.025, 50}, {0.03, 75}, {0.05, 140}}},
-                   1);
+    CCurves curves(
+        {{{0.0, 0}, {0.02, 40}, {0.03, 60}, {0.04, 80}}, {{0.02, 30}, {0.025, 50}, {0.03, 75}, {0.05, 140}}},
+        1);
     const auto splines = curves.Splines();
     // Stage 1 solid then dashed, stage 2 dashed up to the crossing, its rest solid.
     ASSERT_EQ(splines.size(), 4U);
@@ -155,7 +157,8 @@ TEST(StrainCurves, OfAFallingStageAreDashedAfterTheirPeakWhenNothingCrosses) {
 TEST(StrainCurves, OfAFallingStageAreCutOnTheirWayDown) {
     CCurves curves({{{0.0, 0}, {0.02, 40}, {0.04, 20}}, {{0.02, 0}, {0.03, 30}, {0.04, 60}}}, 1);
     const auto splines = curves.Splines();
-    // Head solid; tail: by height its first part is the crossing alone, the rest solid; stage 2 dashed, then solid.
+    // Head solid; tail: by height its first part is the crossing alone, the rest solid; stage 2 dashed, then
+    // solid.
     ASSERT_EQ(splines.size(), 5U);
     EXPECT_EQ(splines[0].m_strLinetype, "ByLayer");
     EXPECT_EQ(splines[1].m_strLinetype, "Dashed2");

@@ -42,7 +42,8 @@ TEST(WorldDraw, TitlesBothPanels) {
     CBRENChart chart;
     Prepare(chart);
     std::vector<std::string> texts;
-    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(DrawEntity(chart))) texts.push_back(text.m_strText);
+    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(DrawEntity(chart)))
+        texts.push_back(text.m_strText);
     for (const char* pTitle : {"轴向应变ε (%)", "主应力差σ-σ (kPa)", "σ (kPa)", "τ (kPa)"})
         EXPECT_EQ(std::count(texts.begin(), texts.end(), pTitle), 1) << pTitle;
 }

@@ -13,5 +13,6 @@ CTestDrawing::~CTestDrawing() {
 }
 
 std::string CTestDrawing::FindFile(const std::string& strName) {
-    return m_bHasLinetypeFile && strName == "acad.lin" ? std::string(TERVO_TEST_DATA) + "/acad.lin" : std::string();
+    return m_bHasLinetypeFile && strName == "acad.lin" ? std::string(TERVO_TEST_DATA) + "/acad.lin"
+                                                       : std::string();
 }

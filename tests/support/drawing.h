@@ -13,8 +13,8 @@ public:
     }
 };
 
-/// A drawing in force, a line type file that holds "Dashed2", and fixed text widths, for the length of a test. What
-/// the module prints is kept.
+/// A drawing in force, a line type file that holds "Dashed2", and fixed text widths, for the length of a
+/// test. What the module prints is kept.
 class CTestDrawing final : public CEditorHost {
 public:
     CTestDrawing();
@@ -36,7 +36,8 @@ private:
 };
 
 /// Primitives of one kind, in the order drawn.
-template <class T> std::vector<T> Shapes(const CDisplayList& list) {
+template <class T>
+std::vector<T> Shapes(const CDisplayList& list) {
     std::vector<T> shapes;
     for (const CPrimitive& primitive : list)
         if (const T* pShape = std::get_if<T>(&primitive.m_shape)) shapes.push_back(*pShape);

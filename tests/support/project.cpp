@@ -25,7 +25,8 @@ INSERT INTO x_GongCheng VALUES (1, 'GC-1', '', 0, 0);
 
 std::string Quoted(const char* pText) {
     std::string strText = "'";
-    for (const char c : ToUtf8(pText)) strText += c == '\'' ? std::string("''") : std::string(1, c);
+    for (const char c : ToUtf8(pText))
+        strText += c == '\'' ? std::string("''") : std::string(1, c);
     return strText + "'";
 }
 } // namespace
@@ -56,7 +57,8 @@ CTestProject::~CTestProject() {
     SetMessageBoxHost({});
     sqlite3_close(m_pDatabase);
     SetInstallationRoot("");
-    for (CString* pIni : {&g_strProjectIni, &g_strSettingsIni, &g_strMarksIni}) pIni->Empty();
+    for (CString* pIni : {&g_strProjectIni, &g_strSettingsIni, &g_strMarksIni})
+        pIni->Empty();
     std::filesystem::remove_all(m_strRoot);
 }
 
@@ -87,12 +89,12 @@ double CTestProject::Number(const std::string& strSql) {
 }
 
 void CTestProject::AddSample(const char* pZKBH, const char* pQYBH, const char* pSYFF) {
-    Execute("INSERT INTO z_c_SanZhou (GCSY, ZKBH, QYBH, SYFF) VALUES (1, " + Quoted(pZKBH) + ", " + Quoted(pQYBH) + ", " +
-            Quoted(pSYFF) + ")");
+    Execute("INSERT INTO z_c_SanZhou (GCSY, ZKBH, QYBH, SYFF) VALUES (1, " + Quoted(pZKBH) + ", " +
+            Quoted(pQYBH) + ", " + Quoted(pSYFF) + ")");
 }
 
-void CTestProject::AddReading(const char* pZKBH, const char* pQYBH, int nSJBH, int nSHJHXH, double dWY, double dCLHDS,
-                              double dZXBX, int nJLLX) {
+void CTestProject::AddReading(const char* pZKBH, const char* pQYBH, int nSJBH, int nSHJHXH, double dWY,
+                              double dCLHDS, double dZXBX, int nJLLX) {
     Execute("INSERT INTO z_c_SanZhouCSXM VALUES (1, " + Quoted(pZKBH) + ", " + Quoted(pQYBH) + ", " +
             std::to_string(nSJBH) + ", " + std::to_string(nSHJHXH) + ", " + std::to_string(dWY) +
             ", 80, 39.1, 1, 0, " + std::to_string(dCLHDS) + ", " + std::to_string(dZXBX) + ", 0, 0, 0, " +

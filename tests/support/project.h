@@ -8,8 +8,8 @@
 
 struct sqlite3;
 
-/// An installation in a folder of its own with project 1 running; the module's ini paths and the installation root
-/// point there, and message boxes are kept (answered OK, or as told). All of it ends with the object.
+/// An installation in a folder of its own with project 1 running; the module's ini paths and the installation
+/// root point there, and message boxes are kept (answered OK, or as told). All of it ends with the object.
 class CTestProject {
 public:
     CTestProject();
@@ -26,9 +26,10 @@ public:
     std::string Query(const std::string& strSql); ///< first column of the first row, UTF-8; "" without a row
     double Number(const std::string& strSql);
     void AddSample(const char* pZKBH, const char* pQYBH, const char* pSYFF);
-    /// A reading of a specimen 80 mm by 39.1 mm under a ring of coefficient 1, without water and pore pressure.
-    void AddReading(const char* pZKBH, const char* pQYBH, int nSJBH, int nSHJHXH, double dWY, double dCLHDS, double dZXBX,
-                    int nJLLX);
+    /// A reading of a specimen 80 mm by 39.1 mm under a ring of coefficient 1, without water and pore
+    /// pressure.
+    void AddReading(const char* pZKBH, const char* pQYBH, int nSJBH, int nSHJHXH, double dWY, double dCLHDS,
+                    double dZXBX, int nJLLX);
 
 private:
     std::string m_strRoot;

@@ -47,7 +47,8 @@ std::vector<std::map<std::string, std::string>> CsvRows(const std::string& strPa
     while (std::getline(file, strLine)) {
         const std::vector<std::string> cells = Cells(strLine);
         auto& row = rows.emplace_back();
-        for (std::size_t i = 0; i < names.size() && i < cells.size(); i++) row[names[i]] = cells[i];
+        for (std::size_t i = 0; i < names.size() && i < cells.size(); i++)
+            row[names[i]] = cells[i];
     }
     return rows;
 }

@@ -1,0 +1,102 @@
+#include "commands/sheet_maker.h"
+
+#include "tests/support/drawing.h"
+#include "tests/support/project.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+class SheetMaker : public testing::Test {
+protected:
+    CTestProject m_project;
+    CTestDrawing m_drawing;
+    CArray<QYPropty> m_samples;
+
+    SheetMaker() { CBRENChart::rxInit(); }
+    ~SheetMaker() override { CBRENChart::rxExit(); }
+
+    void Samples(int nSamples) {
+        for (int i = 1; i <= nSamples; i++) {
+            CString strQYBH;
+            strQYBH.Format("1-%d", i);
+            m_project.AddSample("ZK1", strQYBH, g_pMethodUU);
+            m_project.AddReading("ZK1", strQYBH, 1, 1, 100, 200, 500, 2);
+            m_project.AddReading("ZK1", strQYBH, 2, 1, 200, 300, 500, 2);
+            m_samples.Add({"ZK1", strQYBH, g_pMethodUU, "2.00", "20.9", "0.50", "12.00", "粘土"});
+        }
+    }
+    int Place(Adesk::Int32 nGCBZ) {
+        return CSheetMaker(&m_drawing.Database(), 1, "GC-1", nGCBZ).PlaceGroup(m_samples, {0, 0, 4});
+    }
+    std::vector<AcGePoint3d> Bases() {
+        std::vector<AcGePoint3d> bases;
+        const CDbOpen<AcDbBlockTableRecord> pSpace(m_drawing.Database().ModelSpaceId());
+        for (const AcDbObjectId id : pSpace->EntityIds())
+            if (const CDbOpen<CBRENChart> pChart(id); pChart) bases.push_back(pChart->m_ptBase);
+        return bases;
+    }
+};
+} // namespace
+
+TEST_F(SheetMaker, PlacesOneChartASheet) {
+    Samples(2);
+    ASSERT_EQ(Place(0), 1);
+    const auto bases = Bases();
+    ASSERT_EQ(bases.size(), 2U);
+    EXPECT_TRUE(bases[0] == AcGePoint3d(25, 262, 0));
+    EXPECT_TRUE(bases[1] == AcGePoint3d(245, 262, 0));
+}
+
+TEST_F(SheetMaker, PlacesTwoChartsASheetOfStandardTwoWhereSheetsOverlap) {
+    Samples(3);
+    ASSERT_EQ(Place(2), 1);
+    const auto bases = Bases();
+    ASSERT_EQ(bases.size(), 3U);
+    EXPECT_EQ(bases[0].x, 13.0);
+    EXPECT_EQ(bases[1].x, 233.0);
+    EXPECT_EQ(bases[2].x, 233.0); // the second sheet's first chart stands on the first sheet's second
+    EXPECT_EQ(bases[0].y, 267.0);
+}
+
+TEST_F(SheetMaker, FillsTheChartFromTheSample) {
+    Samples(1);
+    ASSERT_EQ(Place(0), 1);
+    const CDbOpen<AcDbBlockTableRecord> pSpace(m_drawing.Database().ModelSpaceId());
+    const CDbOpen<CBRENChart> pChart(pSpace->EntityIds().at(0));
+    ASSERT_TRUE(pChart);
+    EXPECT_EQ(pChart->m_nGCSY, 1);
+    EXPECT_TRUE(pChart->m_strGCBH == "GC-1");
+    EXPECT_TRUE(pChart->m_strQYBH == "1-1");
+    EXPECT_TRUE(pChart->m_strWater == "20.9");
+    EXPECT_TRUE(pChart->m_strLiquidity == "0.50");
+    EXPECT_TRUE(pChart->m_strPlasticity == "12.00");
+    EXPECT_TRUE(pChart->m_strSoilName == "粘土");
+    EXPECT_EQ(pChart->m_nColor, 3);
+    EXPECT_EQ(pChart->colorIndex(), 3);
+    EXPECT_EQ(SymbolName(pChart->m_idTextStyle), "QM_PMT_BTFont");
+}
+
+TEST_F(SheetMaker, StoresTheValuesOfEveryChart) {
+    Samples(2);
+    ASSERT_EQ(Place(0), 1);
+    EXPECT_EQ(m_project.Query("SELECT count(*) FROM z_c_SanZhou WHERE UUC IS NOT NULL AND UUF IS NOT NULL"),
+              "2");
+}
+
+TEST_F(SheetMaker, StopsAtFaultyDataAndKeepsWhatStands) {
+    Samples(3);
+    m_project.Execute("DELETE FROM z_c_SanZhouCSXM WHERE QYBH='1-2'");
+    EXPECT_EQ(Place(0), 0);
+    EXPECT_EQ(Bases().size(), 1U);
+    EXPECT_EQ(m_project.Boxes(), (std::vector<std::string>{"三轴剪切试验初始数据错误!"}));
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n数据库z_c_SanZhouCSXM无初始数据!");
+    EXPECT_EQ(m_project.Query("SELECT count(*) FROM z_c_SanZhou WHERE UUC IS NOT NULL"), "1");
+}
+
+TEST_F(SheetMaker, KeepsTheChartWhoseStoreFailed) {
+    Samples(1);
+    m_project.Execute("DELETE FROM z_c_SanZhou");
+    EXPECT_EQ(Place(0), 1);
+    EXPECT_EQ(Bases().size(), 1U);
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n三轴剪切试验表中无对应项!");
+}

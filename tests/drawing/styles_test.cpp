@@ -1,0 +1,122 @@
+#include "drawing/styles.h"
+
+#include "analysis/numbers.h"
+#include "tests/support/drawing.h"
+#include "tests/support/project.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace {
+class Styles : public testing::Test {
+protected:
+    CTestProject m_project;
+    CTestDrawing m_drawing;
+
+    void Settings(const std::string& strGbk) { std::ofstream(m_project.Root() + "/Settings.ini") << strGbk; }
+    AcDbObjectId Make() {
+        AcDbObjectId id;
+        EXPECT_EQ(CreateTextStyleFromIni("QM_PMT_BTFont", id, nullptr), 1);
+        return id;
+    }
+    struct CFont {
+        std::wstring m_strName;
+        Adesk::Boolean m_bBold, m_bItalic;
+        int m_nCharset, m_nPitch;
+    };
+    static CFont FontOf(const CDbOpen<AcDbTextStyleTableRecord>& pRecord) {
+        CFont font{};
+        pRecord->font(font.m_strName, font.m_bBold, font.m_bItalic, font.m_nCharset, font.m_nPitch);
+        return font;
+    }
+};
+} // namespace
+
+TEST_F(Styles, ChartStyleIsSetUpInFull) {
+    AcGiTextStyle style;
+    style.setObliquingAngle(1.0);
+    SetupChartTextStyle(style);
+    EXPECT_EQ(style.obliquingAngle(), 0.0);
+    EXPECT_STREQ(style.fileName(), L"仿宋_GB2312");
+    EXPECT_EQ(style.textSize(), 2.5);
+    EXPECT_EQ(style.xScale(), 1.0);
+    EXPECT_EQ(style.trackingPercent(), 80.0);
+}
+
+TEST_F(Styles, TextStyleOfAnEmptyIniHasTheDefaults) {
+    const AcDbObjectId id = Make();
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(id);
+    ASSERT_TRUE(pRecord);
+    const CFont font = FontOf(pRecord);
+    EXPECT_EQ(font.m_strName, L"仿宋_GB2312");
+    EXPECT_EQ(font.m_bBold, 0);
+    EXPECT_EQ(font.m_nCharset, 134);
+    EXPECT_EQ(font.m_nPitch, 4);
+    EXPECT_EQ(pRecord->textSize(), 2.5);
+    EXPECT_EQ(pRecord->xScale(), static_cast<double>(0.7F)); // values pass through single precision
+    EXPECT_EQ(pRecord->obliquingAngle(), 0.0);
+    EXPECT_EQ(m_drawing.Database().textstyle(), id);
+}
+
+TEST_F(Styles, TextStyleTakesTheShapeFontsWhenToldSo) {
+    Settings("[QM_PMT_BTFont]\nFont_IsSHX=1\n");
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(Make());
+    EXPECT_EQ(pRecord->FileName(), L"ComFont.shx");
+    EXPECT_EQ(pRecord->BigFontFileName(), L"Hztxt12a.shx");
+}
+
+TEST_F(Styles, TextStyleHeightIsCutByItsBuffer) {
+    Settings("[QM_PMT_BTFont]\nFont_Height=3.0000001234\nFont_Oblique=15\n");
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(Make());
+    EXPECT_EQ(pRecord->textSize(), static_cast<double>(3.0000001F)); // nine characters
+    EXPECT_EQ(pRecord->obliquingAngle(), 15.0 * g_dPi / 180.0);
+}
+
+TEST_F(Styles, AnExistingTextStyleIsBroughtUpToDate) {
+    const AcDbObjectId idFirst = Make();
+    Settings("[QM_PMT_BTFont]\nFont_Height=2.3\nFont_FontName=宋体\n");
+    const AcDbObjectId idSecond = Make();
+    EXPECT_EQ(idFirst, idSecond);
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(idSecond);
+    const CFont font = FontOf(pRecord);
+    EXPECT_EQ(font.m_strName, L"宋体");
+    EXPECT_EQ(font.m_nPitch, 1);
+    EXPECT_EQ(pRecord->textSize(), static_cast<double>(2.3F));
+}
+
+TEST_F(Styles, FirstLookupOfDashedLoadsItButGivesNoId) {
+    AcDbObjectId id;
+    EXPECT_EQ(LoadLinetypeId("Dashed2", nullptr, id), 1);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_EQ(m_drawing.Database().ltscale(), 10.0);
+    EXPECT_EQ(LoadLinetypeId("Dashed2", nullptr, id), 1);
+    EXPECT_FALSE(id.isNull());
+    EXPECT_EQ(SymbolName(id), "Dashed2");
+}
+
+TEST_F(Styles, EveryLookupOfDashedSetsTheScaleThatAUserMayHaveChanged) {
+    AcDbObjectId id;
+    LoadLinetypeId("Dashed2", nullptr, id);
+    m_drawing.Database().setLtscale(1.5);
+    LoadLinetypeId("Dashed2", nullptr, id);
+    EXPECT_EQ(m_drawing.Database().ltscale(), 10.0);
+}
+
+TEST_F(Styles, OtherLookupsLeaveTheScale) {
+    m_drawing.Database().setLtscale(1.5);
+    AcDbObjectId id;
+    EXPECT_EQ(LoadLinetypeId("Continuous", nullptr, id), 1);
+    EXPECT_FALSE(id.isNull());
+    EXPECT_EQ(m_drawing.Database().ltscale(), 1.5);
+    LoadLinetypeId("Dashed2", nullptr, id);
+    m_drawing.Database().setLtscale(1.5);
+    EXPECT_EQ(LoadLinetypeId("DASHED2", nullptr, id), 1); // found in any case, but not the name that is meant
+    EXPECT_EQ(m_drawing.Database().ltscale(), 1.5);
+}
+
+TEST_F(Styles, AMissingLineTypeIsToldAndLeavesTheId) {
+    AcDbObjectId id;
+    EXPECT_EQ(LoadLinetypeId("Zigzag", nullptr, id), 0);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_EQ(m_drawing.m_strPrinted, "未找到线型");
+}
