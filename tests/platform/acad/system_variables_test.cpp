@@ -12,7 +12,7 @@ namespace {
 std::wstring TextOf(const ACHAR* name) {
     resbuf value;
     if (acedGetVar(name, &value) != RTNORM || value.restype != RTSTR) return L"?";
-    const std::wstring text = value.resval.rstring;
+    std::wstring text = value.resval.rstring;
     acutDelString(value.resval.rstring);
     return text;
 }
