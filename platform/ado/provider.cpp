@@ -14,9 +14,8 @@ std::array<const CDbProvider*, 1> Providers() {
 
 std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection) {
     const CConnectionText text(strConnection);
-    const std::string strName = text.Value("Provider");
-    if (strName.empty())
-        throw CDbError(DbFailure::General, 0, "Database", "The connection text names no provider.");
+    const std::string strGiven = text.Value("Provider");
+    const std::string strName = strGiven.empty() ? std::string(SqliteProvider().Name()) : strGiven;
     std::string strKnown;
     for (const CDbProvider* pProvider : Providers()) {
         if (EqualNoCase(pProvider->Name(), strName)) return pProvider->Open(text);

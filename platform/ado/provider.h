@@ -64,6 +64,7 @@ public:
     [[nodiscard]] virtual std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const = 0;
 };
 
-/// Opens the database that a connection text names: `Provider=SQLite;Data Source=/path/file.db`. Throws
-/// CDbError when the provider is unknown or its database cannot be had. Never creates a database.
+/// Opens the database that a connection text names: `Provider=SQLite;Data Source=/path/file.db`; SQLite is
+/// meant where no provider is named. Throws CDbError when the provider is unknown or its database cannot be
+/// had. Never creates a database.
 std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection);

@@ -1,6 +1,5 @@
 #include "platform/ado/sqlite_provider.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "platform/ado/error.h"
@@ -9,6 +8,7 @@
 #include "platform/ado/sqlite_functions.h"
 #include "platform/ado/sqlite_statement.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
 
 namespace {
 
@@ -30,7 +30,8 @@ public:
     void Execute(std::span<const CDbValue> arParameters) override {
         sqlite3_reset(m_statement.Get());
         m_statement.Bind(arParameters);
-        while (m_statement.Step()) {}
+        while (m_statement.Step()) {
+        }
         sqlite3_reset(m_statement.Get());
     }
 
@@ -71,14 +72,15 @@ private:
     CSqliteHandle m_pDatabase;
 };
 
-/// The path in UTF-8, in a form that the engine takes for a plain file whatever its name begins with.
+/// The path in UTF-8 in the file system's spelling, in a form that the engine takes for a plain file whatever
+/// its name begins with.
 std::string FilePath(std::string_view strPath) {
-    std::string strUtf8;
     if (strPath.empty())
         throw CDbError(DbFailure::General, 0, "SQLite", "The connection text has no Data Source.");
-    if (!GbkToUtf8(strPath, &strUtf8))
+    std::string strUtf8;
+    ResolvePath("", strPath, &strUtf8);
+    if (strUtf8.empty())
         throw CDbError(DbFailure::NotInCodePage, 0, "SQLite", "The database's path is broken.");
-    std::replace(strUtf8.begin(), strUtf8.end(), '\\', '/');
     return strUtf8.front() == '/' ? strUtf8 : "./" + strUtf8;
 }
 

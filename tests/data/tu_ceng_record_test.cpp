@@ -1,0 +1,29 @@
+#include "data/tu_ceng_record.h"
+
+#include "data/criteria.h"
+#include "tests/support/suite_fixture.h"
+
+namespace {
+class TuCengRecord : public CSuiteTest {
+protected:
+    TuCengRecord() {
+        Execute(
+            "insert into z_g_TuCeng values(1,'ZK1',2,2,'填土'),(1,'ZK1',6,4,'粘土'),(1,'ZK2',9,9,'砂土')");
+    }
+    /// Name of the layer found for a sample; empty for none.
+    static std::string Layer(double dDepth, double dThickness) {
+        CTuCengRecord record;
+        if (!record.OpenRows(record.QueryFor(LayerCriterion(1, "ZK1", dDepth, dThickness)), 0, 1))
+            return "not open";
+        return record.MoveFirstRow() == 0 ? record.m_szTCMC : "";
+    }
+};
+} // namespace
+
+TEST_F(TuCengRecord, FindsTheLayerThatHoldsTheWholeSample) {
+    EXPECT_EQ(Layer(1.0, 0.5), "填土");
+    EXPECT_EQ(Layer(3.0, 0.5), "粘土");
+    EXPECT_EQ(Layer(2.0, 4.0), "粘土");
+    EXPECT_EQ(Layer(1.8, 0.5), "");
+    EXPECT_EQ(Layer(7.0, 0.5), "");
+}
