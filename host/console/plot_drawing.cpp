@@ -64,8 +64,7 @@ private:
         const CLayerLook look = LookOf(entity.layerId());
         m_arLists.push_back(WithLinetypesOf(look, *entity.Picture()));
         m_arPictures.push_back({&m_arLists.back(), look.m_nColor});
-        AcDbExtents extents;
-        if (entity.getGeomExtents(extents) == Acad::eOk) m_extents.addExt(extents);
+        m_extents.addExt(ExtentsOf(*entity.Picture()));
     }
 
     std::deque<CDisplayList> m_arLists; // pages point into it

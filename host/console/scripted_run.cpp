@@ -2,11 +2,14 @@
 
 #include "host/console/command_runner.h"
 #include "host/console/dialog_presenter.h"
+#include "host/console/message_boxes.h"
 #include "host/console/script_editor.h"
+#include "host/console/texts.h"
 #include "host/plot/fonts.h"
 #include "host/plot/headless.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
+#include "platform/windows/message_box.h"
 
 #include <cerrno>
 #include <cstring>
@@ -34,13 +37,23 @@ private:
     CFonts m_fonts;
 };
 
+/// Dialogs and message boxes answered from the script while this lives.
 class CRegisteredDialogs {
 public:
     explicit CRegisteredDialogs(CAnswers& answers)
         : m_presenter(answers) {
         SetDialogPresenter(&m_presenter);
+        CMessageBoxHost boxes;
+        boxes.m_show = [&answers](HWND, const std::wstring& strText, const std::wstring& strCaption,
+                                  UINT uStyle) {
+            return AnswerMessageBox(answers, Utf8FromWide(strCaption), Utf8FromWide(strText), uStyle);
+        };
+        SetMessageBoxHost(std::move(boxes));
     }
-    ~CRegisteredDialogs() { SetDialogPresenter(nullptr); }
+    ~CRegisteredDialogs() {
+        SetMessageBoxHost({});
+        SetDialogPresenter(nullptr);
+    }
     CRegisteredDialogs(const CRegisteredDialogs&) = delete;
     CRegisteredDialogs& operator=(const CRegisteredDialogs&) = delete;
 
@@ -85,6 +98,7 @@ int RunFrom(std::istream& input, const CProgramOptions& options, const std::stri
         CHost host{answers, commandInput, drawings, modules, fonts.Fonts()};
         LoadAtStart(host, options.m_strModule);
         RunCommands(host);
+        output.BeginLine();
         output.Flush();
         nStatus = Finish(host);
     }
