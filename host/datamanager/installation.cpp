@@ -4,10 +4,14 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <array>
+
 #include "host/datamanager/failure.h"
 #include "host/datamanager/terminal_text.h"
+#include "platform/tvtool/tvtool.h"
 #include "platform/windows/installation_root.h"
 #include "platform/windows/path.h"
+#include "platform/windows/types.h"
 
 namespace fs = std::filesystem;
 
@@ -23,7 +27,10 @@ std::string CInstallation::Below(const std::string& strName) const {
 }
 
 CIniFile CInstallation::ProjectIni() const {
-    return CIniFile(Below(CIniFile(Below(kInstallationIni)).Text("TVTool", "ProjectIni", "Project.ini")));
+    std::array<char, MAX_PATH> szPath{};
+    if (!TVToolGetProjectIni(szPath.data()))
+        throw CFailure(ExitStatus::NoAccess, m_root.string() + ": the path of the project ini is too long");
+    return CIniFile(szPath.data());
 }
 
 std::string CInstallation::ProjectConnect() const {

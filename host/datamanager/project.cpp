@@ -1,9 +1,11 @@
 #include "host/datamanager/project.h"
 
 #include <algorithm>
+#include <array>
 
 #include "host/datamanager/failure.h"
 #include "host/datamanager/terminal_text.h"
+#include "platform/tvtool/tvtool.h"
 #include "platform/windows/code_page.h"
 
 namespace fs = std::filesystem;
@@ -69,9 +71,10 @@ std::string ProjectDatabase(const std::string& strGCBH) {
 }
 
 std::string FileConnection(const std::string& strPath) {
-    const char* pszQuote = strPath.find('"') == std::string::npos ? "\"" : "'";
-    const bool bPlain = strPath.find_first_of(";'\"") == std::string::npos;
-    return "Provider=SQLite;Data Source=" + (bPlain ? strPath : pszQuote + strPath + pszQuote);
+    std::array<char, 1024> szConnect{};
+    if (!TVToolPathToConnect(strPath.c_str(), szConnect.data()))
+        throw CFailure(ExitStatus::NoAccess, ToUtf8(strPath) + ": the path is too long");
+    return szConnect.data();
 }
 
 std::string ProjectConnection(const CInstallation& installation, const CProject& project) {
