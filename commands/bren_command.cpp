@@ -32,7 +32,7 @@ Adesk::Int32 ProjectStandard() {
 
 /// The samples of one group: those of the chosen borehole, or an element of the all-samples list.
 CArray<QYPropty> GroupSamples(const CBRENDlg& dialog, int nGroup) {
-    if (dialog.AllSamples()) return dialog.m_arAll[nGroup].m_arQY;
+    if (dialog.AllSamples()) return dialog.m_pageGen.m_arAll[nGroup].m_arQY;
     CArray<QYPropty> samples;
     for (int i = 0; i < dialog.m_saSelQY.GetSize(); i++)
         samples.Add({dialog.m_strZKBH, dialog.m_saSelQY[i], dialog.m_saSelSYFF[i], dialog.m_saDepth[i],
@@ -64,7 +64,7 @@ void BrenCommand() {
     if (dialog.DoModal() != IDOK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk) return;
 
     AcDbDatabase* pDatabase = acdbHostApplicationServices()->workingDatabase();
-    const int nGroups = dialog.AllSamples() ? dialog.m_arAll.GetSize() : 1;
+    const int nGroups = dialog.AllSamples() ? dialog.m_pageGen.m_arAll.GetSize() : 1;
     for (int nGroup = 0; nGroup < nGroups; nGroup++) {
         AcGePoint3d ptPicked;
         if (!AskInsertionPoint(ptPicked)) return;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "host/console/words.h"
+#include "platform/windows/code_page.h"
 
 namespace {
 
@@ -11,16 +12,16 @@ struct CButton {
     int m_nResult;
 };
 
-constexpr CButton OK{"ok", 1}, CANCEL{"cancel", 2}, YES{"yes", 6}, NO{"no", 7};
+constexpr CButton OK{"ok", IDOK}, CANCEL{"cancel", IDCANCEL}, YES{"yes", IDYES}, NO{"no", IDNO};
 
 // The buttons of a box that asks, the one for giving up last; none for a box that only tells.
-std::vector<CButton> Buttons(unsigned nStyle) {
-    switch (nStyle & 0xF) {
-    case 1:
+std::vector<CButton> Buttons(UINT nStyle) {
+    switch (nStyle & MB_TYPEMASK) {
+    case MB_OKCANCEL:
         return {OK, CANCEL};
-    case 3:
+    case MB_YESNOCANCEL:
         return {YES, NO, CANCEL};
-    case 4:
+    case MB_YESNO:
         return {YES, NO};
     default:
         return {};
@@ -39,10 +40,17 @@ std::string OnOneLine(const std::string& strText) {
     return line;
 }
 
+std::string Utf8FromWide(const std::wstring& strWide) {
+    std::string utf8;
+    for (const wchar_t c : strWide)
+        AppendUtf8(static_cast<char32_t>(c), &utf8);
+    return utf8;
+}
+
 } // namespace
 
 int AnswerMessageBox(CAnswers& answers, const std::string& strCaption, const std::string& strText,
-                     unsigned nStyle) {
+                     UINT nStyle) {
     answers.Print("[" + OnOneLine(strCaption) + "] " + OnOneLine(strText));
     const std::vector<CButton> buttons = Buttons(nStyle);
     if (buttons.empty()) return OK.m_nResult;
@@ -61,4 +69,12 @@ int AnswerMessageBox(CAnswers& answers, const std::string& strCaption, const std
             if (!words[0].m_bQuoted && words[0].m_strText == button.m_name) return button.m_nResult;
     answers.Fail(EXIT_NO_SUCH_ANSWER, "no answer \"" + *answer + "\" to the box; it takes " + names);
     return buttons.back().m_nResult;
+}
+
+CMessageBoxHost ConsoleMessageBoxes(CAnswers& answers) {
+    CMessageBoxHost host;
+    host.m_show = [&answers](HWND, const std::wstring& strText, const std::wstring& strCaption, UINT nStyle) {
+        return AnswerMessageBox(answers, Utf8FromWide(strCaption), Utf8FromWide(strText), nStyle);
+    };
+    return host;
 }

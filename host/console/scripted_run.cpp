@@ -37,22 +37,17 @@ private:
     CFonts m_fonts;
 };
 
-/// Dialogs and message boxes answered from the script while this lives.
+/// Dialogs and message boxes, answered from the script while they live.
 class CRegisteredDialogs {
 public:
     explicit CRegisteredDialogs(CAnswers& answers)
         : m_presenter(answers) {
         SetDialogPresenter(&m_presenter);
-        CMessageBoxHost boxes;
-        boxes.m_show = [&answers](HWND, const std::wstring& strText, const std::wstring& strCaption,
-                                  UINT uStyle) {
-            return AnswerMessageBox(answers, Utf8FromWide(strCaption), Utf8FromWide(strText), uStyle);
-        };
-        SetMessageBoxHost(std::move(boxes));
+        SetMessageBoxHost(ConsoleMessageBoxes(answers));
     }
     ~CRegisteredDialogs() {
-        SetMessageBoxHost({});
         SetDialogPresenter(nullptr);
+        SetMessageBoxHost({});
     }
     CRegisteredDialogs(const CRegisteredDialogs&) = delete;
     CRegisteredDialogs& operator=(const CRegisteredDialogs&) = delete;

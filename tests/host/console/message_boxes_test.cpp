@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/windows/code_page.h"
 #include "tests/host/console/line_answers.h"
 
 namespace {
 
-constexpr unsigned TELLS = 0, OK_CANCEL = 1, YES_NO_CANCEL = 3, YES_NO = 4, QUESTION_ICON = 0x20;
-
 // The result of a box that is answered by one line.
-int Answer(unsigned nStyle, const char* line) {
+int Answer(UINT nStyle, const char* line) {
     CLineAnswers answers({line});
     const int nResult = AnswerMessageBox(answers, "Tervo", "text", nStyle);
     EXPECT_EQ(answers.m_status, EXIT_DONE) << line;
@@ -20,29 +19,30 @@ int Answer(unsigned nStyle, const char* line) {
 
 TEST(MessageBoxes, OneThatTellsIsOneLineAndTakesNone) {
     CLineAnswers answers({"next"});
-    EXPECT_EQ(AnswerMessageBox(answers, "Tervo", "one\r\ntwo\n\nthree", TELLS), 1);
+    EXPECT_EQ(AnswerMessageBox(answers, "Tervo", "one\r\ntwo\n\nthree", MB_OK), 1);
     EXPECT_EQ(answers.m_strPrinted, "[Tervo] one\\ntwo\\n\\nthree\n");
     EXPECT_EQ(answers.m_lines.size(), 1U);
     EXPECT_EQ(answers.m_strPrompts, "");
 }
 
 TEST(MessageBoxes, TakeTheAnswersOfTheirButtons) {
-    EXPECT_EQ(Answer(OK_CANCEL, "ok"), 1);
-    EXPECT_EQ(Answer(OK_CANCEL, "cancel"), 2);
-    EXPECT_EQ(Answer(YES_NO | QUESTION_ICON, "yes"), 6);
-    EXPECT_EQ(Answer(YES_NO, "no"), 7);
-    EXPECT_EQ(Answer(YES_NO_CANCEL, "yes"), 6);
-    EXPECT_EQ(Answer(YES_NO_CANCEL, " no "), 7);
-    EXPECT_EQ(Answer(YES_NO_CANCEL, "cancel"), 2);
+    EXPECT_EQ(Answer(MB_OKCANCEL, "ok"), 1);
+    EXPECT_EQ(Answer(MB_OKCANCEL, "cancel"), 2);
+    EXPECT_EQ(Answer(MB_YESNO | MB_ICONQUESTION, "yes"), 6);
+    EXPECT_EQ(Answer(MB_YESNO, "no"), 7);
+    EXPECT_EQ(Answer(MB_YESNOCANCEL, "yes"), 6);
+    EXPECT_EQ(Answer(MB_YESNOCANCEL, " no "), 7);
+    EXPECT_EQ(Answer(MB_YESNOCANCEL, "cancel"), 2);
 }
 
 TEST(MessageBoxes, AnAnswerThatTheBoxDoesNotHaveFailsTheRun) {
     const struct {
-        unsigned m_nStyle;
+        UINT m_nStyle;
         const char* m_line;
         int m_nResult;
-    } cases[] = {{OK_CANCEL, "yes", 2},     {YES_NO, "cancel", 7}, {YES_NO_CANCEL, "ok", 2}, {YES_NO, "", 7},
-                 {YES_NO, "yes please", 7}, {YES_NO, "YES", 7},    {YES_NO, "\"yes\"", 7}};
+    } cases[] = {{MB_OKCANCEL, "yes", 2}, {MB_YESNO, "cancel", 7},     {MB_YESNOCANCEL, "ok", 2},
+                 {MB_YESNO, "", 7},       {MB_YESNO, "yes please", 7}, {MB_YESNO, "YES", 7},
+                 {MB_YESNO, "\"yes\"", 7}};
     for (const auto& each : cases) {
         CLineAnswers answers({each.m_line});
         EXPECT_EQ(AnswerMessageBox(answers, "Tervo", "text", each.m_nStyle), each.m_nResult) << each.m_line;
@@ -52,7 +52,15 @@ TEST(MessageBoxes, AnAnswerThatTheBoxDoesNotHaveFailsTheRun) {
 
 TEST(MessageBoxes, TheEndOfTheInputFailsTheRun) {
     CLineAnswers answers({});
-    EXPECT_EQ(AnswerMessageBox(answers, "Tervo", "a\nb", YES_NO_CANCEL), 2);
+    EXPECT_EQ(AnswerMessageBox(answers, "Tervo", "a\nb", MB_YESNOCANCEL), 2);
     EXPECT_EQ(answers.m_status, EXIT_INPUT_RAN_OUT);
     EXPECT_EQ(answers.m_strFailure, "input ran out before an answer to the box a\\nb");
+}
+
+TEST(MessageBoxes, AnswerTheBoxesOfTheProcess) {
+    CLineAnswers answers({"no"});
+    SetMessageBoxHost(ConsoleMessageBoxes(answers));
+    EXPECT_EQ(MessageBoxA(nullptr, "是否入库?", "提示", MB_YESNO), IDNO);
+    SetMessageBoxHost({});
+    EXPECT_EQ(answers.m_strPrinted, ToUtf8("[提示] 是否入库?\n"));
 }

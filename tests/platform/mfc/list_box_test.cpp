@@ -2,30 +2,9 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+#include "tests/platform/mfc/test_list.h"
 
-class CTestList : public CListBox {
-public:
-    explicit CTestList(CControlKind kind) {
-        auto control = std::make_shared<CControl>();
-        control->m_kind = kind;
-        Attach(control);
-    }
-    CTestList(CControlKind kind, const std::vector<const char*>& texts)
-        : CTestList(kind) {
-        for (const char* text : texts)
-            AddString(text);
-    }
-    std::string Shown() const {
-        std::string shown;
-        for (int i = 0; i < GetCount(); ++i) {
-            CString text;
-            GetText(i, text);
-            shown += (GetSel(i) ? ">" : " ") + std::string(text);
-        }
-        return shown;
-    }
-};
+namespace {
 
 constexpr CControlKind ONE = CControlKind::List;
 constexpr CControlKind SEVERAL = CControlKind::MultiList;

@@ -1,0 +1,14 @@
+#pragma once
+// Where the marks of the running project stand in the marks file.
+
+#include "platform/mfc/string.h"
+
+inline constexpr const char* MARKS_SECTION = "CBRENDlg";
+
+/// A text of the running project (section Project), up to 1023 bytes; empty when there is none.
+CString ReadProjectText(const char* key);
+
+/// Key of the boreholes all of whose samples have charts.
+CString BoreholeMarksKey();
+/// Key of the samples of a borehole that have charts.
+CString SampleMarksKey(const CString& strZKBH);
