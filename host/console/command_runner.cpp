@@ -51,11 +51,16 @@ bool Execute(CHost& host, const CFoundCommand& command) {
     return !host.m_answers.HasFailed() && !host.m_input.WasCancelled();
 }
 
+// Escape where no command runs: there is nothing to cancel.
+bool IsEscape(const std::vector<CWord>& words) {
+    return words.size() == 1 && !words[0].m_bQuoted && words[0].m_strText == "cancel";
+}
+
 void RunLine(CHost& host, const std::string& strLine) {
     std::vector<CWord> words;
     std::string reason;
     if (!SplitWords(strLine, &words, &reason)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
-    if (words.empty()) return;
+    if (words.empty() || IsEscape(words)) return;
     const CFoundCommand command = FindCommand(words[0].m_strText);
     words.erase(words.begin());
     // What a reactor asks is answered by lines: the words are laid out after it.

@@ -19,20 +19,32 @@ fs::path RealPath(const fs::path& path) {
     return error ? fs::path() : real;
 }
 
-} // namespace
-
-fs::path FindModule(const std::string& strName) {
-    const fs::path name(strName);
+// A module of the suite: beside the program, else among its libraries. Empty when there is none.
+fs::path FindBesideProgram(const fs::path& name) {
     const fs::path folder = ProgramFolder();
-    for (const fs::path& candidate : {name, folder / name, folder / "../lib/tervo" / name}) {
+    for (const fs::path& candidate : {folder / name, folder / "../lib/tervo" / name}) {
         std::error_code error;
         if (fs::is_regular_file(candidate, error)) return RealPath(candidate);
     }
     return {};
 }
 
+fs::path FindModule(const std::string& strName) {
+    std::error_code error;
+    return fs::is_regular_file(strName, error) ? RealPath(strName) : FindBesideProgram(strName);
+}
+
+} // namespace
+
+bool CModules::LoadDefault(std::string* pReason) {
+    return LoadFile(FindBesideProgram(g_szDefaultModule), pReason);
+}
+
 bool CModules::Load(const std::string& strName, std::string* pReason) {
-    const fs::path path = FindModule(strName);
+    return LoadFile(FindModule(strName), pReason);
+}
+
+bool CModules::LoadFile(const fs::path& path, std::string* pReason) {
     if (path.empty()) {
         *pReason = "there is no such file";
         return false;

@@ -58,11 +58,12 @@ private:
 
 void LoadAtStart(CHost& host, const std::string& strModule) {
     if (strModule == NO_MODULE) return;
-    const std::string name = strModule.empty() ? g_szDefaultModule : strModule;
     std::string reason;
-    if (host.m_modules.Load(name, &reason)) return;
+    const bool bDefault = strModule.empty();
+    if (bDefault ? host.m_modules.LoadDefault(&reason) : host.m_modules.Load(strModule, &reason)) return;
     host.m_bModuleFailed = true;
-    std::cerr << "tvcad: module " << name << " did not load: " << reason << std::endl;
+    std::cerr << "tvcad: module " << (bDefault ? g_szDefaultModule : strModule) << " did not load: " << reason
+              << std::endl;
 }
 
 // What is told at the end, and the status that goes with it.

@@ -1,0 +1,60 @@
+#include "host/console/command_input.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+class CommandInput : public testing::Test {
+protected:
+    explicit CommandInput(const char* szScript = "  raw text \n cancel \n1.5\n\n2,3\n@1,1\n")
+        : m_script(szScript) {}
+    std::istringstream m_script;
+    CTextOutput m_output;
+    CScriptAnswers m_answers{"script", m_script, m_output, false, true};
+    CCommandInput m_input{m_answers};
+};
+
+} // namespace
+
+TEST_F(CommandInput, WordsComeBeforeLinesAndOptionalOnesAreNeverAskedFor) {
+    m_input.Begin({{"first", false}, {"", true}, {"third", false}});
+    EXPECT_EQ(m_input.Text(""), "first");
+    EXPECT_EQ(m_input.WholeText(""), "");
+    EXPECT_EQ(m_input.WordOnLine(), "third");
+    EXPECT_EQ(m_input.WordOnLine(), std::nullopt);
+    EXPECT_NO_THROW(m_input.End());
+    EXPECT_EQ(m_input.WholeText(""), "  raw text ");
+}
+
+TEST_F(CommandInput, EndRefusesWordsThatAreLeft) {
+    m_input.Begin({{"left", false}});
+    EXPECT_THROW(m_input.End(), CRunFailure);
+}
+
+TEST_F(CommandInput, CancelIsEscapeOnALineAndAWordOnTheCommandsLine) {
+    m_input.Begin({{"cancel", false}});
+    EXPECT_EQ(m_input.Text(""), "cancel");
+    EXPECT_EQ(m_input.Text(""), "raw text");
+    EXPECT_THROW(m_input.Text(""), CCommandCancelled);
+    EXPECT_EQ(m_input.Number(""), 1.5);
+    EXPECT_THROW(m_input.Text(""), CRunFailure); // an empty line
+}
+
+TEST_F(CommandInput, AModulesPromptGivesResultsInsteadOfExceptions) {
+    m_input.Begin({{"1,1", false}});
+    AcGePoint3d point;
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
+    m_answers.Next(""); // the raw text
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+    EXPECT_TRUE(m_input.WasCancelled());
+    m_answers.Next("");
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::None);
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
+    EXPECT_EQ(point, AcGePoint3d(3.0, 4.0, 0.0));
+    EXPECT_FALSE(m_answers.HasFailed());
+    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+    EXPECT_TRUE(m_answers.HasFailed());
+}
