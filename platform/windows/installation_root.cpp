@@ -22,7 +22,7 @@ std::string Variable(const char* name) {
 }
 
 std::string Home() {
-    const std::string home = Variable("HOME");
+    std::string home = Variable("HOME");
     if (!home.empty()) return home;
     std::array<char, 4096> buffer = {};
     passwd entry = {};
@@ -32,7 +32,7 @@ std::string Home() {
 }
 
 std::string RootOfEnvironment() {
-    const std::string root = Variable("TERVO_ROOT");
+    std::string root = Variable("TERVO_ROOT");
     if (!root.empty()) return root;
     const std::string data = Variable("XDG_DATA_HOME");
     return (data.empty() ? Home() + "/.local/share" : data) + "/tervo";
@@ -43,15 +43,9 @@ std::string Absolute(const std::string& path) {
     std::error_code error;
     std::string result = std::filesystem::absolute(path, error).string();
     if (error) result = path;
-    for (;;) {
-        if (result.size() > 1 && result.ends_with('/')) {
-            result.pop_back();
-        } else if (result.ends_with("/.")) {
-            result.pop_back();
-        } else {
-            return result;
-        }
-    }
+    while ((result.size() > 1 && result.ends_with('/')) || result.ends_with("/."))
+        result.pop_back();
+    return result;
 }
 
 } // namespace

@@ -57,8 +57,8 @@ TEST_F(RuntimeDirTest, IsNoneWhereOthersCanEnterOrALinkStandsInItsPlace) {
 
 TEST_F(RuntimeDirTest, IsPutIntoTheEnvironmentWhenUnset) {
     EnsureRuntimeDir();
-    EXPECT_EQ(std::string(std::getenv("XDG_RUNTIME_DIR")), OfUser());
+    EXPECT_STREQ(std::getenv("XDG_RUNTIME_DIR"), OfUser().c_str());
     setenv("XDG_RUNTIME_DIR", "/given", 1);
     EnsureRuntimeDir();
-    EXPECT_EQ(std::string(std::getenv("XDG_RUNTIME_DIR")), "/given");
+    EXPECT_STREQ(std::getenv("XDG_RUNTIME_DIR"), "/given");
 }
