@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -22,12 +23,21 @@ public:
         std::filesystem::remove_all(m_path, ignored);
     }
 
-    [[nodiscard]] std::string Path(std::string_view strName) const { return (m_path / strName).string(); }
+    /// The path of a file in it, or of the folder itself.
+    [[nodiscard]] std::string Path(std::string_view strName = {}) const {
+        return strName.empty() ? m_path.string() : (m_path / strName).string();
+    }
 
     /// Writes a file of these bytes and returns its path.
     std::string Write(std::string_view strName, std::string_view strBytes) const {
         std::ofstream(m_path / strName, std::ios::binary) << strBytes;
         return Path(strName);
+    }
+    /// The bytes of a file; none where there is no such file.
+    [[nodiscard]] std::string Read(std::string_view strName) const {
+        std::ostringstream bytes;
+        bytes << std::ifstream(m_path / strName, std::ios::binary).rdbuf();
+        return bytes.str();
     }
 
 private:

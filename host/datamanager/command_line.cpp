@@ -149,7 +149,7 @@ public:
                                           : static_cast<int>(ExitStatus::Usage);
         }
         if (m_pCall) return ::Run(m_pCall, m_options);
-        Print(m_app.help());
+        std::fputs(m_app.help().c_str(), stdout);
         return static_cast<int>(ExitStatus::Usage);
     }
 

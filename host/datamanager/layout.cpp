@@ -37,7 +37,8 @@ void LayOutTables(CDbConnection& database, std::span<const CTable* const> arTabl
         database.Execute(CreateStatement(*pTable));
         if (!pTable->HasColumn("GCSY") || !pTable->HasColumn("ZKBH") || !pTable->HasColumn("QYBH")) continue;
         const std::string strTable(pTable->m_strName);
-        database.Execute("CREATE INDEX IF NOT EXISTS i_" + strTable + " ON " + strTable +
-                         " (GCSY, ZKBH, QYBH)");
+        std::string strIndex = "CREATE INDEX IF NOT EXISTS i_" + strTable;
+        strIndex.append(" ON ").append(strTable).append(" (GCSY, ZKBH, QYBH)");
+        database.Execute(strIndex);
     }
 }

@@ -43,11 +43,17 @@ void CheckName(const std::string& strGCMC) {
         throw CFailure(ExitStatus::Refused, "the name has more than 255 bytes in code page 936");
 }
 
+/// Whether a connection text means a file of the embedded database, as one without a provider does.
+bool IsFileConnection(const CConnectionText& text) {
+    const std::string strProvider = text.Value("Provider");
+    return strProvider.empty() || EqualNoCase(strProvider, "SQLite");
+}
+
 /// The wished connection text; a relative file counts from here, not from where a program is started later.
 std::string SettledConnection(const std::string& strConnect) {
     const CConnectionText text(strConnect);
     const std::string strFile = text.Value("Data Source");
-    if (!EqualNoCase(text.Value("Provider"), "SQLite") || strFile.empty()) return strConnect;
+    if (strFile.empty() || !IsFileConnection(text)) return strConnect;
     const std::string strAbsolute = FromTerminal(fs::absolute(ToUtf8(strFile)).lexically_normal().string());
     if (strAbsolute == strFile) return strConnect;
     const std::string strRest = CConnectionText(text.Without("Data Source")).Without("Provider");
@@ -57,7 +63,7 @@ std::string SettledConnection(const std::string& strConnect) {
 /// Opens the database; a file of the embedded one is made if need be.
 std::shared_ptr<CDbConnection> OpenOrMake(const std::string& strConnection) {
     const CConnectionText text(strConnection);
-    if (EqualNoCase(text.Value("Provider"), "SQLite")) return CreateSqliteDatabase(text.Value("Data Source"));
+    if (IsFileConnection(text)) return CreateSqliteDatabase(text.Value("Data Source"));
     return OpenDbConnection(strConnection);
 }
 

@@ -79,7 +79,7 @@ std::string FileConnection(const std::string& strPath) {
 
 std::string ProjectConnection(const CInstallation& installation, const CProject& project) {
     if (!project.m_strConnect.empty()) return project.m_strConnect;
-    const std::string strForAll = installation.ProjectConnect();
+    std::string strForAll = installation.ProjectConnect();
     if (!strForAll.empty()) return strForAll;
     return FileConnection(installation.Below(ProjectDatabase(project.m_strGCBH)));
 }

@@ -56,7 +56,7 @@ void EndOthers(const std::string& strClass) {
 
 std::string CurrentClass(const CInstallation& installation) {
     const std::int32_t nEdition = installation.ProjectIni().Number("GLOBAL", "LOCALVER", 4);
-    const std::string strClass = ResidentClass(nEdition);
+    std::string strClass = ResidentClass(nEdition);
     if (strClass.empty())
         throw CFailure(ExitStatus::Refused,
                        "LOCALVER " + std::to_string(nEdition) + " names no edition (0 to 4)");

@@ -25,6 +25,7 @@ protected:
     /// Imports files of these texts, named 1.csv, 2.csv, ...; what was reported goes to m_strReport.
     CImportCounts Run(const std::vector<std::string>& arTexts, bool bReplace = false) {
         std::vector<std::string> arFiles;
+        arFiles.reserve(arTexts.size());
         for (const std::string& strText : arTexts)
             arFiles.push_back(m_folder.Write(std::to_string(arFiles.size() + 1) + ".csv", strText));
         char* pBuffer = nullptr;

@@ -133,6 +133,11 @@ TEST_F(New, SettlesARelativePathOfTheDatabase) {
               "\"samples\":[]}]}\n");
 }
 
+TEST_F(New, TakesAConnectionWithoutAProviderForAFile) {
+    m_program.Do("new --root \"$ROOT\" --number A --name x --connect \"Data Source=$ROOT/plain.db\"");
+    EXPECT_EQ(m_program.Sql("plain.db", "SELECT GCBH FROM x_GongCheng"), "A\n");
+}
+
 TEST_F(New, LeavesNothingBehindWhenTheDatabaseCannotBeHad) {
     const CRun run =
         m_program.Tvdata("new --root \"$ROOT\" --number A --name x --connect 'Provider=SQLite;Data "

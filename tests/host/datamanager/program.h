@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/ado/provider.h"
-#include "tests/host/datamanager/temp_folder.h"
+#include "tests/temp_folder.h"
 
 /// Text of a source file's UTF-8 literal.
 std::string Utf8(const char8_t* pszText);

@@ -174,3 +174,16 @@ TEST_F(SqliteProvider, HoldsNoLockWhileRowsAreKept) {
     EXPECT_NO_THROW(CLockingProcess{m_strPath});
     EXPECT_EQ(CellText(pRows->Cell(0, 0)), "1");
 }
+
+TEST_F(SqliteProvider, RunsAPreparedStatementWithOtherValuesAlsoAfterAFailure) {
+    m_pDatabase->Execute("create table t(a integer unique, b text)");
+    const auto pInsert = m_pDatabase->Prepare("insert into t values(?, ?)");
+    const auto insert = [&](const CDbValue& a, const CDbValue& b) {
+        pInsert->Execute(std::array<CDbValue, 2>{a, b});
+    };
+    insert(std::int64_t{1}, std::string("砂"));
+    EXPECT_THROW(insert(std::int64_t{1}, std::string("twice")), CDbError);
+    insert(std::int64_t{2}, CDbValue());
+    EXPECT_EQ(Rows(*m_pDatabase, "select a, coalesce(b, 'null') from t order by a"),
+              (CRows{"1|砂", "2|null"}));
+}
