@@ -6,7 +6,7 @@
 #include "host/datamanager/layout.h"
 #include "host/datamanager/transaction.h"
 #include "platform/ado/sqlite_provider.h"
-#include "tests/host/datamanager/program.h"
+#include "tests/support/programs.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/host/datamanager/program.h"
+#include "tests/support/programs.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "platform/windows/window_message.h"
-#include "tests/host/datamanager/program.h"
+#include "tests/support/programs.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "host/datamanager/schema.h"
 #include "platform/ado/sqlite_provider.h"
 #include "platform/windows/code_page.h"
-#include "tests/host/datamanager/program.h"
+#include "tests/support/programs.h"
 
 namespace {
 

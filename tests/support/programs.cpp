@@ -1,4 +1,4 @@
-#include "tests/host/datamanager/program.h"
+#include "tests/support/programs.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -35,6 +35,10 @@ CRun CProgram::Shell(const std::string& strCommand) const {
     run.m_strOut = m_folder.Read("stdout");
     run.m_strErrors = m_folder.Read("stderr");
     return run;
+}
+
+CRun CProgram::Tvcad(const std::string& strScript) const {
+    return Shell(TERVO_BIN "/tvcad --root \"$ROOT\" -q -s '" + m_folder.Write("script", strScript) + "'");
 }
 
 std::string CProgram::Do(const std::string& strArguments) const {

@@ -27,6 +27,8 @@ public:
     /// Runs `tvdata` with the words that follow (shell syntax; $ROOT is the installation's folder, $T the
     /// program).
     [[nodiscard]] CRun Tvdata(const std::string& strArguments) const { return Shell("$T " + strArguments); }
+    /// Runs `tvcad` on a script (UTF-8) in this installation, without prompts and answers on its output.
+    [[nodiscard]] CRun Tvcad(const std::string& strScript) const;
     [[nodiscard]] CRun Shell(const std::string& strCommand) const;
     /// The same, and it must succeed; gives what it wrote.
     std::string Do(const std::string& strArguments) const;

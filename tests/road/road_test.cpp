@@ -1,0 +1,198 @@
+// The whole road through the real programs: readings on disk become a project, a sheet, a picture and stored
+// values.
+
+#include "tests/support/programs.h"
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace {
+using CJson = nlohmann::json;
+
+std::string ReadFile(const std::string& strPath) {
+    std::ostringstream text;
+    text << std::ifstream(strPath, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+std::vector<std::string> SetNames() {
+    std::vector<std::string> sets;
+    for (const auto& entry : std::filesystem::directory_iterator(TERVO_TEST_DATA "/readings"))
+        if (entry.is_directory()) sets.push_back(entry.path().filename());
+    std::sort(sets.begin(), sets.end());
+    return sets;
+}
+
+/// A project with the readings of one set, running.
+class CRoad {
+public:
+    explicit CRoad(const std::string& strSet) {
+        const std::string strFolder = TERVO_TEST_DATA "/readings/" + strSet;
+        m_program.Do("init \"$ROOT\"");
+        m_program.Do("new --root \"$ROOT\" --number GC1 --name test");
+        m_program.Do("import --root \"$ROOT\" --number GC1 " + strFolder + "/samples.csv " + strFolder +
+                     "/layers.csv " + strFolder + "/readings.csv");
+        m_program.Do("open --root \"$ROOT\" --number GC1");
+    }
+    /// BREN for the one sample of a set, then what else the script says. The working folder of output is
+    /// $OUT.
+    CRun Generate(const std::string& strThen) {
+        return m_program.Tvcad("BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\n" + strThen);
+    }
+    std::string File(const std::string& strName) const { return m_program.Folder().Path(strName); }
+    CJson Dump() const { return CJson::parse(ReadFile(File("sheet.json"))); }
+    CJson Results() { return CJson::parse(m_program.Do("results --root \"$ROOT\" --number GC1 --json")); }
+
+    CProgram m_program;
+};
+
+class RoadOfSet : public testing::TestWithParam<std::string> {};
+
+/// Values that the dump writes as texts because they are no finite numbers.
+void CountOddNumbers(const CJson& value, int* pCount) {
+    if (value.is_string() && (value == "nan" || value == "inf" || value == "-inf")) ++*pCount;
+    if (value.is_structured())
+        for (const CJson& part : value)
+            CountOddNumbers(part, pCount);
+}
+} // namespace
+
+TEST_P(RoadOfSet, LeadsFromReadingsToChartPictureAndValues) {
+    CRoad road(GetParam());
+    const CRun run =
+        road.Generate("DUMP " + road.File("sheet.json") + "\nPLOT " + road.File("sheet.pdf") + "\n");
+    EXPECT_EQ(run.m_strErrors.find("ERROR"), std::string::npos) << run.m_strErrors;
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CJson modelSpace = road.Dump()["modelSpace"];
+    const CJson row = road.Results().at(0);
+
+    if (GetParam().starts_with("refused-")) {
+        EXPECT_NE(run.m_strOut.find(Utf8(u8"原始数据不正确导致出现不正常负值!")), std::string::npos)
+            << run.m_strOut;
+        EXPECT_NE(run.m_strOut.find(Utf8(u8"[Tervo] 三轴剪切试验初始数据错误!")), std::string::npos)
+            << run.m_strOut;
+        EXPECT_TRUE(modelSpace.empty());
+        EXPECT_TRUE(row["SYRQ"].is_null());
+        return;
+    }
+    ASSERT_EQ(modelSpace.size(), 1U);
+    const CJson& chart = modelSpace[0];
+    EXPECT_EQ(chart["class"], "CBRENChart");
+    const CJson& fields = chart["fields"];
+    EXPECT_EQ(fields["m_ptBase"], CJson({25.0, 262.0, 0.0}));
+    EXPECT_FALSE(chart["world"].empty());
+    int nOdd = 0;
+    CountOddNumbers(fields, &nOdd);
+    EXPECT_EQ(nOdd, 0); // no set here has a tie that a pair without a tangent wins
+    EXPECT_TRUE(std::filesystem::exists(road.File("sheet.pdf")));
+
+    // What the table holds is what the chart adopted, to two decimals and in single precision.
+    const std::string strMethod = fields["m_strSYFF"];
+    const auto stored = [&](const char* pColumn, const char* pField) {
+        char text[64];
+        std::snprintf(text, sizeof text, "%.2f", fields[pField].get<double>());
+        EXPECT_EQ(row[pColumn].get<float>(), std::strtof(text, nullptr)) << pColumn;
+    };
+    if (strMethod == Utf8(u8"不固结不排水剪")) {
+        stored("UUC", "m_dAdoptC");
+        stored("UUF", "m_dAdoptPhi");
+    } else if (strMethod == Utf8(u8"固结不排水剪")) {
+        stored("CUC", "m_dAdoptC");
+        stored("CUF", "m_dAdoptPhi");
+        stored("CUCE", "m_dAdoptCEff");
+        stored("CUFE", "m_dAdoptPhiEff");
+    } else {
+        stored("CDC", "m_dAdoptC");
+        stored("CDF", "m_dAdoptPhi");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, RoadOfSet, testing::ValuesIn(SetNames()), [](const auto& set) {
+    std::string strName = set.param;
+    for (char& c : strName)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return strName;
+});
+
+TEST(Road, StoresThePublishedTangents) {
+    CRoad undrained("smith-ex3.4");
+    EXPECT_EQ(undrained.Generate("").m_nStatus, 0);
+    const CJson first = undrained.Results().at(0);
+    EXPECT_EQ(first["UUC"], 83.97);
+    EXPECT_EQ(first["UUF"], 7.87);
+    CRoad drained("smith-exc4.4");
+    EXPECT_EQ(drained.Generate("").m_nStatus, 0);
+    const CJson second = drained.Results().at(0);
+    EXPECT_EQ(second["CDC"], 11.03);
+    EXPECT_EQ(second["CDF"], 17.35);
+}
+
+TEST(Road, KeepsTheValuesOfTangentsInTheChart) {
+    CRoad road("smith-exc4.4");
+    EXPECT_EQ(road.Generate("DUMP " + road.File("sheet.json") + "\n").m_nStatus, 0);
+    const CJson fields = road.Dump()["modelSpace"][0]["fields"];
+    EXPECT_NEAR(fields["m_dCalcC"].get<double>(), 11.028, 0.001);
+    EXPECT_NEAR(fields["m_dCalcPhi"].get<double>(), 17.352, 0.001);
+}
+
+TEST(Road, PrintsTitlesAsTextOnOneSheetOfA4) {
+    CRoad road("mafra-ciu");
+    EXPECT_EQ(road.Generate("PLOT " + road.File("sheet.pdf") + "\nPLOT " + road.File("sheet.svg") +
+                            "\nPLOT " + road.File("sheet.png") + "\n")
+                  .m_nStatus,
+              0);
+    EXPECT_EQ(
+        road.m_program.Shell("pdftotext '" + road.File("sheet.pdf") + "' '" + road.File("sheet.txt") + "'")
+            .m_nStatus,
+        0);
+    const std::string strText = ReadFile(road.File("sheet.txt"));
+    EXPECT_NE(strText.find(Utf8(u8"轴向应变ε")), std::string::npos) << strText;
+    std::size_t nAt = 0;
+    for (const char8_t* pCharacter : {u8"主", u8"应", u8"力", u8"差"}) {
+        nAt = strText.find(Utf8(pCharacter), nAt);
+        ASSERT_NE(nAt, std::string::npos) << strText;
+    }
+    const CRun info = road.m_program.Shell("pdfinfo '" + road.File("sheet.pdf") + "'");
+    EXPECT_NE(info.m_strOut.find("Pages:           1"), std::string::npos) << info.m_strOut;
+    EXPECT_NE(info.m_strOut.find("(A4)"), std::string::npos) << info.m_strOut;
+    EXPECT_NE(ReadFile(road.File("sheet.svg")).find(Utf8(u8"轴向应变ε (%)")), std::string::npos);
+    EXPECT_EQ(ReadFile(road.File("sheet.png")).substr(1, 3), "PNG");
+}
+
+TEST(Road, DrawsTheSameTwice) {
+    CRoad road("mafra-ciu");
+    EXPECT_EQ(
+        road.Generate("DUMP " + road.File("sheet.json") + "\nREGEN\nDUMP " + road.File("again.json") + "\n")
+            .m_nStatus,
+        0);
+    EXPECT_EQ(ReadFile(road.File("sheet.json")), ReadFile(road.File("again.json")));
+}
+
+TEST(Road, SaysThatNoProjectIsOpen) {
+    CRoad road("smith-exc4.4");
+    road.m_program.Do("close --root \"$ROOT\"");
+    const CRun run = road.m_program.Tvcad("BREN\n");
+    EXPECT_EQ(run.m_nStatus, 0);
+    EXPECT_EQ(run.m_strOut, Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能！\n"));
+}
+
+TEST(Road, SaysThatTheDataManagerIsNotRunning) {
+    CRoad road("smith-exc4.4");
+    road.m_program.Do("close --root \"$ROOT\"");
+    EXPECT_EQ(road.m_program.Shell("sed -i 's/^GCSY=.*/GCSY=1/' \"$ROOT/Project.ini\"").m_nStatus, 0);
+    EXPECT_EQ(road.m_program.Tvcad("BREN\n").m_strOut,
+              Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能!\n"));
+}
+
+TEST(Road, LeavesNothingWhenThePointIsCancelled) {
+    CRoad road("smith-exc4.4");
+    const CRun run = road.m_program.Tvcad("BREN\nselect 1010 1\nselect 1011 1-1\nok\ncancel\nDUMP " +
+                                          road.File("sheet.json") + "\n");
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    EXPECT_TRUE(road.Dump()["modelSpace"].empty());
+    EXPECT_TRUE(road.Results().at(0)["SYRQ"].is_null());
+}
