@@ -39,6 +39,11 @@ public:
     /// Whether the term has an operand at its end, so that a sign after it joins two operands.
     [[nodiscard]] bool EndsWithOperand() const { return m_bOperand; }
 
+    /// Notes the blanks and comments before the first token; later calls change nothing.
+    void Begin(std::size_t nBlanks) {
+        if (m_strSum.empty() && m_strSign.empty() && m_strTerm.empty()) m_nBlanks = nBlanks;
+    }
+
     void AddToTerm(std::string_view strText, bool bOperand, bool bNumber) {
         m_bTermIsNumber = bNumber && m_strTerm.empty();
         m_strTerm += strText;
@@ -62,9 +67,8 @@ public:
 private:
     void Fold() {
         if (m_bPlus && !(m_bSumIsNumber && m_bTermIsNumber)) {
-            const std::size_t nBlanks = LeadingBlanks(m_strSum);
-            m_strSum = m_strSum.substr(0, nBlanks) + std::string(kAddFunction) + "(" +
-                       m_strSum.substr(nBlanks) + "," + m_strTerm + ")";
+            m_strSum = m_strSum.substr(0, m_nBlanks) + std::string(kAddFunction) + "(" +
+                       m_strSum.substr(m_nBlanks) + "," + m_strTerm + ")";
             m_bSumIsNumber = false;
         } else {
             m_bSumIsNumber = m_bTermIsNumber && (m_strSign.empty() || m_bSumIsNumber);
@@ -75,13 +79,8 @@ private:
         m_bPlus = m_bOperand = m_bTermIsNumber = false;
     }
 
-    /// How much blank space and comment stands before the first token.
-    static std::size_t LeadingBlanks(std::string_view strText) {
-        const auto arTokens = TokenizeSql(strText);
-        return arTokens.empty() ? strText.size() : arTokens.front().m_nStart;
-    }
-
     std::string m_strSum;
+    std::size_t m_nBlanks = 0;
     std::string m_strSign;
     std::string m_strTerm;
     bool m_bPlus = false;
@@ -136,6 +135,7 @@ private:
     }
 
     void Put(const CSqlToken& token, std::string* pText, CSum* pSum) {
+        pSum->Begin(token.m_nStart - m_nWritten);
         if (token.m_kind == SqlTokenKind::Open || token.IsWord("case")) {
             std::string strGroup(Take());
             strGroup += Level();

@@ -66,9 +66,11 @@ void String(sqlite3_context* pContext, int /*nArguments*/, CArguments arArgument
     if (IsNull(arArguments[0]) || IsNull(arArguments[1])) return;
     const std::string_view strFill = Text(arArguments[1]);
     const std::string_view strOne = strFill.substr(0, BytesOf(strFill, 1));
+    const auto nCount = static_cast<std::size_t>(
+        std::clamp<std::int64_t>(sqlite3_value_int64(arArguments[0]), 0, kLongestFill));
     std::string strText;
-    for (std::int64_t i = std::min(sqlite3_value_int64(arArguments[0]), sqlite3_int64{kLongestFill}); i > 0;
-         --i)
+    strText.reserve(nCount * strOne.size());
+    for (std::size_t i = 0; i < nCount; ++i)
         strText += strOne;
     GiveText(pContext, strText);
 }

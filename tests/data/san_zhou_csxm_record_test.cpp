@@ -77,7 +77,7 @@ TEST_F(SanZhouCSXMRecord, ListsBoreholesAndSamplesInNaturalOrder) {
     });
     CTexts arExpected;
     for (const auto& [strHole, strSample] : arPairs)
-        arExpected.push_back(strHole + "|" + strSample);
+        arExpected.push_back(std::string(strHole).append("|").append(strSample));
     EXPECT_EQ(Listed(ProjectListCriterion(1)), arExpected);
     EXPECT_EQ(Listed(OpenDialogListCriterion(1)), arExpected);
 }

@@ -1,7 +1,5 @@
 #include "data/san_zhou_record.h"
 
-#include <cstring>
-
 #include "data/criteria.h"
 #include "tests/platform/ado/locking_process.h"
 #include "tests/support/suite_fixture.h"
@@ -28,7 +26,7 @@ protected:
         record.m_fCUF = 20.25F;
         record.m_fCUCE = 5.0F;
         record.m_fCUFE = 28.75F;
-        std::strcpy(record.m_szSYRQ, "2024.3.9");
+        GbkCopy(record.m_szSYRQ, sizeof record.m_szSYRQ, "2024.3.9");
     }
 };
 

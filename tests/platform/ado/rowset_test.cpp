@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstring>
 
+#include "platform/windows/code_page.h"
 #include "tests/platform/ado/database_fixture.h"
 #include "tests/platform/ado/locking_process.h"
 
@@ -150,7 +150,7 @@ TEST_F(Rowset, StoresNullByTheStatusWordAndAValueInItsPlace) {
     ASSERT_EQ(m_rows.MoveFirst(), 0);
     m_row.m_statusValue = DBSTATUS_S_ISNULL;
     m_row.m_statusName = DBSTATUS_S_OK;
-    std::strcpy(m_row.m_szName, "it's");
+    GbkCopy(m_row.m_szName, sizeof m_row.m_szName, "it's");
     EXPECT_EQ(m_rows.Store(), 0);
     EXPECT_EQ(Rows(*m_pDatabase, "select * from t"), CRows{"1|it's||5|6|7"});
     m_row.m_statusValue = DBSTATUS_S_OK;

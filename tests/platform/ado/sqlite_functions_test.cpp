@@ -115,7 +115,7 @@ TEST_F(SqliteFunctions, NaturalOrderEqualsASortByItsThreeKeys) {
     });
     CRows arExpected;
     for (const auto& [strHole, strSample] : arPairs)
-        arExpected.push_back(strHole + "|" + strSample);
+        arExpected.push_back(std::string(strHole).append("|").append(strSample));
     EXPECT_EQ(Rows(*m_pDatabase, std::string("select * from t order by ").append(kNaturalOrder)), arExpected);
 }
 

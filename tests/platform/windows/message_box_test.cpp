@@ -2,14 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 struct MessageBox : testing::Test {
     ~MessageBox() override { SetMessageBoxHost({}); }
 };
 
-HWND Window(std::uintptr_t nNumber) {
-    return reinterpret_cast<HWND>(nNumber);
+/// Windows are told apart by their handles; nothing looks behind them.
+HWND Window(std::size_t nNumber) {
+    static std::array<char, 64> s_arPlaces{};
+    return static_cast<HWND>(static_cast<void*>(&s_arPlaces.at(nNumber)));
 }
 
 } // namespace
