@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "platform/windows/profile.h"
 #include "tests/platform/mfc/test_list.h"
+#include "tests/temp_folder.h"
 
 namespace {
 
@@ -15,13 +13,7 @@ constexpr const char* KEY = "SYQXG1";
 
 class ChartMarks : public testing::Test {
 protected:
-    ChartMarks() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "marksXXXXXX").string();
-        m_folder = mkdtemp(pattern.data());
-    }
-    ~ChartMarks() override { std::filesystem::remove_all(m_folder); }
-
-    std::string File() const { return (m_folder / "Marks.ini").string(); }
+    std::string File() const { return m_folder.Path("Marks.ini"); }
     void Store(const std::string& value) const {
         ASSERT_TRUE(WritePrivateProfileStringA(SECTION, KEY, value.c_str(), File().c_str()));
     }
@@ -32,7 +24,7 @@ protected:
         return value.data();
     }
 
-    std::filesystem::path m_folder;
+    CTempFolder m_folder;
     CTestList m_several{CControlKind::MultiList, {"1-1", "1-2", "1-3"}};
     CTestList m_one{CControlKind::List, {"ZK1", "ZK2"}};
 };

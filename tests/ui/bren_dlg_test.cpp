@@ -48,7 +48,7 @@ TEST_F(BrenDialog, ListsBoreholesAndTheSamplesOfTheFirstInNaturalOrder) {
     for (const char* zk : {"A1", "10", "9"})
         for (const char* qy : {"9-10", "9-2"})
             AddSample(zk, qy);
-    Sql("INSERT INTO z_c_SanZhouCSXM SELECT 8,'8','other project',1,1,1,1,1,1,1,1,1,1,1,1,1");
+    Execute("INSERT INTO z_c_SanZhouCSXM SELECT 8,'8','other project',1,1,1,1,1,1,1,1,1,1,1,1,1");
     Play([&] {
         EXPECT_EQ(Entries(m_dialog.m_pageGen.m_listZK), ">9 10 A1");
         EXPECT_EQ(Entries(m_dialog.m_pageGen.m_listQY), " 9-2 9-10");
@@ -59,22 +59,22 @@ TEST_F(BrenDialog, ListsBoreholesAndTheSamplesOfTheFirstInNaturalOrder) {
         EXPECT_EQ(m_dialog.GetIcon(TRUE), 1006U);
         EXPECT_EQ(m_dialog.GetIcon(FALSE), 1006U);
     });
-    EXPECT_EQ(m_strBoxes, "");
+    EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(BrenDialog, AProjectWithoutReadingsOpensEmptyAndOkClosesItWithoutData) {
     EXPECT_EQ(Run({"ok"}), 1);
     EXPECT_EQ(m_dialog.m_bHasData, 0);
     EXPECT_EQ(m_strPrinted, "\n数据库z_c_SanZhouCSXM当前工程没有数据!");
-    EXPECT_EQ(m_strBoxes, "");
+    EXPECT_EQ(Boxes(), "");
     EXPECT_EQ(Marks("SYQXG1"), "(none)");
 }
 
 TEST_F(BrenDialog, ReadingsThatCannotBeOpenedAreReportedAndTheSheetStillOpens) {
-    Sql("DROP TABLE z_c_SanZhouCSXM");
+    Execute("DROP TABLE z_c_SanZhouCSXM");
     EXPECT_EQ(Run({"ok"}), 1);
     EXPECT_EQ(m_dialog.m_bHasData, 0);
-    EXPECT_EQ(m_strBoxes, "[数据库z_c_SanZhouCSXM打开错误!]");
+    EXPECT_EQ(Boxes(), "[数据库z_c_SanZhouCSXM打开错误!]");
 }
 
 TEST_F(BrenDialog, ChoosingABoreholeListsItsSamplesWithTheirMarks) {
@@ -96,7 +96,7 @@ TEST_F(BrenDialog, ABoreholeWhoseReadingsAreGoneLeavesTheSampleListAsItWas) {
     AddSample("1", "1-1");
     AddSample("2", "2-1");
     Play([&] {
-        Sql("DELETE FROM z_c_SanZhouCSXM WHERE ZKBH='2'");
+        Execute("DELETE FROM z_c_SanZhouCSXM WHERE ZKBH='2'");
         RunDialogLine(m_dialog, "select 1010 2");
         EXPECT_EQ(Entries(m_dialog.m_pageGen.m_listQY), " 1-1");
     });
@@ -122,7 +122,7 @@ TEST_F(BrenDialog, ConfirmingGathersTheSelectedSamples) {
     EXPECT_EQ(Joined(m_dialog.m_saLayer), "[粉质黏土][粉质黏土]");
     EXPECT_TRUE(m_dialog.m_bHasData && m_dialog.m_bQuYangOk && m_dialog.m_bTuCengOk && m_dialog.m_bSamplesOk);
     EXPECT_EQ(m_strPrinted, std::string(READING) + ALL_READ);
-    EXPECT_EQ(m_strBoxes, "");
+    EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(BrenDialog, TheAnnotationIsCopiedWhenConfirmedAndNotBefore) {
@@ -149,7 +149,7 @@ TEST_F(BrenDialog, WithoutASelectedSampleItStays) {
     AddSample("1", "1-1");
     AddLayer("1");
     EXPECT_EQ(Run({"ok", "ok", "select 1011 1-1", "ok"}), 1);
-    EXPECT_EQ(m_strBoxes, "[至少选取一项取样编号!][至少选取一项取样编号!]");
+    EXPECT_EQ(Boxes(), "[至少选取一项取样编号!][至少选取一项取样编号!]");
     EXPECT_EQ(Joined(m_dialog.m_saSelQY), "[1-1]");
 }
 
@@ -159,7 +159,7 @@ TEST_F(BrenDialog, SamplesWithoutAMethodAreRefusedByNameWithoutTheirMark) {
     AddSample("1", "1-3", "''");
     SetMarks("SYQXG11", "1-1");
     EXPECT_EQ(Run({"select 1011 all", "ok"}), 2); // left open
-    EXPECT_EQ(m_strBoxes, "[试样【1-1】、【1-3】中没有试验方法，不能生成三轴剪切试验曲线!]");
+    EXPECT_EQ(Boxes(), "[试样【1-1】、【1-3】中没有试验方法，不能生成三轴剪切试验曲线!]");
     EXPECT_EQ(Joined(m_dialog.m_saSelQY), "");
     EXPECT_EQ(m_strPrinted, READING);
     EXPECT_EQ(Marks("SYQXG11"), "1-1");
@@ -186,18 +186,18 @@ TEST_F(BrenDialog, AMissingMethodRowClosesTheSheetAsInvalid) {
 
 TEST_F(BrenDialog, AMethodTableThatCannotBeOpenedClosesTheSheetAsInvalid) {
     AddSample("1", "1-1");
-    Sql("DROP TABLE z_c_SanZhou");
+    Execute("DROP TABLE z_c_SanZhou");
     EXPECT_EQ(Run({"select 1011 1-1", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_bSamplesOk, 0);
-    EXPECT_EQ(m_strBoxes, "[数据库z_c_SanZhou打开错误!][数据库z_c_SanZhou打开错误!]");
+    EXPECT_EQ(Boxes(), "[数据库z_c_SanZhou打开错误!][数据库z_c_SanZhou打开错误!]");
 }
 
 TEST_F(BrenDialog, Of101SelectedSamples100AreTaken) {
-    Sql("BEGIN");
+    Execute("BEGIN");
     for (int i = 1; i <= 101; ++i)
         AddSample("1", std::to_string(i));
     AddLayer("1");
-    Sql("COMMIT");
+    Execute("COMMIT");
     EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_saSelQY.GetSize(), 100);
     EXPECT_EQ(m_dialog.m_saLayer.GetSize(), 100);
@@ -261,7 +261,7 @@ TEST_F(BrenDialog, ClearingMarksNeedsABorehole) {
     AddSample("1", "1-1");
     SetMarks("SYQXG11", "1-1");
     Run({"select 1010 none", "select 1011 1-1", "click 1062"});
-    EXPECT_EQ(m_strBoxes, "[请先选择钻孔,再删除!]");
+    EXPECT_EQ(Boxes(), "[请先选择钻孔,再删除!]");
     EXPECT_EQ(Marks("SYQXG11"), "1-1");
 }
 
@@ -269,7 +269,7 @@ TEST_F(BrenDialog, ASampleThatIsNotInTheRegisterEndsTheConfirmation) {
     AddSample("1", "1-1");
     AddSample("1", "1-2");
     AddLayer("1");
-    Sql("DELETE FROM z_c_QuYang WHERE QYBH='1-2'");
+    Execute("DELETE FROM z_c_QuYang WHERE QYBH='1-2'");
     EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
     EXPECT_EQ(m_strPrinted, std::string(READING) + "\n数据库z_c_QuYang数据不全!");
@@ -339,7 +339,7 @@ TEST_F(BrenDialog, DrawingAllMarksEverything) {
 
 TEST_F(BrenDialog, DrawingAllOfAProjectWithoutReadingsStays) {
     EXPECT_EQ(Run({"check 1063", "ok"}), 2);
-    EXPECT_EQ(m_strBoxes, "[没有可用的取样编号!]");
+    EXPECT_EQ(Boxes(), "[没有可用的取样编号!]");
     EXPECT_EQ(Marks("SYQXG1"), "(none)");
 }
 
@@ -355,7 +355,7 @@ TEST_F(BrenDialog, DrawingAllPrintsNoSampleNumberInItsMessages) {
 
 TEST_F(BrenDialog, DrawingAllEndsAtASampleThatIsNotInTheRegisterWithoutMarks) {
     AddSample("1", "1-1");
-    Sql("DELETE FROM z_c_QuYang");
+    Execute("DELETE FROM z_c_QuYang");
     EXPECT_EQ(Run({"check 1063", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
     EXPECT_EQ(Marks("SYQXG1"), "(none)");

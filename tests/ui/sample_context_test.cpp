@@ -42,7 +42,7 @@ TEST_F(SampleContext, WithoutALimitThereIsNoIndex) {
     AddLayer("1");
     EXPECT_EQ(Read("2,0.2,25,0,NULL,33"), 1);
     EXPECT_EQ(Shown(), "2.00|25.00|||粉质黏土");
-    Sql("DELETE FROM z_c_QuYang");
+    Execute("DELETE FROM z_c_QuYang");
     m_context = {};
     EXPECT_EQ(Read("2,0.2,25,0,20,NULL"), 1);
     EXPECT_EQ(Shown(), "2.00|25.00|||粉质黏土");
@@ -62,11 +62,11 @@ TEST_F(SampleContext, ANegativePlasticityIndexIsCalculatedWith) {
 }
 
 TEST_F(SampleContext, TakesTheLayerThatHoldsTheWholeSample) {
-    Sql("INSERT INTO z_g_TuCeng VALUES (7,'1',2,2,'填土')");
-    Sql("INSERT INTO z_g_TuCeng VALUES (7,'1',5,3,'黏土')");
+    Execute("INSERT INTO z_g_TuCeng VALUES (1,'1',2,2,'填土')");
+    Execute("INSERT INTO z_g_TuCeng VALUES (1,'1',5,3,'黏土')");
     EXPECT_EQ(Read("4.5,0.5,25,0,20,10"), 1);
     EXPECT_STREQ(m_context.m_strLayer, "黏土"); // down to its very bottom
-    Sql("DELETE FROM z_c_QuYang");
+    Execute("DELETE FROM z_c_QuYang");
     EXPECT_EQ(Read("1.75,0.5,25,0,20,10"), 1);
     EXPECT_STREQ(m_context.m_strLayer, " "); // across two layers
     EXPECT_EQ(m_bTuCengOk, 0);
@@ -84,7 +84,7 @@ TEST_F(SampleContext, WithoutAThicknessTheSampleIsAPoint) {
 }
 
 TEST_F(SampleContext, WithoutADepthZeroIsTaken) {
-    Sql("INSERT INTO z_g_TuCeng VALUES (7,'1',1,1,'填土')");
+    Execute("INSERT INTO z_g_TuCeng VALUES (1,'1',1,1,'填土')");
     EXPECT_EQ(Read("NULL,0.5,25,0,20,10"), 1);
     EXPECT_EQ(Shown(), "|25.00|-10.00|-0.50|填土");
     EXPECT_EQ(m_bQuYangOk, 0);
@@ -92,14 +92,14 @@ TEST_F(SampleContext, WithoutADepthZeroIsTaken) {
 }
 
 TEST_F(SampleContext, ARegisterThatCannotBeOpenedFails) {
-    Sql("DROP TABLE z_c_QuYang");
+    Execute("DROP TABLE z_c_QuYang");
     EXPECT_EQ(ReadSampleContext(GCSY, "1", "1-1", "1-1", &m_context, &m_bQuYangOk, &m_bTuCengOk), 0);
     EXPECT_EQ(m_bQuYangOk, 0);
-    EXPECT_EQ(m_strBoxes, "[数据库z_c_QuYang打开有错误!]");
+    EXPECT_EQ(Boxes(), "[数据库z_c_QuYang打开有错误!]");
 }
 
 TEST_F(SampleContext, LayersThatCannotBeOpenedAreAFaultOnly) {
-    Sql("DROP TABLE z_g_TuCeng");
+    Execute("DROP TABLE z_g_TuCeng");
     EXPECT_EQ(Read("2,0.5,25,0,20,10"), 1);
     EXPECT_STREQ(m_context.m_strLayer, " ");
     EXPECT_EQ(m_bTuCengOk, 0);
