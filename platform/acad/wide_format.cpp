@@ -11,7 +11,7 @@ namespace {
 
 constexpr int g_nWidest = 4096; // what a mistaken width may cost
 
-struct CSpec {
+struct CConversion {
     std::string m_strFlags;
     int m_nWidth = 0, m_nPrecision = -1;
     std::string m_strSize; // h, l, ll, z or nothing
@@ -29,92 +29,94 @@ int ReadNumber(const ACHAR*& at, std::va_list* arguments) {
     return number;
 }
 
-void ReadSize(const ACHAR*& at, CSpec& spec) {
+void ReadSize(const ACHAR*& at, CConversion& conversion) {
     if (std::wcsncmp(at, L"I64", 3) == 0) {
-        spec.m_strSize = "ll";
+        conversion.m_strSize = "ll";
         at += 3;
     }
     for (; *at && std::wcschr(L"hlz", *at); ++at)
-        spec.m_strSize += static_cast<char>(*at);
+        conversion.m_strSize += static_cast<char>(*at);
 }
 
 /// Reads what follows a percent sign.
-CSpec ReadSpec(const ACHAR*& at, std::va_list* arguments) {
-    CSpec spec;
+CConversion ReadSpec(const ACHAR*& at, std::va_list* arguments) {
+    CConversion conversion;
     for (; *at && std::wcschr(L"-+ #0", *at); ++at)
-        if (spec.m_strFlags.find(static_cast<char>(*at)) == std::string::npos)
-            spec.m_strFlags += static_cast<char>(*at);
+        if (conversion.m_strFlags.find(static_cast<char>(*at)) == std::string::npos)
+            conversion.m_strFlags += static_cast<char>(*at);
     const int width = ReadNumber(at, arguments);
-    if (width < 0 && spec.m_strFlags.find('-') == std::string::npos) spec.m_strFlags += '-';
-    spec.m_nWidth = width < -g_nWidest ? g_nWidest : std::min(width < 0 ? -width : width, g_nWidest);
+    if (width < 0 && conversion.m_strFlags.find('-') == std::string::npos) conversion.m_strFlags += '-';
+    conversion.m_nWidth = width < -g_nWidest ? g_nWidest : std::min(width < 0 ? -width : width, g_nWidest);
     if (*at == L'.') {
         ++at;
-        spec.m_nPrecision = std::clamp(ReadNumber(at, arguments), -1, g_nWidest);
+        conversion.m_nPrecision = std::clamp(ReadNumber(at, arguments), -1, g_nWidest);
     }
-    ReadSize(at, spec);
-    spec.m_cLetter = *at;
+    ReadSize(at, conversion);
+    conversion.m_cLetter = *at;
     if (*at) ++at;
-    return spec;
+    return conversion;
 }
 
-/// The spec as a narrow format of one conversion.
-std::string Narrow(const CSpec& spec, const std::string& strSize) {
-    std::string format = "%" + spec.m_strFlags;
-    if (spec.m_nWidth) format += std::to_string(spec.m_nWidth);
-    if (spec.m_nPrecision >= 0) format += "." + std::to_string(spec.m_nPrecision);
-    return format + strSize + static_cast<char>(spec.m_cLetter);
+/// The conversion as a narrow format of one conversion.
+std::string Narrow(const CConversion& conversion, const std::string& strSize) {
+    std::string format = "%" + conversion.m_strFlags;
+    if (conversion.m_nWidth) format += std::to_string(conversion.m_nWidth);
+    if (conversion.m_nPrecision >= 0) format += "." + std::to_string(conversion.m_nPrecision);
+    return format + strSize + static_cast<char>(conversion.m_cLetter);
 }
 
-void AppendPadded(std::wstring& text, std::wstring_view piece, const CSpec& spec) {
-    if (spec.m_nPrecision >= 0) piece = piece.substr(0, static_cast<std::size_t>(spec.m_nPrecision));
-    const auto width = static_cast<std::size_t>(spec.m_nWidth);
+void AppendPadded(std::wstring& text, std::wstring_view piece, const CConversion& conversion) {
+    if (conversion.m_nPrecision >= 0)
+        piece = piece.substr(0, static_cast<std::size_t>(conversion.m_nPrecision));
+    const auto width = static_cast<std::size_t>(conversion.m_nWidth);
     const std::size_t padding = width > piece.size() ? width - piece.size() : 0;
-    const bool bLeft = spec.m_strFlags.find('-') != std::string::npos;
+    const bool bLeft = conversion.m_strFlags.find('-') != std::string::npos;
     if (!bLeft) text.append(padding, L' ');
     text += piece;
     if (bLeft) text.append(padding, L' ');
 }
 
-void AppendText(std::wstring& text, const CSpec& spec, std::va_list* arguments) {
-    const bool bNarrow = spec.m_strSize == "h" || (spec.m_cLetter == L'S' && spec.m_strSize != "l");
+void AppendText(std::wstring& text, const CConversion& conversion, std::va_list* arguments) {
+    const bool bNarrow =
+        conversion.m_strSize == "h" || (conversion.m_cLetter == L'S' && conversion.m_strSize != "l");
     if (bNarrow) {
         const char* const pText = va_arg(*arguments, const char*);
-        return AppendPadded(text, pText ? WideFromGbk(pText) : L"(null)", spec);
+        return AppendPadded(text, pText ? WideFromGbk(pText) : L"(null)", conversion);
     }
     const wchar_t* const pText = va_arg(*arguments, const wchar_t*);
-    AppendPadded(text, pText ? pText : L"(null)", spec);
+    AppendPadded(text, pText ? pText : L"(null)", conversion);
 }
 
-void AppendCharacter(std::wstring& text, CSpec spec, std::va_list* arguments) {
+void AppendCharacter(std::wstring& text, CConversion conversion, std::va_list* arguments) {
     const auto character = static_cast<wchar_t>(va_arg(*arguments, int));
-    spec.m_nPrecision = -1;
-    AppendPadded(text, std::wstring_view(&character, 1), spec);
+    conversion.m_nPrecision = -1;
+    AppendPadded(text, std::wstring_view(&character, 1), conversion);
 }
 
-std::string Integer(const CSpec& spec, std::va_list* arguments) {
-    if (spec.m_strSize == "ll" || spec.m_strSize == "l" || spec.m_strSize == "z") {
+std::string Integer(const CConversion& conversion, std::va_list* arguments) {
+    if (conversion.m_strSize == "ll" || conversion.m_strSize == "l" || conversion.m_strSize == "z") {
         // On Windows a long has 32 bits, here 64; callers hand over this system's long.
         const long long value = va_arg(*arguments, long long);
-        return FormatText(Narrow(spec, "ll").c_str(), value);
+        return FormatText(Narrow(conversion, "ll").c_str(), value);
     }
     const int value = va_arg(*arguments, int); // char and short come as int
-    return FormatText(Narrow(spec, spec.m_strSize == "h" ? "h" : "").c_str(), value);
+    return FormatText(Narrow(conversion, conversion.m_strSize == "h" ? "h" : "").c_str(), value);
 }
 
 /// False for a conversion that is none here.
-bool AppendConversion(std::wstring& text, const CSpec& spec, std::va_list* arguments) {
-    if (!spec.m_cLetter) return false;
-    if (spec.m_cLetter == L'%') {
+bool AppendConversion(std::wstring& text, const CConversion& conversion, std::va_list* arguments) {
+    if (!conversion.m_cLetter) return false;
+    if (conversion.m_cLetter == L'%') {
         text += L'%';
-    } else if (spec.m_cLetter == L's' || spec.m_cLetter == L'S') {
-        AppendText(text, spec, arguments);
-    } else if (spec.m_cLetter == L'c' || spec.m_cLetter == L'C') {
-        AppendCharacter(text, spec, arguments);
-    } else if (std::wcschr(L"diuxXo", spec.m_cLetter)) {
-        text += WideFromGbk(Integer(spec, arguments));
-    } else if (std::wcschr(L"fFeEgG", spec.m_cLetter)) {
-        text += WideFromGbk(FormatText(Narrow(spec, "").c_str(), va_arg(*arguments, double)));
-    } else if (spec.m_cLetter == L'p') {
+    } else if (conversion.m_cLetter == L's' || conversion.m_cLetter == L'S') {
+        AppendText(text, conversion, arguments);
+    } else if (conversion.m_cLetter == L'c' || conversion.m_cLetter == L'C') {
+        AppendCharacter(text, conversion, arguments);
+    } else if (std::wcschr(L"diuxXo", conversion.m_cLetter)) {
+        text += WideFromGbk(Integer(conversion, arguments));
+    } else if (std::wcschr(L"fFeEgG", conversion.m_cLetter)) {
+        text += WideFromGbk(FormatText(Narrow(conversion, "").c_str(), va_arg(*arguments, double)));
+    } else if (conversion.m_cLetter == L'p') {
         text += WideFromGbk(FormatText("%p", va_arg(*arguments, void*)));
     } else {
         return false;
