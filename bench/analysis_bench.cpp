@@ -33,7 +33,8 @@ void ReduceOneSample(benchmark::State& state) {
         CBRENChart chart;
         chart.m_strSYFF = g_pMethodCU;
         CReduction reduction(chart);
-        for (const CTestReading& reading : readings) benchmark::DoNotOptimize(reduction.AddReading(reading));
+        for (const CTestReading& reading : readings)
+            benchmark::DoNotOptimize(reduction.AddReading(reading));
         benchmark::DoNotOptimize(reduction.Finish());
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(readings.size()));
@@ -48,7 +49,8 @@ void FindEnvelopeOfCircles(benchmark::State& state) {
         circles.AddCircle(dCentre, 20.0 + 0.4 * dCentre + 7.0 * std::sin(1.7 * i));
     }
     double dC = 0.0, dPhi = 0.0;
-    for (auto _ : state) benchmark::DoNotOptimize(circles.FindEnvelope(&dC, &dPhi));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(circles.FindEnvelope(&dC, &dPhi));
 }
 BENCHMARK(FindEnvelopeOfCircles)->Arg(3)->Arg(10)->Arg(30)->Arg(100);
 } // namespace

@@ -61,8 +61,8 @@ struct CControl {
     bool m_bVisible = true;
     bool m_bReadOnly = false;
     int m_nCheck = 0;
-    std::vector<CListEntry> m_arEntries; ///< of a list or combo box
-    int m_nCaret = 0;                    ///< entry of a list box that has the focus, clicked last
+    std::vector<CListEntry> m_arEntries;  ///< of a list or combo box
+    int m_nCaret = 0;                     ///< entry of a list box that has the focus, clicked last
     std::chrono::year_month_day m_date{}; ///< of a date field; today at first
     CWnd* m_pParent = nullptr;
     CWnd* m_pHandle = nullptr; ///< the object that GetDlgItem gives
