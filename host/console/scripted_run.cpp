@@ -7,6 +7,7 @@
 #include "host/console/texts.h"
 #include "host/plot/fonts.h"
 #include "host/plot/headless.h"
+#include "platform/ado/report.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
 #include "platform/windows/message_box.h"
@@ -56,6 +57,17 @@ private:
     CConsoleDialogPresenter m_presenter;
 };
 
+/// The database layer's lines, such as a store given up, go to the text window while this lives.
+class CRegisteredReports {
+public:
+    explicit CRegisteredReports(CTextOutput& output) {
+        SetReportSink([&output](const std::string& strLine) { output.WriteLine(ToUtf8(strLine)); });
+    }
+    ~CRegisteredReports() { SetReportSink({}); }
+    CRegisteredReports(const CRegisteredReports&) = delete;
+    CRegisteredReports& operator=(const CRegisteredReports&) = delete;
+};
+
 void LoadAtStart(CHost& host, const std::string& strModule) {
     if (strModule == NO_MODULE) return;
     std::string reason;
@@ -85,6 +97,7 @@ int RunFrom(std::istream& input, const CProgramOptions& options, const std::stri
     StartHeadlessQt();
     CRegisteredFonts fonts(output);
     const CRegisteredDialogs dialogs(answers);
+    const CRegisteredReports reports(output);
     CModules modules;
     int nStatus = EXIT_DONE;
     {

@@ -3,6 +3,7 @@
 
 #include "tests/support/programs.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -186,6 +187,33 @@ TEST(Road, SaysThatTheDataManagerIsNotRunning) {
     EXPECT_EQ(road.m_program.Shell("sed -i 's/^GCSY=.*/GCSY=1/' \"$ROOT/Project.ini\"").m_nStatus, 0);
     EXPECT_EQ(road.m_program.Tvcad("BREN\n").m_strOut,
               Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能!\n"));
+}
+
+TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
+    CRoad road("smith-exc4.4");
+    const CProgram& program = road.m_program;
+    // A short wait instead of the usual ten seconds, and another program that holds the database meanwhile.
+    EXPECT_EQ(
+        program
+            .Shell(
+                "sed -i \"s|^Connect=.*|Connect=Provider=SQLite;Data Source=$ROOT/Projects/GC1/project.db;"
+                "Lock Timeout=200|\" \"$ROOT/Project.ini\" && grep -q 'Lock Timeout' \"$ROOT/Project.ini\"")
+            .m_nStatus,
+        0);
+    const std::string strScript = program.Folder().Write(
+        "sheet.scr", "BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\nDUMP " + road.File("sheet.json") + "\n");
+    const CRun run = program.Shell(
+        "mkfifo $ROOT/hold && sqlite3 $ROOT/Projects/GC1/project.db < $ROOT/hold > $ROOT/held & exec 9> "
+        "$ROOT/hold; "
+        "echo 'BEGIN IMMEDIATE; SELECT 1;' >&9; until grep -q 1 $ROOT/held; do sleep 0.05; done; '" TERVO_BIN
+        "/tvcad' --root $ROOT -q -s '" +
+        strScript + "'; status=$?; exec 9>&-; wait; exit $status");
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    EXPECT_NE(run.m_strOut.find("z_c_SanZhou 1 1-1: locked by another program, row not stored"),
+              std::string::npos)
+        << run.m_strOut;
+    EXPECT_EQ(road.Dump()["modelSpace"].size(), 1U); // the chart stays
+    EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
 }
 
 TEST(Road, LeavesNothingWhenThePointIsCancelled) {
