@@ -203,9 +203,9 @@ TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
     const std::string strScript = program.Folder().Write(
         "sheet.scr", "BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\nDUMP " + road.File("sheet.json") + "\n");
     const CRun run = program.Shell(
-        "mkfifo $ROOT/hold && sqlite3 $ROOT/Projects/GC1/project.db < $ROOT/hold > $ROOT/held & exec 9> "
-        "$ROOT/hold; "
-        "echo 'BEGIN IMMEDIATE; SELECT 1;' >&9; until grep -q 1 $ROOT/held; do sleep 0.05; done; '" TERVO_BIN
+        "db=$ROOT/Projects/GC1/project.db; mkfifo $ROOT/hold; sqlite3 $db < $ROOT/hold & exec 9> $ROOT/hold; "
+        "echo 'BEGIN IMMEDIATE;' >&9; "
+        "while sqlite3 $db 'BEGIN IMMEDIATE; ROLLBACK;' 2>/dev/null; do sleep 0.05; done; '" TERVO_BIN
         "/tvcad' --root $ROOT -q -s '" +
         strScript + "'; status=$?; exec 9>&-; wait; exit $status");
     EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
