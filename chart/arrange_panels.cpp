@@ -5,7 +5,7 @@
 namespace {
 constexpr double g_dSheetWidth = 176.0;
 constexpr double g_dSheetHeight = 257.0;
-constexpr int g_nTableColumn = 15;
+constexpr Adesk::Int64 g_nTableColumn = 15;
 constexpr double g_dSummaryWidth = 45.0; // of the summary table and its distance, in the stacked arrangement
 
 /// What the arrangement is made of, in drawing units. Sums of whole numbers stay whole, in 64 bits, since a
@@ -46,10 +46,10 @@ void ArrangeSideBySide(CBRENChart& chart, const CSizes& s) {
     chart.m_ptMohrOrigin.set(bx + (g_dSheetWidth - static_cast<double>(s.m_nMohrW + 55)) / 2.0 + 10.0,
                              by - g_dSheetHeight + dAir, 0.0);
     const int nTableGap = s.m_bEffective ? 10 : 3;
-    const int nTableRows = s.m_bEffective ? 10 : 6;
+    const Adesk::Int64 nTableRows = s.m_bEffective ? 10 : 6;
     chart.m_ptTableOrigin.set(chart.m_ptCurveOrigin.x + static_cast<double>(s.m_nCurveW) + nTableGap,
                               chart.m_ptCurveOrigin.y + dCurveH - Half(s.m_nCurveH - 8 * nTableRows), 0.0);
-    const int nSummaryRows = s.m_bEffective ? 8 : 6;
+    const Adesk::Int64 nSummaryRows = s.m_bEffective ? 8 : 6;
     chart.m_ptSummaryOrigin.set(chart.m_ptMohrOrigin.x + static_cast<double>(s.m_nMohrW) + 15.0,
                                 chart.m_ptMohrOrigin.y + dMohrH - Half(s.m_nMohrH - 8 * nSummaryRows), 0.0);
 }

@@ -69,7 +69,7 @@ TEST(SplitAtFirstDrop, OfTwoFallingPointsHasOnePointInItsHead) {
 
 TEST(SplitAtFirstDrop, OfAnEmptyListIsTwoWithNothing) {
     AcGePoint3dArray head, tail;
-    EXPECT_EQ(SplitAtFirstDrop({}, head, tail), 2);
+    EXPECT_EQ(SplitAtFirstDrop(AcGePoint3dArray(), head, tail), 2);
     EXPECT_TRUE(head.isEmpty());
     EXPECT_TRUE(tail.isEmpty());
 }

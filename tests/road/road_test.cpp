@@ -38,17 +38,27 @@ public:
         m_program.Do("import --root \"$ROOT\" --number GC1 " + strFolder + "/samples.csv " + strFolder +
                      "/layers.csv " + strFolder + "/readings.csv");
         m_program.Do("open --root \"$ROOT\" --number GC1");
+        // The first row of the samples begins with borehole and sample.
+        std::istringstream samples(ReadFile(strFolder + "/samples.csv"));
+        std::string strRow;
+        for (int i = 0; i < 2; i++)
+            std::getline(samples, strRow);
+        std::istringstream row(strRow);
+        std::getline(row, m_strZKBH, ',');
+        std::getline(row, m_strQYBH, ',');
     }
     /// BREN for the one sample of a set, then what else the script says. The working folder of output is
     /// $OUT.
     CRun Generate(const std::string& strThen) {
-        return m_program.Tvcad("BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\n" + strThen);
+        return m_program.Tvcad("BREN\nselect 1010 " + m_strZKBH + "\nselect 1011 " + m_strQYBH +
+                               "\nok\n0,0\n" + strThen);
     }
     std::string File(const std::string& strName) const { return m_program.Folder().Path(strName); }
     CJson Dump() const { return CJson::parse(ReadFile(File("sheet.json"))); }
     CJson Results() { return CJson::parse(m_program.Do("results --root \"$ROOT\" --number GC1 --json")); }
 
     CProgram m_program;
+    std::string m_strZKBH, m_strQYBH;
 };
 
 class RoadOfSet : public testing::TestWithParam<std::string> {};
@@ -86,10 +96,20 @@ TEST_P(RoadOfSet, LeadsFromReadingsToChartPictureAndValues) {
     const CJson& fields = chart["fields"];
     EXPECT_EQ(fields["m_ptBase"], CJson({25.0, 262.0, 0.0}));
     EXPECT_FALSE(chart["world"].empty());
+    EXPECT_TRUE(std::filesystem::exists(road.File("sheet.pdf")));
     int nOdd = 0;
     CountOddNumbers(fields, &nOdd);
-    EXPECT_EQ(nOdd, 0); // no set here has a tie that a pair without a tangent wins
-    EXPECT_TRUE(std::filesystem::exists(road.File("sheet.pdf")));
+    if (GetParam() == "uu-clay-load-stroke") {
+        // A circle lies inside its neighbours; those pairs have no tangent, and one of them wins the tie in
+        // the middle.
+        EXPECT_EQ(fields["m_dCalcC"], "nan");
+        EXPECT_EQ(fields["m_dAdoptPhi"], "nan");
+        EXPECT_GT(nOdd, 0);
+        EXPECT_TRUE(row["UUC"].is_null());
+        EXPECT_FALSE(row["SYRQ"].is_null());
+        return;
+    }
+    EXPECT_EQ(nOdd, 0);
 
     // What the table holds is what the chart adopted, to two decimals and in single precision.
     const std::string strMethod = fields["m_strSYFF"];
@@ -119,17 +139,20 @@ INSTANTIATE_TEST_SUITE_P(All, RoadOfSet, testing::ValuesIn(SetNames()), [](const
     return strName;
 });
 
-TEST(Road, StoresThePublishedTangents) {
-    CRoad undrained("smith-ex3.4");
-    EXPECT_EQ(undrained.Generate("").m_nStatus, 0);
-    const CJson first = undrained.Results().at(0);
-    EXPECT_EQ(first["UUC"], 83.97);
-    EXPECT_EQ(first["UUF"], 7.87);
-    CRoad drained("smith-exc4.4");
-    EXPECT_EQ(drained.Generate("").m_nStatus, 0);
-    const CJson second = drained.Results().at(0);
-    EXPECT_EQ(second["CDC"], 11.03);
-    EXPECT_EQ(second["CDF"], 17.35);
+TEST(Road, StoresTheLastOfThreePublishedTangentsThatTie) {
+    CRoad road("smith-ex3.4");
+    EXPECT_EQ(road.Generate("").m_nStatus, 0);
+    const CJson row = road.Results().at(0);
+    EXPECT_EQ(row["UUC"], 83.97);
+    EXPECT_EQ(row["UUF"], 7.87);
+}
+
+TEST(Road, StoresThePublishedTangentOfThreeCircles) {
+    CRoad road("smith-exc4.4");
+    EXPECT_EQ(road.Generate("").m_nStatus, 0);
+    const CJson row = road.Results().at(0);
+    EXPECT_EQ(row["CDC"], 11.03);
+    EXPECT_EQ(row["CDF"], 17.35);
 }
 
 TEST(Road, KeepsTheValuesOfTangentsInTheChart) {

@@ -22,7 +22,7 @@
 class CSuiteTest : public testing::Test {
 protected:
     CSuiteTest() {
-        SetInstallationRoot(m_root.Path(""));
+        SetInstallationRoot(m_root.Path());
         g_strProjectIni = m_root.Path("Project.ini");
         g_strSettingsIni = m_root.Path("Settings.ini");
         g_strMarksIni = m_root.Path("Marks.ini");

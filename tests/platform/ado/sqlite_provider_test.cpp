@@ -53,7 +53,7 @@ TEST_F(SqliteProvider, NeverCreatesAMissingDatabase) {
 
 TEST_F(SqliteProvider, RefusesAnEmptyPathAndAFolder) {
     EXPECT_NE(WhyNotOpened("Provider=SQLite"), "");
-    EXPECT_NE(WhyNotOpened("Provider=SQLite;Data Source=" + m_folder.Path("")), "");
+    EXPECT_NE(WhyNotOpened("Provider=SQLite;Data Source=" + m_folder.Path()), "");
     EXPECT_NE(WhyNotOpened("Provider=SQLite;Data Source=:memory:"), "");
     EXPECT_NE(WhyNotOpened("Provider=SQLite;Data Source=file::memory:"), "");
 }
@@ -65,8 +65,8 @@ TEST_F(SqliteProvider, NamesAnUnknownProvider) {
 
 TEST_F(SqliteProvider, OpensAFileWhoseNameIsNotAscii) {
     std::string strPath;
-    ASSERT_TRUE(Utf8ToGbk(m_folder.Path(""), &strPath));
-    strPath += "工程一.db";
+    ASSERT_TRUE(Utf8ToGbk(m_folder.Path(), &strPath));
+    strPath += "/工程一.db";
     CreateSqliteDatabase(strPath)->Execute("create table t(a)");
     EXPECT_TRUE(std::filesystem::exists(m_folder.Path("\xE5\xB7\xA5\xE7\xA8\x8B\xE4\xB8\x80.db")));
     EXPECT_EQ(Rows(*OpenDbConnection("Provider=SQLite;Data Source=" + strPath), "select * from t"), CRows{});
@@ -77,7 +77,7 @@ TEST_F(SqliteProvider, OpensAPathWithEitherSlashInAnyCase) {
     std::filesystem::create_directory(m_folder.Path("Data"));
     std::filesystem::copy(m_strPath, m_folder.Path("Data/Common.db"));
     const auto pDatabase =
-        OpenDbConnection("Provider=SQLite;Data Source=" + m_folder.Path("") + "DATA\\common.DB");
+        OpenDbConnection("Provider=SQLite;Data Source=" + m_folder.Path() + "/DATA\\common.DB");
     EXPECT_EQ(Rows(*pDatabase, "select count(*) from t"), CRows{"0"});
 }
 

@@ -9,11 +9,11 @@ TEST(CFileFind, StepsFromFindToFind) {
     for (const char* name : {"BR1.dwg", "BR2.a.dwg", "x.txt"})
         folder.Write(name, "");
     CFileFind find;
-    const CString pattern = CString(folder.Path("").c_str()) + "\\br*.DWG";
+    const CString pattern = CString(folder.Path().c_str()) + "\\br*.DWG";
     ASSERT_TRUE(find.FindFile(pattern));
     EXPECT_TRUE(find.FindNextFile());
     EXPECT_EQ(find.GetFileName(), "BR1.dwg");
-    EXPECT_EQ(find.GetFilePath(), CString(folder.Path("").c_str()) + "\\BR1.dwg");
+    EXPECT_EQ(find.GetFilePath(), CString(folder.Path().c_str()) + "\\BR1.dwg");
     EXPECT_EQ(find.GetFileTitle(), "BR1");
     EXPECT_FALSE(find.IsDirectory());
     EXPECT_FALSE(find.FindNextFile()); // stands on the last one now

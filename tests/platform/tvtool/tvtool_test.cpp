@@ -15,10 +15,10 @@ namespace {
 /// An installation in a folder of the test's own; file names and texts are ASCII unless a test needs others.
 class TVToolTest : public testing::Test {
 protected:
-    void SetUp() override { SetInstallationRoot(m_folder.Path("")); }
+    void SetUp() override { SetInstallationRoot(m_folder.Path()); }
     void TearDown() override { SetInstallationRoot(""); }
 
-    std::string Root() const { return m_folder.Path("").substr(0, m_folder.Path("").size() - 1); }
+    std::string Root() const { return m_folder.Path(); }
     void Settings(const std::string& lines) const { m_folder.Write("tervo.ini", "[TVTool]\n" + lines); }
     void Project(const std::string& lines) const { m_folder.Write("Project.ini", "[Project]\n" + lines); }
 

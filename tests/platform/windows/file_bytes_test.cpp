@@ -16,7 +16,7 @@ TEST(WriteFileWhole, ReplacesTheContentAndLeavesNothingBeside) {
     std::string read;
     ASSERT_TRUE(ReadFileWhole(path, &read));
     EXPECT_EQ(read, bytes);
-    const std::filesystem::directory_iterator entries(folder.Path(""));
+    const std::filesystem::directory_iterator entries(folder.Path());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
 }
 
@@ -47,7 +47,7 @@ TEST(WriteFileWhole, FailsAndLeavesTheOldWhenTheTargetIsAFolder) {
     EXPECT_FALSE(WriteFileWhole(folder.Path("sub"), "x"));
     EXPECT_FALSE(WriteFileWhole(folder.Path("missing/a.txt"), "x"));
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path("sub")));
-    const std::filesystem::directory_iterator entries(folder.Path(""));
+    const std::filesystem::directory_iterator entries(folder.Path());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
 }
 
@@ -55,6 +55,6 @@ TEST(ReadFileWhole, LeavesTheOutputWhereThereIsNoFile) {
     const CTempFolder folder;
     std::string bytes = "kept";
     EXPECT_FALSE(ReadFileWhole(folder.Path("missing"), &bytes));
-    EXPECT_FALSE(ReadFileWhole(folder.Path(""), &bytes));
+    EXPECT_FALSE(ReadFileWhole(folder.Path(), &bytes));
     EXPECT_EQ(bytes, "kept");
 }

@@ -33,7 +33,7 @@ TEST(FindFirstFileA, FindsOneFileInAnyCaseAndTellsItsKind) {
     folder.Write("Br1.DWG", "12345");
     std::filesystem::create_directory(folder.Path(Utf8(u8"室内曲线")));
     WIN32_FIND_DATAA data = {};
-    HANDLE search = FindFirstFileA((folder.Path("") + "\\bR1.dwg").c_str(), &data);
+    HANDLE search = FindFirstFileA((folder.Path() + "\\bR1.dwg").c_str(), &data);
     ASSERT_NE(search, INVALID_HANDLE_VALUE);
     EXPECT_STREQ(data.cFileName, "Br1.DWG");
     EXPECT_EQ(data.nFileSizeLow, 5U);
@@ -41,7 +41,7 @@ TEST(FindFirstFileA, FindsOneFileInAnyCaseAndTellsItsKind) {
     EXPECT_EQ(data.dwFileAttributes, FILE_ATTRIBUTE_NORMAL);
     EXPECT_FALSE(FindNextFileA(search, &data));
     FindClose(search);
-    search = FindFirstFileA((folder.Path("") + "\\室内曲线").c_str(), &data);
+    search = FindFirstFileA((folder.Path() + "\\室内曲线").c_str(), &data);
     ASSERT_NE(search, INVALID_HANDLE_VALUE);
     EXPECT_TRUE(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY);
     FindClose(search);

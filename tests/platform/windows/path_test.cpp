@@ -13,7 +13,7 @@ TEST(ResolvePath, TakesEitherSlashAndAnyCase) {
     std::filesystem::create_directories(folder.Path(Utf8(u8"Output/GC1/室内曲线")));
     folder.Write(Utf8(u8"Output/GC1/室内曲线/BR1.dwg"), "");
     std::string utf8;
-    EXPECT_TRUE(ResolvePath("", folder.Path("") + "\\output\\gc1\\室内曲线/br1.DWG", &utf8));
+    EXPECT_TRUE(ResolvePath("", folder.Path() + "\\output\\gc1\\室内曲线/br1.DWG", &utf8));
     EXPECT_EQ(utf8, folder.Path(Utf8(u8"Output/GC1/室内曲线/BR1.dwg")));
     EXPECT_TRUE(ResolvePath(folder.Path("OUTPUT"), "GC1", &utf8));
     EXPECT_EQ(utf8, folder.Path("Output/GC1"));
@@ -24,9 +24,9 @@ TEST(ResolvePath, PrefersTheExactSpelling) {
     for (const char* name : {"a.txt", "A.txt", "A.TXT"})
         folder.Write(name, "");
     std::string utf8;
-    EXPECT_TRUE(ResolvePath(folder.Path(""), "A.txt", &utf8));
+    EXPECT_TRUE(ResolvePath(folder.Path(), "A.txt", &utf8));
     EXPECT_EQ(utf8, folder.Path("A.txt"));
-    EXPECT_TRUE(ResolvePath(folder.Path(""), "a.TXT", &utf8));
+    EXPECT_TRUE(ResolvePath(folder.Path(), "a.TXT", &utf8));
     EXPECT_EQ(utf8, folder.Path("A.TXT"));
 }
 
@@ -34,7 +34,7 @@ TEST(ResolvePath, KeepsTheRestOfAPathThatIsNotThereAsGiven) {
     const CTempFolder folder;
     std::filesystem::create_directory(folder.Path("Data"));
     std::string utf8;
-    EXPECT_FALSE(ResolvePath(folder.Path(""), "DATA\\New\\a.db", &utf8));
+    EXPECT_FALSE(ResolvePath(folder.Path(), "DATA\\New\\a.db", &utf8));
     EXPECT_EQ(utf8, folder.Path("Data/New/a.db"));
 }
 
@@ -43,7 +43,7 @@ TEST(ResolvePath, DoesNotDivideACharacterWhoseSecondByteIsABackslash) {
     const std::string name = "\x81\x5C"; // one character
     folder.Write(ToUtf8(name), "");
     std::string utf8;
-    EXPECT_TRUE(ResolvePath(folder.Path(""), name, &utf8));
+    EXPECT_TRUE(ResolvePath(folder.Path(), name, &utf8));
     EXPECT_EQ(utf8, folder.Path(ToUtf8(name)));
     EXPECT_EQ(LastSlash("a\\" + name), 1U);
     EXPECT_EQ(LastSlash(name), std::string_view::npos);
@@ -58,7 +58,7 @@ TEST(ResolvePath, GivesNothingForBytesThatAreNoCharacter) {
 TEST(ResolvePath, TakesAnAbsolutePathWithoutItsBase) {
     const CTempFolder folder;
     std::string utf8;
-    EXPECT_TRUE(ResolvePath("/nowhere", folder.Path(""), &utf8));
+    EXPECT_TRUE(ResolvePath("/nowhere", folder.Path(), &utf8));
     EXPECT_TRUE(ResolvePath("", "/", &utf8));
     EXPECT_EQ(utf8, "/");
     EXPECT_FALSE(ResolvePath("", "", &utf8));
@@ -78,6 +78,6 @@ TEST(FileNames, AreInTheOrderOfTheirCapitals) {
     const CTempFolder folder;
     for (const char8_t* name : {u8"b", u8"C", u8"a", u8"图", u8"가"})
         folder.Write(Utf8(name), "");
-    EXPECT_EQ(FileNames(folder.Path("")), (std::vector<std::string>{"a", "b", "C", "图"}));
+    EXPECT_EQ(FileNames(folder.Path()), (std::vector<std::string>{"a", "b", "C", "图"}));
     EXPECT_TRUE(FileNames(folder.Path("missing")).empty());
 }

@@ -98,7 +98,7 @@ TEST(GetPrivateProfileStringA, ListThatIsTooLongGivesTheSizeLessTwo) {
 TEST(GetPrivateProfileStringA, FindsTheFileInAnyCaseWithEitherSlash) {
     const CTempFolder folder;
     folder.Write("Settings.ini", "[S]\nk=v\n");
-    EXPECT_EQ(Value(folder.Path("") + "\\SETTINGS.INI", "S", "k"), "v");
+    EXPECT_EQ(Value(folder.Path() + "\\SETTINGS.INI", "S", "k"), "v");
 }
 
 TEST(GetPrivateProfileStringA, TellsACharacterThatTheCodePageLacks) {
@@ -156,7 +156,7 @@ TEST(WritePrivateProfileStringA, LeavesNothingBesideTheFile) {
     const std::string file = folder.Path("a.ini");
     EXPECT_TRUE(WritePrivateProfileStringA("S", "a", "1", file.c_str()));
     EXPECT_TRUE(WritePrivateProfileStringA("S", "a", "2", file.c_str()));
-    const std::filesystem::directory_iterator entries(folder.Path(""));
+    const std::filesystem::directory_iterator entries(folder.Path());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
 }
 

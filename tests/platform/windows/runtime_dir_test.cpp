@@ -15,7 +15,7 @@ class RuntimeDirTest : public testing::Test {
 protected:
     void SetUp() override {
         unsetenv("XDG_RUNTIME_DIR");
-        setenv("TMPDIR", m_folder.Path("").substr(0, m_folder.Path("").size() - 1).c_str(), 1);
+        setenv("TMPDIR", m_folder.Path().c_str(), 1);
     }
     void TearDown() override {
         unsetenv("XDG_RUNTIME_DIR");
