@@ -227,7 +227,7 @@ TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
         "sheet.scr", "BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\nDUMP " + road.File("sheet.json") + "\n");
     const CRun run = program.Shell(
         "db=$ROOT/Projects/GC1/project.db; mkfifo $ROOT/hold; sqlite3 $db < $ROOT/hold & exec 9> $ROOT/hold; "
-        "echo 'BEGIN IMMEDIATE;' >&9; "
+        "printf '.timeout 10000\\nBEGIN IMMEDIATE;\\n' >&9; " // it waits for the probe below
         "while sqlite3 $db 'BEGIN IMMEDIATE; ROLLBACK;' 2>/dev/null; do sleep 0.05; done; '" TERVO_BIN
         "/tvcad' --root $ROOT -q -s '" +
         strScript + "'; status=$?; exec 9>&-; wait; exit $status");
