@@ -22,6 +22,39 @@ void BothSolid(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoin
     if (first.length() > 1) sink.SolidCurve(first);
     if (second.length() > 1) sink.SolidCurve(second);
 }
+using CStroke = void (CPictureSink::*)(const AcGePoint3dArray&);
+
+/// In what the rising and the falling part of a stage differ when the next stage's curve cuts them.
+struct CStagePart {
+    bool m_bByY;                                      // how its points are divided at the crossing
+    CStroke m_pUpToCrossing, m_pBeyond, m_pUncrossed; // how its pieces are drawn
+};
+constexpr CStagePart g_risingPart{false, &CPictureSink::SolidCurve, &CPictureSink::DashedCurve,
+                                  &CPictureSink::SolidCurve};
+constexpr CStagePart g_fallingPart{true, &CPictureSink::DashedCurve, &CPictureSink::SolidCurve,
+                                   &CPictureSink::DashedCurve};
+
+int CutAgainst(CPictureSink& sink, const CStagePart& part, const AcGePoint3dArray& first,
+               const AcGePoint3dArray& second, AcGePoint3dArray& carry) {
+    AcGePoint3dArray crossings;
+    if (!FindCrossings(first, second, crossings)) {
+        BothSolid(sink, first, second);
+        return 0;
+    }
+    if (crossings.isEmpty()) {
+        (sink.*part.m_pUncrossed)(first);
+        carry = second;
+        return 0;
+    }
+    AcGePoint3dArray before, after, beforeSecond, afterSecond;
+    SplitAtPoint(crossings.first(), first, part.m_bByY, before, after);
+    (sink.*part.m_pUpToCrossing)(before);
+    (sink.*part.m_pBeyond)(after);
+    SplitAtPoint(crossings.first(), second, true, beforeSecond, afterSecond);
+    sink.DashedCurve(beforeSecond);
+    carry = afterSecond;
+    return 1;
+}
 } // namespace
 
 int SplitAtFirstDrop(const AcGePoint3dArray& points, AcGePoint3dArray& head, AcGePoint3dArray& tail) {
@@ -51,47 +84,13 @@ void SplitAtPoint(const AcGePoint3d& ptAt, const AcGePoint3dArray& points, bool 
 
 int DrawCrossHead(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
                   AcGePoint3dArray& carry) {
-    AcGePoint3dArray crossings;
-    if (!FindCrossings(first, second, crossings)) {
-        BothSolid(sink, first, second);
-        return 0;
-    }
-    if (crossings.isEmpty()) {
-        sink.SolidCurve(first);
-        carry = second;
-        return 0;
-    }
-    AcGePoint3dArray before, after, beforeSecond, afterSecond;
-    SplitAtPoint(crossings.first(), first, false, before, after);
-    sink.SolidCurve(before);
-    sink.DashedCurve(after);
-    SplitAtPoint(crossings.first(), second, true, beforeSecond, afterSecond);
-    sink.DashedCurve(beforeSecond);
-    carry = afterSecond;
-    return 1;
+    return CutAgainst(sink, g_risingPart, first, second, carry);
 }
 
 int DrawCrossTail(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
                   AcGePoint3dArray& carry) {
     carry.setLogicalLength(0);
-    AcGePoint3dArray crossings;
-    if (!FindCrossings(first, second, crossings)) {
-        BothSolid(sink, first, second);
-        return 0;
-    }
-    if (crossings.isEmpty()) {
-        sink.DashedCurve(first);
-        carry = second;
-        return 0;
-    }
-    AcGePoint3dArray before, after, beforeSecond, afterSecond;
-    SplitAtPoint(crossings.first(), first, true, before, after);
-    sink.DashedCurve(before);
-    sink.SolidCurve(after);
-    SplitAtPoint(crossings.first(), second, true, beforeSecond, afterSecond);
-    sink.DashedCurve(beforeSecond);
-    carry = afterSecond;
-    return 1;
+    return CutAgainst(sink, g_fallingPart, first, second, carry);
 }
 
 void DrawSolidCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
