@@ -91,8 +91,8 @@ public:
         return {row.m_pName, row.m_nDeclared, row.m_bFiled};
     }
     CFieldValue Get(const AcDbObject& object, int index) const override {
-        const T& chart = static_cast<const T&>(object);
-        return std::visit([&](auto member) { return Read(chart, member); }, Row(index).m_member);
+        const T& source = static_cast<const T&>(object);
+        return std::visit([&](auto member) { return Read(source, member); }, Row(index).m_member);
     }
     int Set(AcDbObject& object, int index, const CFieldValue& value) const override {
         T& target = static_cast<T&>(object);
