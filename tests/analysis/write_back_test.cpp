@@ -26,12 +26,12 @@ protected:
 } // namespace
 
 TEST_F(WriteBack, StoresRoundedValuesOfTheMethodAndClearsTheOthers) {
-    m_project.AddSample("ZK1", "1-1", g_pMethodUU);
+    m_project.AddMethod("ZK1", "1-1", g_pMethodUU);
     m_project.Execute("UPDATE z_c_SanZhou SET CUC=1, CUF=2, CUCE=3, CUFE=4, CDC=5, CDF=6");
     m_chart.m_strSYFF = g_pMethodUU;
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
-    EXPECT_EQ(m_project.Number("SELECT UUC FROM z_c_SanZhou"), static_cast<double>(12.35F));
-    EXPECT_EQ(m_project.Number("SELECT UUF FROM z_c_SanZhou"), static_cast<double>(6.67F));
+    EXPECT_EQ(std::stof(m_project.Query("SELECT UUC FROM z_c_SanZhou")), 12.35F);
+    EXPECT_EQ(std::stof(m_project.Query("SELECT UUF FROM z_c_SanZhou")), 6.67F);
     EXPECT_EQ(m_project.Query(
                   "SELECT count(*) FROM z_c_SanZhou WHERE CUC IS NULL AND CUF IS NULL AND CUCE IS NULL AND "
                   "CUFE IS NULL AND CDC IS NULL AND CDF IS NULL"),
@@ -39,7 +39,7 @@ TEST_F(WriteBack, StoresRoundedValuesOfTheMethodAndClearsTheOthers) {
 }
 
 TEST_F(WriteBack, StoresBothSetsOfAnUndrainedTestAndClearsAnEarlierMethods) {
-    m_project.AddSample("ZK1", "1-1", g_pMethodCU);
+    m_project.AddMethod("ZK1", "1-1", g_pMethodCU);
     m_project.Execute("UPDATE z_c_SanZhou SET UUC=1, UUF=2, CDC=5, CDF=6");
     m_chart.m_strSYFF = g_pMethodCU;
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
@@ -54,7 +54,7 @@ TEST_F(WriteBack, StoresBothSetsOfAnUndrainedTestAndClearsAnEarlierMethods) {
 }
 
 TEST_F(WriteBack, StoresADrainedTestFromItsTotalFields) {
-    m_project.AddSample("ZK1", "1-1", g_pMethodCD);
+    m_project.AddMethod("ZK1", "1-1", g_pMethodCD);
     m_chart.m_strSYFF = g_pMethodCD;
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
     EXPECT_EQ(m_project.Query("SELECT round(CDC,2)||' '||round(CDF,2) FROM z_c_SanZhou WHERE UUC IS NULL"),
@@ -62,7 +62,7 @@ TEST_F(WriteBack, StoresADrainedTestFromItsTotalFields) {
 }
 
 TEST_F(WriteBack, WritesTodayWithoutLeadingZeros) {
-    m_project.AddSample("ZK1", "1-1", g_pMethodUU);
+    m_project.AddMethod("ZK1", "1-1", g_pMethodUU);
     m_chart.m_strSYFF = g_pMethodUU;
     std::tm before{}, after{};
     std::time_t now = std::time(nullptr);
@@ -79,7 +79,7 @@ TEST_F(WriteBack, WritesTodayWithoutLeadingZeros) {
 }
 
 TEST_F(WriteBack, KeepsKeysAndMethodAsTheyWere) {
-    m_project.AddSample("ZK1", "1-1", g_pMethodUU);
+    m_project.AddMethod("ZK1", "1-1", g_pMethodUU);
     m_chart.m_strSYFF = g_pMethodCD; // the chart may differ from what the table says by now
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
     EXPECT_EQ(m_project.Query("SELECT GCSY||ZKBH||QYBH FROM z_c_SanZhou"), "1ZK11-1");

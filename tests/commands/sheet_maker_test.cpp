@@ -19,7 +19,7 @@ protected:
         for (int i = 1; i <= nSamples; i++) {
             CString strQYBH;
             strQYBH.Format("1-%d", i);
-            m_project.AddSample("ZK1", strQYBH, g_pMethodUU);
+            m_project.AddMethod("ZK1", strQYBH, g_pMethodUU);
             m_project.AddReading("ZK1", strQYBH, 1, 1, 100, 200, 500, 2);
             m_project.AddReading("ZK1", strQYBH, 2, 1, 200, 300, 500, 2);
             m_samples.Add({"ZK1", strQYBH, g_pMethodUU, "2.00", "20.9", "0.50", "12.00", "粘土"});

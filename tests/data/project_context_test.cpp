@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "platform/windows/message_window.h"
+#include "platform/windows/installation_root.h"
 #include "tests/support/suite_fixture.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "data/gong_cheng_record.h"
+#include "platform/ado/sqlite_provider.h"
 #include "tests/support/suite_fixture.h"
 
 namespace {

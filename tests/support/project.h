@@ -1,15 +1,18 @@
 #pragma once
-// A project on disk for tests: an installation's ini files and a SQLite database with the suite's tables.
+// A project on disk for tests: an installation's ini files and a real database with the suite's tables,
+// empty.
 
+#include "platform/ado/provider.h"
 #include "platform/windows/message_box.h"
+#include "tests/temp_folder.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
-struct sqlite3;
-
-/// An installation in a folder of its own with project 1 running; the module's ini paths and the installation
-/// root point there, and message boxes are kept (answered OK, or as told). All of it ends with the object.
+/// An installation in a folder of the test's own with project 1 running. The module's ini paths and the
+/// installation root point there; message boxes (GBK) and the lines that the database layer reports are kept.
+/// Statements are GBK.
 class CTestProject {
 public:
     CTestProject();
@@ -17,23 +20,31 @@ public:
     CTestProject(const CTestProject&) = delete;
     CTestProject& operator=(const CTestProject&) = delete;
 
-    const std::string& Root() const { return m_strRoot; }
-    const std::vector<std::string>& Boxes() const { return m_arBoxes; } ///< texts shown, GBK
-    void AnswerBoxes(int nButton) { m_nAnswer = nButton; }
+    std::string Root() const { return m_root.Path(); }
+    const std::vector<std::string>& Boxes() const { return m_arBoxes; }
 
-    // Statements are UTF-8; texts of the other calls are GBK, as the module has them.
-    void Execute(const std::string& strSql);
-    std::string Query(const std::string& strSql); ///< first column of the first row, UTF-8; "" without a row
-    double Number(const std::string& strSql);
-    void AddSample(const char* pZKBH, const char* pQYBH, const char* pSYFF);
+    /// The suite's tables of a project, in the suite's column order.
+    static void LayOut(CDbConnection& database);
+    /// Writes a key of section Project of the project ini.
+    static void SetProject(const char* pszKey, const char* pszValue);
+
+    void Execute(const std::string& strSql) { m_pDatabase->Execute(strSql); }
+    /// Every row of a result, its cells joined with '|'.
+    std::vector<std::string> Rows(const std::string& strSql);
+    /// The first row; empty when there is none.
+    std::string Query(const std::string& strSql);
+    void AddMethod(const char* pZKBH, const char* pQYBH, const char* pSYFF);
     /// A reading of a specimen 80 mm by 39.1 mm under a ring of coefficient 1, without water and pore
     /// pressure.
     void AddReading(const char* pZKBH, const char* pQYBH, int nSJBH, int nSHJHXH, double dWY, double dCLHDS,
                     double dZXBX, int nJLLX);
 
-private:
-    std::string m_strRoot;
-    sqlite3* m_pDatabase = nullptr;
+    CTempFolder m_root;
+    std::string m_strDatabase = m_root.Path("project.db");
+    std::shared_ptr<CDbConnection> m_pDatabase;
     std::vector<std::string> m_arBoxes;
-    int m_nAnswer = IDOK;
+    std::string m_strCaption; ///< of the last box
+    UINT m_uStyle = 0;
+    int m_nAnswer = IDOK; ///< to the next boxes
+    std::vector<std::string> m_arLines;
 };
