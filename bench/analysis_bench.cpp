@@ -29,7 +29,7 @@ std::vector<CTestReading> Sample() {
 
 void ReduceOneSample(benchmark::State& state) {
     const std::vector<CTestReading> readings = Sample();
-    for ([[maybe_unused]] auto _ : state) {
+    while (state.KeepRunning()) {
         CBRENChart chart;
         chart.m_strSYFF = g_pMethodCU;
         CReduction reduction(chart);
@@ -49,7 +49,7 @@ void FindEnvelopeOfCircles(benchmark::State& state) {
         circles.AddCircle(dCentre, 20.0 + 0.4 * dCentre + 7.0 * std::sin(1.7 * i));
     }
     double dC = 0.0, dPhi = 0.0;
-    for ([[maybe_unused]] auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(circles.FindEnvelope(&dC, &dPhi));
 }
 BENCHMARK(FindEnvelopeOfCircles)->Arg(3)->Arg(10)->Arg(30)->Arg(100);

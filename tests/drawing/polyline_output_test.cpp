@@ -48,10 +48,10 @@ TEST(DrawPolylineByMode, InModeOneSendsAListOfOnePoint) {
 }
 
 TEST(DrawPolylineByMode, InAnyOtherModeKeepsWidthsAndBulges) {
-    for (const Adesk::Int16 nMode : {0, 2, -1}) {
+    for (const int nMode : {0, 2, -1}) {
         AcDbPolyline polyline;
         Fill(polyline, 2);
-        const CPrimitive primitive = Draw(polyline, nMode);
+        const CPrimitive primitive = Draw(polyline, static_cast<Adesk::Int16>(nMode));
         const auto& pline = std::get<CPlinePrimitive>(primitive.m_shape);
         ASSERT_EQ(pline.m_arVertices.size(), 2U);
         EXPECT_EQ(pline.m_arVertices[1].m_dBulge, 0.5);
