@@ -4,8 +4,8 @@
 #include <thread>
 #include <tuple>
 
-#include "platform/windows/message_window.h"
 #include "platform/windows/installation_root.h"
+#include "platform/windows/message_window.h"
 #include "tests/support/suite_fixture.h"
 
 namespace {
