@@ -38,6 +38,12 @@ Value Get(const unsigned char* pPlace) {
     return value;
 }
 
+void PutText(const CDbCell& cell, const CColumnBinding& binding, unsigned char* pPlace) {
+    auto* pszPlace = reinterpret_cast<char*>(pPlace);
+    const auto* pText = std::get_if<std::string_view>(&cell);
+    GbkCopy(pszPlace, binding.m_nLength + 1, pText ? *pText : CellText(cell));
+}
+
 float Narrowed(double dValue) {
     constexpr double dMax = std::numeric_limits<float>::max();
     return static_cast<float>(std::clamp(dValue, -dMax, dMax));
@@ -77,7 +83,7 @@ void FetchCell(const CDbCell& cell, const CColumnBinding& binding, unsigned char
         Put(pPlace, CellNumber(cell));
         break;
     default:
-        GbkCopy(reinterpret_cast<char*>(pPlace), binding.m_nLength + 1, CellText(cell));
+        PutText(cell, binding, pPlace);
     }
     const bool bNull = std::holds_alternative<std::monostate>(cell);
     if (binding.m_nStatusOffset != kNoStatus)

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/ado/sql_tokens.h"
+#include "platform/ado/text.h"
 
 namespace {
 
@@ -14,14 +15,18 @@ bool IsAnyWord(const CSqlToken& token, auto const& arWords) {
 
 /// Words that can never be an operand of `+` nor stand inside one.
 bool IsClauseWord(const CSqlToken& token) {
-    static constexpr std::array<std::string_view, 50> s_arWords = {
-        "select", "distinct", "all",       "from",   "where",   "group",   "by",     "having", "order",
-        "limit",  "offset",   "and",       "or",     "not",     "in",      "is",     "like",   "glob",
-        "match",  "regexp",   "between",   "isnull", "notnull", "escape",  "as",     "on",     "using",
-        "join",   "inner",    "outer",     "cross",  "full",    "natural", "union",  "except", "intersect",
-        "when",   "then",     "else",      "asc",    "desc",    "nulls",   "values", "set",    "into",
-        "update", "delete",   "returning", "exists", "insert"};
-    return IsAnyWord(token, s_arWords);
+    static constexpr std::array<std::string_view, 50> s_arSorted = {
+        "all",      "and",   "as",     "asc",     "between",   "by",      "cross", "delete", "desc",
+        "distinct", "else",  "escape", "except",  "exists",    "from",    "full",  "glob",   "group",
+        "having",   "in",    "inner",  "insert",  "intersect", "into",    "is",    "isnull", "join",
+        "like",     "limit", "match",  "natural", "not",       "notnull", "nulls", "offset", "on",
+        "or",       "order", "outer",  "regexp",  "returning", "select",  "set",   "then",   "union",
+        "update",   "using", "values", "when",    "where"};
+    std::array<char, 9> szLower{}; // as long as the longest
+    if (token.m_kind != SqlTokenKind::Word || token.m_strText.size() > szLower.size()) return false;
+    std::transform(token.m_strText.begin(), token.m_strText.end(), szLower.begin(), LowerAscii);
+    return std::binary_search(s_arSorted.begin(), s_arSorted.end(),
+                              std::string_view(szLower.data(), token.m_strText.size()));
 }
 
 /// Operators that bind closer than `+`.

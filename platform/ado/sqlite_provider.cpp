@@ -5,7 +5,7 @@
 #include "platform/ado/error.h"
 #include "platform/ado/sql_dialect.h"
 #include "platform/ado/sqlite_cursor.h"
-#include "platform/ado/sqlite_functions.h"
+#include "platform/ado/sqlite_pool.h"
 #include "platform/ado/sqlite_statement.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
@@ -84,18 +84,19 @@ std::string FilePath(std::string_view strPath) {
     return strUtf8.front() == '/' ? strUtf8 : "./" + strUtf8;
 }
 
-std::shared_ptr<CDbConnection> OpenFile(std::string_view strPath, int nFlags, int nLockTimeout) {
-    sqlite3* pRaw = nullptr;
-    const int nOpened =
-        sqlite3_open_v2(FilePath(strPath).c_str(), &pRaw, nFlags | SQLITE_OPEN_NOMUTEX, nullptr);
-    CSqliteHandle pDatabase(pRaw, CSqliteClose());
-    if (nOpened == SQLITE_CANTOPEN)
-        throw CDbError(DbFailure::General, nOpened, "SQLite",
+CSqliteHandle Handle(std::string_view strPath, int nFlags) {
+    try {
+        return OpenSqliteFile(FilePath(strPath), nFlags);
+    } catch (const CDbError& error) {
+        if (error.Code() != SQLITE_CANTOPEN) throw;
+        throw CDbError(DbFailure::General, SQLITE_CANTOPEN, "SQLite",
                        "There is no database " + std::string(strPath) + ", or it cannot be opened.");
-    if (nOpened != SQLITE_OK) ThrowSqliteError(pRaw, nOpened);
-    sqlite3_extended_result_codes(pRaw, 1);
-    sqlite3_busy_timeout(pRaw, nLockTimeout);
-    if (const int nResult = RegisterDialectFunctions(pRaw)) ThrowSqliteError(pRaw, nResult);
+    }
+}
+
+std::shared_ptr<CDbConnection> OpenFile(std::string_view strPath, int nFlags, int nLockTimeout) {
+    CSqliteHandle pDatabase = Handle(strPath, nFlags);
+    sqlite3_busy_timeout(pDatabase.get(), nLockTimeout);
     return std::make_shared<CSqliteConnection>(std::move(pDatabase));
 }
 

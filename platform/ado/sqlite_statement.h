@@ -8,9 +8,6 @@
 
 #include "platform/ado/value.h"
 
-struct CSqliteClose {
-    void operator()(sqlite3* pDatabase) const { sqlite3_close_v2(pDatabase); }
-};
 using CSqliteHandle = std::shared_ptr<sqlite3>;
 
 /// Throws the CDbError for an engine's result code.

@@ -2,7 +2,7 @@
 
 #include <sys/stat.h>
 
-#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,63 +32,61 @@ std::string Root() {
     return root;
 }
 
-std::string Value(const std::string& file, const char* section, const char* key, const char* defaultText) {
-    std::array<char, CONNECT_SIZE + 1> buffer = {}; // one more, so that what is too long is noticed
-    GetPrivateProfileStringA(section, key, defaultText, buffer.data(), static_cast<DWORD>(buffer.size()),
-                             file.c_str());
-    return buffer.data();
-}
+/// The installation as its tervo.ini stands now.
+class CInstallation {
+public:
+    /// An empty value counts as the default.
+    std::string Setting(const char* key, const char* defaultText) const {
+        const std::optional<std::string> value = m_ini.Value(SECTION, key);
+        return value && !value->empty() ? *value : defaultText;
+    }
 
-/// Of tervo.ini; an empty value counts as the default.
-std::string Setting(const char* key, const char* defaultText) {
-    const std::string root = Root();
-    const std::string value =
-        root.empty() ? std::string() : Value(root + "/tervo.ini", SECTION, key, defaultText);
-    return value.empty() ? defaultText : value;
-}
+    /// A path below the root, or absolute, in the spelling that the file system has.
+    std::string BelowRoot(const std::string& path) const {
+        std::string utf8;
+        std::string result;
+        if (m_root.empty() || path.empty()) return result;
+        ResolvePath(m_root, path, &utf8);
+        Utf8ToGbk(utf8, &result);
+        return result;
+    }
 
-/// A path below the root, or absolute, in the spelling that the file system has.
-std::string BelowRoot(const std::string& path) {
-    const std::string root = Root();
-    std::string utf8;
-    std::string result;
-    if (root.empty() || path.empty()) return result;
-    ResolvePath(root, path, &utf8);
-    Utf8ToGbk(utf8, &result);
-    return result;
-}
+    std::string PathOf(const char* key, const char* defaultText) const {
+        return BelowRoot(Setting(key, defaultText));
+    }
 
-std::string PathOf(const char* key, const char* defaultText) {
-    return BelowRoot(Setting(key, defaultText));
-}
+private:
+    std::string m_root = Root();
+    CProfile m_ini{m_root.empty() ? m_root : m_root + "/tervo.ini"};
+};
 
 std::string ConnectTo(const std::string& provider, const std::string& path) {
     const bool quoted = path.find(';') != std::string::npos;
     return "Provider=" + provider + ";Data Source=" + (quoted ? '"' + path + '"' : path);
 }
 
-std::string ProjectConnect() {
-    const std::string ini = PathOf("ProjectIni", "Project.ini");
-    if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, ini.c_str())) < 0) return {};
-    std::string connect = Value(ini, "Project", "Connect", "");
-    if (connect.empty()) connect = Setting("ProjectConnect", "");
+std::string ProjectConnect(const CInstallation& installation) {
+    const CProfile ini(installation.PathOf("ProjectIni", "Project.ini"));
+    if (static_cast<int>(ini.Number("Project", "GCSY", -1)) < 0) return {};
+    std::string connect = ini.Value("Project", "Connect").value_or("");
+    if (connect.empty()) connect = installation.Setting("ProjectConnect", "");
     if (!connect.empty()) return connect;
-    const std::string path = BelowRoot(Value(ini, "Project", "Database", ""));
-    return path.empty() ? std::string() : ConnectTo(Setting("Provider", DEFAULT_PROVIDER), path);
+    const std::string path = installation.BelowRoot(ini.Value("Project", "Database").value_or(""));
+    return path.empty() ? path : ConnectTo(installation.Setting("Provider", DEFAULT_PROVIDER), path);
 }
 
 } // namespace
 
 int TVToolGetProjectConnect(char* connect) {
-    return Give(ProjectConnect(), connect, CONNECT_SIZE);
+    return Give(ProjectConnect(CInstallation()), connect, CONNECT_SIZE);
 }
 
 int TVToolGetCommonDbPath(char* path) {
-    return Give(PathOf("CommonDb", "Data/common.db"), path, PATH_SIZE);
+    return Give(CInstallation().PathOf("CommonDb", "Data/common.db"), path, PATH_SIZE);
 }
 
 int TVToolGetConfigDbPath(char* path) {
-    return Give(PathOf("ConfigDb", "Data/config.db"), path, PATH_SIZE);
+    return Give(CInstallation().PathOf("ConfigDb", "Data/config.db"), path, PATH_SIZE);
 }
 
 int TVToolPathToConnect(const char* path, char* connect) {
@@ -97,8 +95,9 @@ int TVToolPathToConnect(const char* path, char* connect) {
 }
 
 int TVToolGetDbInfo(CTVToolDbInfo* info) {
-    std::string provider = CConnectionText(ProjectConnect()).Value("Provider");
-    if (provider.empty()) provider = Setting("Provider", DEFAULT_PROVIDER);
+    const CInstallation installation;
+    std::string provider = CConnectionText(ProjectConnect(installation)).Value("Provider");
+    if (provider.empty()) provider = installation.Setting("Provider", DEFAULT_PROVIDER);
     return Give(provider, info->m_szProvider, sizeof info->m_szProvider);
 }
 
@@ -109,13 +108,13 @@ int TVToolGetRootPath(char* path) {
 }
 
 int TVToolGetProjectIni(char* path) {
-    return Give(PathOf("ProjectIni", "Project.ini"), path, PATH_SIZE);
+    return Give(CInstallation().PathOf("ProjectIni", "Project.ini"), path, PATH_SIZE);
 }
 
 int TVToolGetSettingsIni(char* path) {
-    return Give(PathOf("SettingsIni", "Settings.ini"), path, PATH_SIZE);
+    return Give(CInstallation().PathOf("SettingsIni", "Settings.ini"), path, PATH_SIZE);
 }
 
 int TVToolGetMarksIni(char* path) {
-    return Give(PathOf("MarksIni", "Marks.ini"), path, PATH_SIZE);
+    return Give(CInstallation().PathOf("MarksIni", "Marks.ini"), path, PATH_SIZE);
 }

@@ -95,6 +95,15 @@ bool AppendGbk(char32_t character, std::string* gbk) {
     return true;
 }
 
+/// Moves the run of ASCII at *position, which is the same in every encoding here, over to the result.
+void TakeAscii(std::string_view text, std::size_t* position, std::string* result) {
+    const auto begin = text.begin() + static_cast<std::ptrdiff_t>(*position);
+    const auto end =
+        std::find_if(begin, text.end(), [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
+    result->append(begin, end);
+    *position += static_cast<std::size_t>(end - begin);
+}
+
 bool IsSystemCodePage(UINT codePage) {
     return codePage == CP_ACP || codePage == CP_GBK;
 }
@@ -104,7 +113,9 @@ bool IsSystemCodePage(UINT codePage) {
 bool GbkToUtf8(std::string_view gbk, std::string* utf8) {
     std::string result;
     result.reserve(gbk.size() + gbk.size() / 2);
-    for (std::size_t position = 0; position < gbk.size();) {
+    for (std::size_t position = 0;;) {
+        TakeAscii(gbk, &position, &result);
+        if (position == gbk.size()) break;
         const char32_t character = NextGbk(gbk, &position);
         if (character == UNKNOWN) return false;
         AppendUtf8(character, &result);
@@ -116,7 +127,9 @@ bool GbkToUtf8(std::string_view gbk, std::string* utf8) {
 bool Utf8ToGbk(std::string_view utf8, std::string* gbk, std::string* refused) {
     std::string result;
     result.reserve(utf8.size());
-    for (std::size_t position = 0; position < utf8.size();) {
+    for (std::size_t position = 0;;) {
+        TakeAscii(utf8, &position, &result);
+        if (position == utf8.size()) break;
         char32_t character = UNKNOWN;
         if (!NextUtf8(utf8, &position, &character) || !AppendGbk(character, &result)) {
             if (refused) {

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -52,15 +53,21 @@ void FlushFolder(const std::string& folder) {
 bool ReadFileWhole(const std::string& utf8Path, std::string* bytes) {
     const CDescriptor descriptor(open(utf8Path.c_str(), O_RDONLY | O_CLOEXEC));
     if (!descriptor) return false;
+    struct stat status = {};
     std::string result;
-    std::array<char, 65536> part = {};
+    std::size_t filled = 0;
+    // A file that says it is empty may be none on a disk; read until there is no more in any case.
+    if (fstat(descriptor.Get(), &status) == 0 && status.st_size > 0)
+        result.resize(static_cast<std::size_t>(status.st_size) + 1);
     for (;;) {
-        const ssize_t got = read(descriptor.Get(), part.data(), part.size());
+        if (filled == result.size()) result.resize(std::max<std::size_t>(4096, 2 * filled));
+        const ssize_t got = read(descriptor.Get(), result.data() + filled, result.size() - filled);
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) return false;
         if (got == 0) break;
-        result.append(part.data(), static_cast<std::size_t>(got));
+        filled += static_cast<std::size_t>(got);
     }
+    result.resize(filled);
     *bytes = std::move(result);
     return true;
 }

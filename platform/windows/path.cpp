@@ -38,6 +38,17 @@ bool Exists(const std::string& utf8Path) {
     return stat(utf8Path.c_str(), &status) == 0;
 }
 
+/// The components as one path, UTF-8; false when a name is not of the code page.
+bool Joined(const std::vector<std::string>& components, std::string* utf8Path) {
+    for (const std::string& component : components) {
+        std::string name;
+        if (!GbkToUtf8(component, &name)) return false;
+        if (!utf8Path->empty() && utf8Path->back() != '/') *utf8Path += '/';
+        *utf8Path += name;
+    }
+    return true;
+}
+
 /// Appends one name to the path in the spelling that the folder has; false when it isn't there.
 bool StepInto(const std::string& name, const std::string& utf8Name, std::string* utf8Path) {
     const std::string start = utf8Path->empty() || utf8Path->back() == '/' ? *utf8Path : *utf8Path + '/';
@@ -65,14 +76,19 @@ bool ResolvePath(std::string_view base, std::string_view path, std::string* utf8
     std::vector<std::string> components = absolute ? std::vector<std::string>() : Components(base);
     for (std::string& component : Components(path))
         components.push_back(std::move(component));
-    std::string result = absolute || IsAbsolutePath(base) ? "/" : "";
+    const std::string start = absolute || IsAbsolutePath(base) ? "/" : "";
+    std::string given = start;
+    utf8->clear();
+    if (!Joined(components, &given)) return false;
+    // Most paths are spelled as the file system has them; only the others are walked name by name.
+    if (!given.empty() && Exists(given)) {
+        *utf8 = std::move(given);
+        return true;
+    }
+    std::string result = start;
     bool exists = true;
     for (const std::string& component : components) {
-        std::string name;
-        if (!GbkToUtf8(component, &name)) {
-            utf8->clear();
-            return false;
-        }
+        const std::string name = ToUtf8(component);
         if (exists) {
             exists = StepInto(component, name, &result);
         } else {

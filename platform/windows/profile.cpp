@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "platform/windows/code_page.h"
@@ -24,21 +25,15 @@ namespace {
 constexpr std::chrono::seconds LOCK_PATIENCE(10);
 constexpr std::chrono::milliseconds LOCK_PAUSE(5);
 
-CIniText ReadIni(const char* file) {
+std::string FileText(const std::string& file) {
     std::string path;
     std::string bytes;
-    if (file && ResolvePath("", file, &path)) ReadFileWhole(path, &bytes);
-    return CIniText(bytes);
+    if (ResolvePath("", file, &path)) ReadFileWhole(path, &bytes);
+    return bytes;
 }
 
-/// The value, or nothing; a character that the code page lacks is told.
-std::optional<std::string> ReadValue(const char* section, const char* key, const char* file) {
-    const CIniText ini = ReadIni(file);
-    std::optional<std::string> value = ini.Value(section, key);
-    if (!value && !ini.Refused().empty())
-        std::fprintf(stderr, "%s: [%s] %s: the system code page has no character %s\n", ToUtf8(file).c_str(),
-                     ToUtf8(section).c_str(), ToUtf8(key).c_str(), ini.Refused().c_str());
-    return value;
+std::string Name(const char* file) {
+    return file ? file : "";
 }
 
 /// A cut text gives size - 1; where the cut left out half a character a zero stands in its place.
@@ -91,21 +86,21 @@ CDescriptor LockFile(const std::string& path) {
 
 } // namespace
 
-DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer,
-                               DWORD size, const char* file) {
-    if (!buffer || !size) return 0;
-    if (!section || !key) {
-        const CIniText ini = ReadIni(file);
-        const std::vector<std::string> names = section ? ini.Keys(section) : ini.Sections();
-        return names.empty() ? CopyText(WithoutTrailingBlanks(defaultText), buffer, size)
-                             : CopyNames(names, buffer, size);
-    }
-    const std::optional<std::string> value = ReadValue(section, key, file);
-    return CopyText(value ? std::string_view(*value) : WithoutTrailingBlanks(defaultText), buffer, size);
+CProfile::CProfile(std::string file)
+    : m_strFile(std::move(file))
+    , m_text(FileText(m_strFile)) {}
+
+std::optional<std::string> CProfile::Value(const char* section, const char* key) const {
+    std::optional<std::string> value = m_text.Value(section, key);
+    if (!value && !m_text.Refused().empty())
+        std::fprintf(stderr, "%s: [%s] %s: the system code page has no character %s\n",
+                     ToUtf8(m_strFile).c_str(), ToUtf8(section).c_str(), ToUtf8(key).c_str(),
+                     m_text.Refused().c_str());
+    return value;
 }
 
-UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValue, const char* file) {
-    const std::optional<std::string> value = section && key ? ReadValue(section, key, file) : std::nullopt;
+UINT CProfile::Number(const char* section, const char* key, int defaultValue) const {
+    const std::optional<std::string> value = Value(section, key);
     if (!value || value->empty()) return static_cast<UINT>(defaultValue);
     const bool negative = value->front() == '-';
     std::uint32_t number = 0;
@@ -115,6 +110,25 @@ UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValu
         number = number * 10 + static_cast<std::uint32_t>(digit - '0');
     }
     return negative ? 0U - number : number;
+}
+
+DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer,
+                               DWORD size, const char* file) {
+    if (!buffer || !size) return 0;
+    const CProfile profile(Name(file));
+    if (!section || !key) {
+        const std::vector<std::string> names =
+            section ? profile.Text().Keys(section) : profile.Text().Sections();
+        return names.empty() ? CopyText(WithoutTrailingBlanks(defaultText), buffer, size)
+                             : CopyNames(names, buffer, size);
+    }
+    const std::optional<std::string> value = profile.Value(section, key);
+    return CopyText(value ? std::string_view(*value) : WithoutTrailingBlanks(defaultText), buffer, size);
+}
+
+UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValue, const char* file) {
+    if (!section || !key) return static_cast<UINT>(defaultValue);
+    return CProfile(Name(file)).Number(section, key, defaultValue);
 }
 
 BOOL WritePrivateProfileStringA(const char* section, const char* key, const char* text, const char* file) {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
+#include "platform/windows/ini_text.h"
 #include "platform/windows/types.h"
 
 // Ini files. Section, key, text and path are in the code page; the path is taken with either slash and in any
@@ -17,6 +21,22 @@ DWORD GetPrivateProfileStringA(const char* section, const char* key, const char*
 /// The whole number that the value begins with: a sign, then decimal digits, taken modulo 2^32; 0 for other
 /// text, the default for a missing or empty value.
 UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValue, const char* file);
+
+/// An ini file as it stands now, read once for a caller that wants several of its values.
+class CProfile {
+public:
+    explicit CProfile(std::string file);
+
+    /// The whole value, or nothing; a character that the code page lacks is told as above.
+    std::optional<std::string> Value(const char* section, const char* key) const;
+    /// The number as GetPrivateProfileIntA gives it.
+    UINT Number(const char* section, const char* key, int defaultValue) const;
+    const CIniText& Text() const { return m_text; }
+
+private:
+    std::string m_strFile;
+    CIniText m_text;
+};
 
 /// Sets a key; removes it with a null text, or the section with a null key. Other lines stay as they are,
 /// byte for byte, and so does the file's encoding; a new file is in the code page. The file is replaced
