@@ -27,10 +27,10 @@ using CResultRow = std::vector<std::optional<CResultField>>;
 
 std::optional<CResultField> Field(const CDbCell& cell, ColumnKind kind) {
     if (std::holds_alternative<std::monostate>(cell)) return std::nullopt;
-    if (kind == ColumnKind::Text || std::holds_alternative<std::string_view>(cell))
-        return CResultField{CellText(cell), false};
     const auto* pWhole = std::get_if<std::int64_t>(&cell);
-    const auto value = static_cast<float>(pWhole ? static_cast<double>(*pWhole) : std::get<double>(cell));
+    const auto* pReal = std::get_if<double>(&cell);
+    if (kind == ColumnKind::Text || (!pWhole && !pReal)) return CResultField{CellText(cell), false};
+    const auto value = static_cast<float>(pWhole ? static_cast<double>(*pWhole) : *pReal);
     return CResultField{ShortestFloat(value), std::isfinite(value)};
 }
 

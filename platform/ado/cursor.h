@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <memory_resource>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +24,9 @@ struct CDbChange {
 };
 
 /// The rows of one statement. All of them are read when the statement runs, so no lock outlives the call;
-/// which rows there are is fixed from then on. Positions are kept by whoever walks the rows. Operations that
-/// fail throw CDbError.
+/// from then on only InsertRow adds to them, and a deleted row keeps its position and its last values.
+/// Positions are kept by whoever walks the rows. Operations that fail throw CDbError; a write that is given
+/// up is reported in the text window too, naming table and row.
 class CDbCursor {
 public:
     CDbCursor() = default;
@@ -43,28 +45,50 @@ public:
     /// DBTYPE_NULL for NULL.
     [[nodiscard]] DBTYPE CellType(std::size_t nRow, std::size_t nColumn) const;
 
-    /// Writes these columns of exactly this row, also where other rows hold the same values. A write that is
-    /// given up is reported in the text window, naming table and row, and thrown.
+    /// Writes these columns of exactly this row, also where other rows hold the same values.
     void UpdateRow(std::size_t nRow, const std::vector<CDbChange>& arChanges);
+    /// Stores a new row in the one table behind the result; columns not named get the table's own values. The
+    /// row, as it was stored, becomes the last one.
+    void InsertRow(const std::vector<CDbChange>& arChanges);
+    /// Deletes exactly this row from its table.
+    void DeleteRow(std::size_t nRow);
+    /// Reads the row's values anew. False, with the values as they were, when the row is no longer there.
+    bool RefreshRow(std::size_t nRow);
 
 protected:
     void SetColumns(std::vector<CDbColumn> arColumns) { m_arColumns = std::move(arColumns); }
-    /// Appends one cell; rows fill up from left to right. A text is copied.
+    /// Appends one cell; rows fill up from left to right. Text and bytes are copied.
     void AppendCell(const CDbCell& cell);
+    /// Replaces one cell. Text and bytes are copied.
+    void SetCell(std::size_t nRow, std::size_t nColumn, const CDbCell& cell);
 
 private:
     /// The engine's part of UpdateRow.
     virtual void WriteRow(std::size_t nRow, const std::vector<CDbChange>& arChanges) = 0;
+    /// The engine's part of InsertRow: inserts, then appends every cell of the row as it was stored.
+    virtual void AddRow(const std::vector<CDbChange>& arChanges) = 0;
+    /// The engine's part of DeleteRow; a row that is already gone is an error.
+    virtual void EraseRow(std::size_t nRow) = 0;
+    /// The engine's part of RefreshRow: sets every cell of the row; false when it is gone.
+    virtual bool ReadRowAgain(std::size_t nRow) = 0;
     /// The table a message names; empty where the result has no single table.
     [[nodiscard]] virtual std::string TableName() const = 0;
-    [[nodiscard]] std::string RowName(std::size_t nRow) const;
+    [[nodiscard]] std::span<const CDbCell> Row(std::size_t nRow) const;
+    [[nodiscard]] std::string RowName(std::span<const CDbCell> arRow) const;
+    /// Runs a write; one that fails is reported as given up, with what happened to the row.
+    template <class Write>
+    void ReportFailure(std::span<const CDbCell> arRow, const char* pszOutcome, const Write& write);
     [[nodiscard]] CDbCell Kept(const CDbCell& cell);
 
     std::vector<CDbColumn> m_arColumns;
     std::vector<CDbCell> m_arCells;
-    std::pmr::monotonic_buffer_resource m_texts;
+    std::pmr::monotonic_buffer_resource m_texts; ///< texts and bytes of the cells
     std::size_t m_nRows = 0;
 };
 
-/// The cell's text: a text as it is, a number in its shortest exact form, NULL as nothing.
+/// The value as a cell, whose text or bytes lie in the value.
+CDbCell CellOf(const CDbValue& value);
+
+/// The cell's text: a text as it is, a number in its shortest exact form, bytes in hexadecimal, NULL as
+/// nothing.
 std::string CellText(const CDbCell& cell);

@@ -29,7 +29,9 @@ constexpr std::array kDeclaredTypes = {
     CDeclaredType{"timestamp", DBTYPE_DATE},  CDeclaredType{"boolean", DBTYPE_BOOL},
     CDeclaredType{"bit", DBTYPE_BOOL},        CDeclaredType{"text", DBTYPE_BSTR},
     CDeclaredType{"varchar", DBTYPE_BSTR},    CDeclaredType{"char", DBTYPE_BSTR},
-    CDeclaredType{"nvarchar", DBTYPE_BSTR},
+    CDeclaredType{"nvarchar", DBTYPE_BSTR},   CDeclaredType{"blob", DBTYPE_BYTES},
+    CDeclaredType{"binary", DBTYPE_BYTES},    CDeclaredType{"varbinary", DBTYPE_BYTES},
+    CDeclaredType{"image", DBTYPE_BYTES},
 };
 
 DBTYPE DeclaredType(const char* pszDeclared) {
@@ -100,33 +102,42 @@ void CSqliteCursor::ReadColumns(sqlite3_stmt* pStatement) {
     const int nColumns = sqlite3_column_count(pStatement) - (m_bRowNumbers ? 1 : 0);
     std::vector<CDbColumn> arColumns;
     for (int i = 0; i < nColumns; ++i) {
-        m_arTables.push_back(Utf8Name(sqlite3_column_table_name(pStatement, i)));
         m_arOrigins.push_back(Utf8Name(sqlite3_column_origin_name(pStatement, i)));
         arColumns.push_back({GbkName(Utf8Name(sqlite3_column_name(pStatement, i))),
                              DeclaredType(sqlite3_column_decltype(pStatement, i))});
-        if (m_strTable.empty()) m_strTable = GbkName(m_arTables.back());
+        if (m_strTableUtf8.empty()) m_strTableUtf8 = Utf8Name(sqlite3_column_table_name(pStatement, i));
     }
+    if (m_bRowNumbers) m_strRowNumber = Utf8Name(sqlite3_column_origin_name(pStatement, nColumns));
+    m_strTable = GbkName(m_strTableUtf8);
     SetColumns(std::move(arColumns));
 }
 
 void CSqliteCursor::ReadRow(sqlite3_stmt* pStatement) {
-    const int nColumns = static_cast<int>(Columns().size());
-    for (int i = 0; i < nColumns; ++i) {
-        switch (sqlite3_column_type(pStatement, i)) {
-        case SQLITE_NULL:
-            AppendCell(std::monostate());
-            break;
-        case SQLITE_INTEGER:
-            AppendCell(std::int64_t{sqlite3_column_int64(pStatement, i)});
-            break;
-        case SQLITE_FLOAT:
-            AppendCell(sqlite3_column_double(pStatement, i));
-            break;
-        default:
-            AppendCell(std::string_view(ReadText(pStatement, i)));
-        }
+    std::string strText;
+    const std::size_t nColumns = Columns().size();
+    for (std::size_t i = 0; i < nColumns; ++i)
+        AppendCell(ReadCell(pStatement, i, &strText));
+    if (m_bRowNumbers) m_arRowNumbers.push_back(sqlite3_column_int64(pStatement, static_cast<int>(nColumns)));
+}
+
+CDbCell CSqliteCursor::ReadCell(sqlite3_stmt* pStatement, std::size_t nColumn, std::string* pText) const {
+    const int nPlace = static_cast<int>(nColumn);
+    switch (sqlite3_column_type(pStatement, nPlace)) {
+    case SQLITE_NULL:
+        return std::monostate();
+    case SQLITE_INTEGER:
+        return std::int64_t{sqlite3_column_int64(pStatement, nPlace)};
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(pStatement, nPlace);
+    case SQLITE_BLOB: {
+        const auto* pBytes = static_cast<const unsigned char*>(sqlite3_column_blob(pStatement, nPlace));
+        const int nBytes = sqlite3_column_bytes(pStatement, nPlace);
+        return std::span<const unsigned char>(pBytes, static_cast<std::size_t>(nBytes));
     }
-    if (m_bRowNumbers) m_arRowNumbers.push_back(sqlite3_column_int64(pStatement, nColumns));
+    default:
+        *pText = ReadText(pStatement, nPlace);
+        return std::string_view(*pText);
+    }
 }
 
 std::string CSqliteCursor::ReadText(sqlite3_stmt* pStatement, int nColumn) const {
@@ -142,30 +153,89 @@ std::string CSqliteCursor::ReadText(sqlite3_stmt* pStatement, int nColumn) const
                        " is not in the system code page");
 }
 
-void CSqliteCursor::WriteRow(std::size_t nRow, const std::vector<CDbChange>& arChanges) {
-    if (!m_bRowNumbers || m_arRowNumbers[nRow] == 0)
+void CSqliteCursor::RequireOneTable() const {
+    if (m_strRowNumber.empty())
         throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite",
                        "the result is not the rows of one table");
-    CSqliteStatement statement(m_pDatabase, UpdateStatement(arChanges));
+}
+
+std::int64_t CSqliteCursor::RowNumber(std::size_t nRow) const {
+    RequireOneTable();
+    return m_arRowNumbers[nRow];
+}
+
+std::string CSqliteCursor::WrittenName(const CDbChange& change) const {
+    const std::string& strOrigin = m_arOrigins[change.m_nColumn];
+    if (strOrigin.empty())
+        throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite", "a computed column cannot be written");
+    return Quoted(strOrigin);
+}
+
+void CSqliteCursor::RunOnRow(const std::string& strSql, const std::vector<CDbChange>& arChanges,
+                             std::size_t nRow) {
+    const std::int64_t nRowNumber = RowNumber(nRow);
+    CSqliteStatement statement(m_pDatabase, strSql + " WHERE rowid=?");
     int nPlace = 0;
     for (const CDbChange& change : arChanges)
         statement.Bind(++nPlace, change.m_value);
-    statement.Bind(++nPlace, m_arRowNumbers[nRow]);
+    statement.Bind(++nPlace, nRowNumber);
     statement.Step();
     if (sqlite3_changes(m_pDatabase.get()) == 0)
         throw CDbError(DbFailure::General, SQLITE_NOTFOUND, "SQLite",
                        "the row was deleted by another program");
 }
 
-std::string CSqliteCursor::UpdateStatement(const std::vector<CDbChange>& arChanges) const {
+void CSqliteCursor::WriteRow(std::size_t nRow, const std::vector<CDbChange>& arChanges) {
+    std::int64_t nRowNumber = RowNumber(nRow);
     std::string strSql;
     for (const CDbChange& change : arChanges) {
-        const std::string& strOrigin = m_arOrigins[change.m_nColumn];
-        if (strOrigin.empty())
-            throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite",
-                           "a computed column cannot be written");
-        strSql += (strSql.empty() ? "UPDATE " + Quoted(m_arTables[change.m_nColumn]) + " SET " : ",") +
-                  Quoted(strOrigin) + "=?";
+        strSql += (strSql.empty() ? "UPDATE " + Quoted(m_strTableUtf8) + " SET " : ",") +
+                  WrittenName(change) + "=?";
+        const auto* pNumber = std::get_if<std::int64_t>(&change.m_value);
+        if (pNumber && m_arOrigins[change.m_nColumn] == m_strRowNumber) nRowNumber = *pNumber;
     }
-    return strSql + " WHERE rowid=?";
+    RunOnRow(strSql, arChanges, nRow);
+    m_arRowNumbers[nRow] = nRowNumber;
+}
+
+void CSqliteCursor::EraseRow(std::size_t nRow) {
+    RunOnRow("DELETE FROM " + Quoted(m_strTableUtf8), {}, nRow);
+}
+
+void CSqliteCursor::AddRow(const std::vector<CDbChange>& arChanges) {
+    RequireOneTable();
+    std::string strNames;
+    std::string strPlaces;
+    for (const CDbChange& change : arChanges) {
+        strNames += (strNames.empty() ? "" : ",") + WrittenName(change);
+        strPlaces += strPlaces.empty() ? "?" : ",?";
+    }
+    const std::string strValues =
+        arChanges.empty() ? " DEFAULT VALUES" : "(" + strNames + ") VALUES(" + strPlaces + ")";
+    CSqliteStatement statement(m_pDatabase, "INSERT INTO " + Quoted(m_strTableUtf8) + strValues);
+    int nPlace = 0;
+    for (const CDbChange& change : arChanges)
+        statement.Bind(++nPlace, change.m_value);
+    statement.Step();
+    CSqliteStatement reader = RowReader(sqlite3_last_insert_rowid(m_pDatabase.get()));
+    if (reader.Step()) ReadRow(reader.Get());
+}
+
+bool CSqliteCursor::ReadRowAgain(std::size_t nRow) {
+    CSqliteStatement reader = RowReader(RowNumber(nRow));
+    if (!reader.Step()) return false;
+    std::string strText;
+    for (std::size_t i = 0; i < Columns().size(); ++i)
+        if (!m_arOrigins[i].empty()) SetCell(nRow, i, ReadCell(reader.Get(), i, &strText));
+    return true;
+}
+
+CSqliteStatement CSqliteCursor::RowReader(std::int64_t nRowNumber) const {
+    std::string strSql = "SELECT ";
+    for (const std::string& strOrigin : m_arOrigins)
+        strSql += (strOrigin.empty() ? "NULL" : Quoted(strOrigin)) + ",";
+    CSqliteStatement statement(m_pDatabase,
+                               strSql + "rowid FROM " + Quoted(m_strTableUtf8) + " WHERE rowid=?");
+    statement.Bind(1, nRowNumber);
+    return statement;
 }

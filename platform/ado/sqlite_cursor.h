@@ -17,18 +17,34 @@ public:
 
 private:
     void WriteRow(std::size_t nRow, const std::vector<CDbChange>& arChanges) override;
+    void AddRow(const std::vector<CDbChange>& arChanges) override;
+    void EraseRow(std::size_t nRow) override;
+    bool ReadRowAgain(std::size_t nRow) override;
     [[nodiscard]] std::string TableName() const override { return m_strTable; }
 
     [[nodiscard]] CSqliteStatement Prepared(std::string_view strSql);
     void ReadColumns(sqlite3_stmt* pStatement);
     void ReadRow(sqlite3_stmt* pStatement);
+    /// The value of a column of the row that the statement stands on. A text lies in *pText.
+    CDbCell ReadCell(sqlite3_stmt* pStatement, std::size_t nColumn, std::string* pText) const;
     [[nodiscard]] std::string ReadText(sqlite3_stmt* pStatement, int nColumn) const;
-    [[nodiscard]] std::string UpdateStatement(const std::vector<CDbChange>& arChanges) const;
+
+    /// Throws where the result is not the rows of one table.
+    void RequireOneTable() const;
+    /// The row's number, under the same condition.
+    [[nodiscard]] std::int64_t RowNumber(std::size_t nRow) const;
+    /// A statement that reads all columns of the row with a number.
+    [[nodiscard]] CSqliteStatement RowReader(std::int64_t nRowNumber) const;
+    /// Runs a write on one row; one that finds no row throws.
+    void RunOnRow(const std::string& strSql, const std::vector<CDbChange>& arChanges, std::size_t nRow);
+    /// The table's own name of a column that is to be written, quoted; a computed column throws.
+    [[nodiscard]] std::string WrittenName(const CDbChange& change) const;
 
     CSqliteHandle m_pDatabase;
-    bool m_bRowNumbers = false;
-    std::string m_strTable;               ///< GBK, for messages
-    std::vector<std::string> m_arTables;  ///< the table behind each column, UTF-8; empty behind an expression
-    std::vector<std::string> m_arOrigins; ///< the table's own name of each column, UTF-8
-    std::vector<std::int64_t> m_arRowNumbers; ///< 0 where a row has none
+    bool m_bRowNumbers = false; ///< whether the statement has the row number as its hidden last column
+    std::string m_strTable;     ///< GBK, for messages
+    std::string m_strTableUtf8; ///< the first table behind a column
+    std::string m_strRowNumber; ///< the table's own name of it, UTF-8; empty where a view gives none
+    std::vector<std::string> m_arOrigins; ///< the table's own name of each column, UTF-8; empty: computed
+    std::vector<std::int64_t> m_arRowNumbers;
 };

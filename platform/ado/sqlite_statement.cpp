@@ -26,6 +26,11 @@ int BindText(sqlite3_stmt* pStatement, int nPlace, const std::string& strGbk) {
                                SQLITE_UTF8);
 }
 
+int BindBytes(sqlite3_stmt* pStatement, int nPlace, const std::vector<unsigned char>& arBytes) {
+    if (arBytes.empty()) return sqlite3_bind_zeroblob(pStatement, nPlace, 0); // a null pointer would be NULL
+    return sqlite3_bind_blob64(pStatement, nPlace, arBytes.data(), arBytes.size(), SQLITE_TRANSIENT);
+}
+
 } // namespace
 
 void ThrowSqliteError(sqlite3* pDatabase, int nResult) {
@@ -53,6 +58,8 @@ void CSqliteStatement::Bind(int nPlace, const CDbValue& value) {
         nResult = sqlite3_bind_double(pStatement, nPlace, *pReal);
     else if (const auto* pText = std::get_if<std::string>(&value))
         nResult = BindText(pStatement, nPlace, *pText);
+    else if (const auto* pBytes = std::get_if<std::vector<unsigned char>>(&value))
+        nResult = BindBytes(pStatement, nPlace, *pBytes);
     else
         nResult = sqlite3_bind_null(pStatement, nPlace);
     if (nResult != SQLITE_OK) ThrowSqliteError(m_pDatabase.get(), nResult);

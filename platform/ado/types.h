@@ -21,6 +21,7 @@ inline constexpr DBTYPE DBTYPE_DECIMAL = 14;
 inline constexpr DBTYPE DBTYPE_I1 = 16;
 inline constexpr DBTYPE DBTYPE_UI1 = 17;
 inline constexpr DBTYPE DBTYPE_UI4 = 19;
+inline constexpr DBTYPE DBTYPE_BYTES = 128;
 inline constexpr DBTYPE DBTYPE_STR = 129;
 
 /// The buffer holds a value.

@@ -99,3 +99,103 @@ TEST_F(Cursor, StaysReadableAndWritableWhenItsConnectionIsReleased) {
     pCursor->UpdateRow(0, {{2, 8.0}});
     EXPECT_EQ(Rows(*OpenDbConnection(ConnectionText()), "select C from t"), (CRows{"8", "1.5"}));
 }
+
+TEST_F(Cursor, RefusesAWriteOfAComputedColumn) {
+    const auto pCursor = m_pDatabase->Query("select \"nothing\" as A, C from t");
+    EXPECT_THROW(pCursor->UpdateRow(0, {{0, 3.0}}), CDbError);
+    EXPECT_EQ(m_arLines, CRows{"t: a computed column cannot be written, row not stored"});
+}
+
+TEST_F(Cursor, FollowsARowWhoseNumberItChanges) {
+    m_pDatabase->Execute("create table k(id integer primary key, a)");
+    m_pDatabase->Execute("insert into k values(1,'x')");
+    const auto pCursor = m_pDatabase->Query("select * from k");
+    pCursor->UpdateRow(0, {{0, std::int64_t{7}}});
+    pCursor->UpdateRow(0, {{1, std::string("y")}});
+    EXPECT_EQ(Rows(*m_pDatabase, "select * from k"), CRows{"7|y"});
+}
+
+TEST_F(Cursor, AppendsAnInsertedRowAsItWasStored) {
+    m_pDatabase->Execute("create table d(id integer primary key, a text default '缺省', b real)");
+    const auto pCursor = m_pDatabase->Query("select b, a, id from d"); // nothing there yet
+    pCursor->InsertRow({{0, std::int64_t{3}}});
+    pCursor->InsertRow({});
+    ASSERT_EQ(pCursor->RowCount(), 2U);
+    EXPECT_EQ(CellText(pCursor->Cell(0, 0)), "3");
+    EXPECT_EQ(pCursor->CellType(0, 0), DBTYPE_R4);
+    EXPECT_EQ(CellText(pCursor->Cell(0, 1)), "缺省");
+    EXPECT_EQ(CellText(pCursor->Cell(1, 2)), "2");
+    pCursor->UpdateRow(1, {{1, std::string("甲")}});
+    EXPECT_EQ(Rows(*m_pDatabase, "select * from d"), (CRows{"1|缺省|3", "2|甲|"}));
+}
+
+TEST_F(Cursor, InsertsNothingWhereNoOneTableIsBehind) {
+    m_pDatabase->Execute("create view v as select * from t");
+    for (const char* pszSql : {"select * from v", "select a.C from t a, t b", "select count(*) as C from t"})
+        EXPECT_THROW(m_pDatabase->Query(pszSql)->InsertRow({{0, 3.0}}), CDbError) << pszSql;
+    EXPECT_EQ(m_arLines.size(), 3U);
+}
+
+TEST_F(Cursor, ReportsAnInsertGivenUpUnderTheNewRowsName) {
+    m_pDatabase->Execute("create table u(ZKBH text unique, QYBH text)");
+    m_pDatabase->Execute("insert into u values('孔1','1')");
+    const auto pHurried = OpenDbConnection(ConnectionText() + ";Lock Timeout=20");
+    const auto pCursor = pHurried->Query("select * from u");
+    const std::vector<CDbChange> arRow = {{0, std::string("孔1")}, {1, std::string("2")}};
+    EXPECT_THROW(pCursor->InsertRow(arRow), CDbError);
+    const CLockingProcess other(m_strPath);
+    EXPECT_THROW(pCursor->InsertRow(arRow), CDbError);
+    EXPECT_EQ(m_arLines, (CRows{"u 孔1 2: UNIQUE constraint failed: u.ZKBH, row not stored",
+                                "u 孔1 2: locked by another program, row not stored"}));
+    EXPECT_EQ(pCursor->RowCount(), 1U);
+}
+
+TEST_F(Cursor, DeletesOneOfTwoEqualRows) {
+    m_pDatabase->Execute("update t set X = rowid");
+    const auto pCursor = m_pDatabase->Query("select * from t");
+    pCursor->DeleteRow(0);
+    EXPECT_EQ(Rows(*m_pDatabase, "select X from t"), CRows{"2"});
+    EXPECT_EQ(pCursor->RowCount(), 2U); // the positions of the other rows stay
+    EXPECT_THROW(pCursor->DeleteRow(0), CDbError);
+    EXPECT_EQ(m_arLines, CRows{"t ZK1 1: the row was deleted by another program, row not deleted"});
+}
+
+TEST_F(Cursor, ReportsADeletionGivenUpForALock) {
+    const auto pHurried = OpenDbConnection(ConnectionText() + ";Lock Timeout=20");
+    const auto pCursor = pHurried->Query("select * from t");
+    const CLockingProcess other(m_strPath);
+    EXPECT_THROW(pCursor->DeleteRow(1), CDbError);
+    EXPECT_EQ(m_arLines, CRows{"t ZK1 1: locked by another program, row not deleted"});
+}
+
+TEST_F(Cursor, ReadsARowAnewUntilItIsGone) {
+    const auto pCursor = m_pDatabase->Query("select X, C, N from t");
+    m_pDatabase->Execute("update t set X = 'yy', C = NULL, N = 8 where rowid = 2");
+    EXPECT_EQ(CellText(pCursor->Cell(1, 0)), "x");
+    EXPECT_TRUE(pCursor->RefreshRow(1));
+    EXPECT_EQ(CellText(pCursor->Cell(1, 0)), "yy");
+    EXPECT_EQ(pCursor->CellType(1, 1), DBTYPE_NULL);
+    EXPECT_EQ(CellText(pCursor->Cell(1, 2)), "8");
+    EXPECT_EQ(CellText(pCursor->Cell(0, 2)), "3");
+    m_pDatabase->Execute("delete from t");
+    EXPECT_FALSE(pCursor->RefreshRow(1));
+    EXPECT_EQ(CellText(pCursor->Cell(1, 0)), "yy");
+}
+
+TEST_F(Cursor, KeepsBytesApartFromTextAndNull) {
+    m_pDatabase->Execute("create table p(id integer, picture blob)");
+    const auto pCursor = m_pDatabase->Query("select picture from p");
+    const std::vector<unsigned char> arBytes = {0x00, 0xFF, 0x27, 0x0A};
+    pCursor->InsertRow({{0, arBytes}});
+    pCursor->InsertRow({{0, std::vector<unsigned char>()}});
+    pCursor->InsertRow({{0, std::monostate()}});
+    EXPECT_EQ(Rows(*m_pDatabase, "select hex(picture), picture is null from p"),
+              (CRows{"00FF270A|0", "|0", "|1"}));
+    EXPECT_EQ(pCursor->CellType(0, 0), DBTYPE_BYTES);
+    EXPECT_EQ(pCursor->CellType(1, 0), DBTYPE_BYTES);
+    EXPECT_EQ(pCursor->CellType(2, 0), DBTYPE_NULL);
+    EXPECT_EQ(CellText(pCursor->Cell(0, 0)), "00FF270A");
+    pCursor->UpdateRow(2, {{0, arBytes}});
+    EXPECT_EQ(Rows(*m_pDatabase, "select hex(picture) from p"), (CRows{"00FF270A", "", "00FF270A"}));
+    EXPECT_EQ(pCursor->CellType(2, 0), DBTYPE_BYTES);
+}
