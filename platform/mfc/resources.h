@@ -2,6 +2,7 @@
 // A module's resources, and which module's are in force.
 
 #include "platform/mfc/dialog_template.h"
+#include "platform/windows/types.h"
 
 /// What a module brings with it.
 struct CModuleResources {
@@ -11,8 +12,6 @@ struct CModuleResources {
     const CDialogTemplate* FindDialog(UINT nId) const;
     const CDialogTemplate* FindDialog(const char* name) const;
 };
-
-using HINSTANCE = const CModuleResources*;
 
 /// The resources in which a dialog finds its template by number; null when no module's are in force.
 HINSTANCE AfxGetResourceHandle();

@@ -25,12 +25,18 @@ std::string LinkTarget(const std::string& path) {
     return realpath(path.c_str(), real.data()) ? std::string(real.data()) : path;
 }
 
-mode_t ModeFor(const std::string& path) {
+/// Gives the new file what the one it replaces had: its mode and, as far as this user may, its owner. A file
+/// without predecessor gets the usual mode.
+bool TakeOver(const std::string& path, int descriptor) {
     struct stat status = {};
-    if (stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
+    if (stat(path.c_str(), &status) != 0) {
+        const mode_t mask = umask(0);
+        umask(mask);
+        return fchmod(descriptor, 0666 & ~mask) == 0;
+    }
+    // Only root may give a file away; for others it becomes the writer's.
+    const bool given = fchown(descriptor, status.st_uid, status.st_gid) == 0;
+    return fchmod(descriptor, status.st_mode & (given ? 07777 : 0777)) == 0;
 }
 
 bool WriteAll(int descriptor, std::string_view bytes) {
@@ -78,9 +84,9 @@ bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes) {
     std::string beside = (folder == "." ? std::string("./") : folder) + ".tervo-XXXXXX";
     CDescriptor descriptor(mkostemp(beside.data(), O_CLOEXEC));
     if (!descriptor) return false;
-    const bool written = WriteAll(descriptor.Get(), bytes) &&
-                         fchmod(descriptor.Get(), ModeFor(target)) == 0 && fsync(descriptor.Get()) == 0 &&
-                         descriptor.Close() && rename(beside.c_str(), target.c_str()) == 0;
+    const bool written = WriteAll(descriptor.Get(), bytes) && TakeOver(target, descriptor.Get()) &&
+                         fsync(descriptor.Get()) == 0 && descriptor.Close() &&
+                         rename(beside.c_str(), target.c_str()) == 0;
     if (!written) {
         const int reason = errno;
         unlink(beside.c_str());

@@ -9,6 +9,6 @@
 bool ReadFileWhole(const std::string& utf8Path, std::string* bytes);
 
 /// Writes beside the target, flushes to the disk, then renames: a reader sees the old content or the new, and
-/// a failure (false, errno tells why) leaves the old. Keeps the mode of a file that is replaced, follows a
-/// link.
+/// a failure (false, errno tells why) leaves the old. Keeps the mode of a file that is replaced, and its
+/// owner where this user may; follows a link.
 bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes);

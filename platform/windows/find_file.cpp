@@ -13,6 +13,7 @@
 #include "platform/acad/wide_names.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
+#include "platform/windows/wildcards.h"
 
 namespace {
 
@@ -32,37 +33,13 @@ CSearches& Searches() {
     return s_searches;
 }
 
-/// '*' stands for any text, '?' for one character; both texts are capitals.
-bool Matches(std::wstring_view pattern, std::wstring_view name) {
-    std::size_t at = 0;
-    std::size_t in = 0;
-    std::size_t star = std::wstring_view::npos;
-    std::size_t starIn = 0;
-    while (in < name.size()) {
-        if (at < pattern.size() && pattern[at] == L'*') {
-            star = at++;
-            starIn = in;
-        } else if (at < pattern.size() && (pattern[at] == L'?' || pattern[at] == name[in])) {
-            ++at;
-            ++in;
-        } else if (star != std::wstring_view::npos) {
-            at = star + 1;
-            in = ++starIn;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of(L'*', at) == std::wstring_view::npos;
-}
-
 std::deque<std::string> MatchingNames(const std::string& folder, std::string_view pattern) {
-    std::wstring capitals = UpperName(WideFromGbk(pattern));
-    if (capitals == L"*.*") capitals = L"*"; // names without a dot too
+    const std::wstring capitals = UpperName(WideFromGbk(pattern));
     std::deque<std::string> names;
     for (const char* dots : {".", ".."})
-        if (Matches(capitals, WideFromGbk(dots))) names.emplace_back(dots);
+        if (FitsWildcards(capitals, WideFromGbk(dots))) names.emplace_back(dots);
     for (const std::string& name : FileNames(folder.empty() ? "." : folder))
-        if (Matches(capitals, UpperName(WideFromGbk(name)))) names.push_back(name);
+        if (FitsWildcards(capitals, UpperName(WideFromGbk(name)))) names.push_back(name);
     return names;
 }
 

@@ -17,9 +17,9 @@ struct WIN32_FIND_DATAA {
 extern const HANDLE INVALID_HANDLE_VALUE;
 
 /// Finds the first file or folder of a pattern: a path in the code page, with either slash and in any case,
-/// whose last name may hold '*' and '?'. INVALID_HANDLE_VALUE when there is none, and for a name with a
-/// character that no file name has (| < > : and the double quote). Files whose names the code page lacks are
-/// passed over. The order is that of the names in capitals.
+/// whose last name may hold '*' and '?' (see wildcards.h). INVALID_HANDLE_VALUE when there is none, and for a
+/// name with a character that no file name has (| < > : and the double quote). Files whose names the code
+/// page lacks are passed over. The order is that of the names in capitals.
 HANDLE FindFirstFileA(const char* pattern, WIN32_FIND_DATAA* data);
 
 /// FALSE when there is no further one.

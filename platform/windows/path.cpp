@@ -91,7 +91,11 @@ bool ResolvePath(std::string_view base, std::string_view path, std::string* utf8
         const std::string name = ToUtf8(component);
         if (exists) {
             exists = StepInto(component, name, &result);
-        } else {
+        } else if (component == "..") { // out of a folder that is not there
+            const std::size_t slash = result.rfind('/');
+            result.resize(slash == std::string::npos ? 0 : slash ? slash : 1);
+            exists = result.empty() || Exists(result);
+        } else if (component != ".") {
             result += '/' + name;
         }
     }

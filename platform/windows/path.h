@@ -10,6 +10,7 @@
 /// The file system (UTF-8) path of a path in the code page. A relative one lies below base, which is such a
 /// path too (empty: the current folder). True when it exists. Else *utf8 holds it with its existing folders
 /// in their own spelling and the rest as given, so that it can be made; empty when bytes are no character.
+/// Two dots lead back out of a folder that is not there too.
 bool ResolvePath(std::string_view base, std::string_view path, std::string* utf8);
 
 /// True for a path that begins with a slash of either kind.

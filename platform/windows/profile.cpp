@@ -61,6 +61,52 @@ std::string_view WithoutTrailingBlanks(const char* text) {
     return whole.substr(0, whole.find_last_not_of(" \t") + 1);
 }
 
+/// The base that a value's prefix names, and the prefix's length.
+std::pair<std::uint32_t, std::size_t> BaseOf(std::string_view value) {
+    if (value.starts_with("0x")) return {16, 2};
+    if (value.starts_with("0o")) return {8, 2};
+    if (value.starts_with("0b")) return {2, 2};
+    return {10, 0};
+}
+
+/// What the character stands for in a number; 16 or more for one that is no digit of any base.
+std::uint32_t DigitOf(char character) {
+    if (character >= '0' && character <= '9') return static_cast<std::uint32_t>(character - '0');
+    const char lower = static_cast<char>(character | 0x20);
+    return lower >= 'a' && lower <= 'f' ? static_cast<std::uint32_t>(lower - 'a') + 10 : 16;
+}
+
+/// The whole number that the value begins with, modulo 2^32; 0 without one.
+std::uint32_t LeadingNumber(std::string_view value) {
+    const bool negative = value.starts_with('-');
+    if (negative || value.starts_with('+')) value.remove_prefix(1);
+    const auto [base, prefix] = BaseOf(value);
+    std::uint32_t number = 0;
+    for (const char character : value.substr(prefix)) {
+        const std::uint32_t digit = DigitOf(character);
+        if (digit >= base) break;
+        number = number * base + digit;
+    }
+    return negative ? 0U - number : number;
+}
+
+/// Tells the first bytes that are no character, for which a write is refused. False where there are none.
+bool TellBrokenText(const char* file, std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        const auto length =
+            static_cast<std::size_t>(GbkCharLength(text.data() + i, text.data() + text.size()));
+        std::string utf8;
+        if (!GbkToUtf8(text.substr(i, length), &utf8)) {
+            std::fprintf(stderr, "%s: the byte %02X in \"%s\" is no character of the system code page\n",
+                         ToUtf8(file).c_str(), static_cast<unsigned>(static_cast<unsigned char>(text[i])),
+                         ToUtf8(text).c_str());
+            return true;
+        }
+        i += length;
+    }
+    return false;
+}
+
 bool IsStillTheFile(const CDescriptor& descriptor, const std::string& path) {
     struct stat opened = {};
     struct stat named = {};
@@ -102,14 +148,7 @@ std::optional<std::string> CProfile::Value(const char* section, const char* key)
 UINT CProfile::Number(const char* section, const char* key, int defaultValue) const {
     const std::optional<std::string> value = Value(section, key);
     if (!value || value->empty()) return static_cast<UINT>(defaultValue);
-    const bool negative = value->front() == '-';
-    std::uint32_t number = 0;
-    for (std::size_t i = negative || value->front() == '+' ? 1 : 0; i < value->size(); ++i) {
-        const char digit = (*value)[i];
-        if (digit < '0' || digit > '9') break;
-        number = number * 10 + static_cast<std::uint32_t>(digit - '0');
-    }
-    return negative ? 0U - number : number;
+    return LeadingNumber(*value);
 }
 
 DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer,
@@ -136,6 +175,8 @@ BOOL WritePrivateProfileStringA(const char* section, const char* key, const char
     if (!section || !file) return FALSE;
     const bool exists = ResolvePath("", file, &path);
     if (path.empty()) return FALSE;
+    for (const char* part : {section, key, key ? text : nullptr})
+        if (part && TellBrokenText(file, part)) return FALSE;
     if (!exists && !(key && text)) return TRUE; // nothing to remove, and no file to make for it
     if (!CIniText("").Set(section, key ? key : "k", key && text ? text : "")) return FALSE;
     const CDescriptor lock = LockFile(path);

@@ -18,8 +18,8 @@
 DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer,
                                DWORD size, const char* file);
 
-/// The whole number that the value begins with: a sign, then decimal digits, taken modulo 2^32; 0 for other
-/// text, the default for a missing or empty value.
+/// The whole number that the value begins with: a sign, then decimal digits, or digits of base 16, 8 or 2
+/// behind 0x, 0o or 0b, taken modulo 2^32; 0 for other text, the default for a missing or empty value.
 UINT GetPrivateProfileIntA(const char* section, const char* key, int defaultValue, const char* file);
 
 /// An ini file as it stands now, read once for a caller that wants several of its values.
@@ -42,5 +42,6 @@ private:
 /// byte for byte, and so does the file's encoding; a new file is in the code page. The file is replaced
 /// whole, under a lock on the file itself: of two processes that write at once neither loses a key. FALSE,
 /// and nothing written, for a null section, a folder that is not there, a file that cannot be written or
-/// stays locked for 10 s, and for names and texts that could not be read back (see CIniText::Set).
+/// stays locked for 10 s, and for names and texts that could not be read back (see CIniText::Set); bytes that
+/// are no character are told on standard error.
 BOOL WritePrivateProfileStringA(const char* section, const char* key, const char* text, const char* file);

@@ -12,6 +12,8 @@ using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
 using HANDLE = void*;
 using HWND = struct CWindowOfHandle*;
+using HINSTANCE = const struct CModuleResources*;
+using INT_PTR = std::intptr_t;
 
 constexpr BOOL TRUE = 1;
 constexpr BOOL FALSE = 0;

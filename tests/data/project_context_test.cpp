@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <thread>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 #include "platform/windows/installation_root.h"
 #include "platform/windows/message_window.h"
@@ -70,6 +72,34 @@ TEST_F(ProjectContext, AsksForTheDataManagerWhenItDoesNotRun) {
     EXPECT_EQ(CheckDataManager(), 0);
     const std::string strAsked = "请首先启动【数据管理】并打开工程，再重试此功能!";
     EXPECT_EQ(m_arBoxes, (CTexts{strAsked, strAsked}));
+}
+
+TEST_F(ProjectContext, FindsNoDataManagerOfAnotherEdition) {
+    CMessageWindow window;
+    ASSERT_TRUE(window.Create("QMDBMANAGERE3", [](UINT, WPARAM, LPARAM) { return LRESULT{0}; }));
+    EXPECT_EQ(CheckDataManager(), 0);
+    for (const char* pszEdition : {"5", "-1"}) {
+        SetEdition(pszEdition);
+        EXPECT_EQ(CheckDataManager(), 0) << pszEdition;
+    }
+    EXPECT_EQ(m_arBoxes.size(), 3U);
+}
+
+TEST_F(ProjectContext, TakesADataManagerThatDoesNotAnswerForARunningOne) {
+    CMessageWindow window;
+    ASSERT_TRUE(window.Create("QMDBMANAGERE4", [](UINT, WPARAM, LPARAM) { return LRESULT{1}; }));
+    EXPECT_EQ(CheckDataManager(), 1); // nobody serves it here, and the call comes back
+    EXPECT_TRUE(m_arBoxes.empty());
+}
+
+TEST_F(ProjectContext, ReadsTheIndexLikeAnyNumberOfAnIniFile) {
+    for (const auto& [pszValue, nIndex] :
+         std::vector<std::pair<const char*, int>>{{"x", 0}, {"3 x", 3}, {"+4", 4}, {"\"5\"", 5}}) {
+        SetProject("GCSY", pszValue);
+        EXPECT_EQ(GetProjectIndex(), nIndex) << pszValue;
+    }
+    SetProject("GCSY", "");
+    EXPECT_EQ(GetProjectIndex(), -1);
 }
 
 TEST_F(ProjectContext, GivesTheRootOnlyWhereItExists) {

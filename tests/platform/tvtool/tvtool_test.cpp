@@ -144,3 +144,75 @@ TEST_F(TVToolTest, HasNoRootWhereThereIsNoFolder) {
     EXPECT_EQ(Path(TVToolGetRootPath), "");
     EXPECT_EQ(Path(TVToolGetSettingsIni), m_folder.Path("missing/Settings.ini"));
 }
+
+TEST_F(TVToolTest, TakesTheDefaultOfEachKeyThatIsMissingOrEmpty) {
+    for (const char* lines :
+         {"", "ProjectIni=\nSettingsIni=\nMarksIni=\nCommonDb=\nConfigDb=\nProjectConnect=\n"
+              "Provider=\n"}) {
+        Settings(lines);
+        EXPECT_EQ(Path(TVToolGetProjectIni), Root() + "/Project.ini");
+        EXPECT_EQ(Path(TVToolGetSettingsIni), Root() + "/Settings.ini");
+        EXPECT_EQ(Path(TVToolGetMarksIni), Root() + "/Marks.ini");
+        EXPECT_EQ(Path(TVToolGetCommonDbPath), Root() + "/Data/common.db");
+        EXPECT_EQ(Path(TVToolGetConfigDbPath), Root() + "/Data/config.db");
+        Project("GCSY=1\nDatabase=p.db\n");
+        EXPECT_EQ(Connect(), "Provider=SQLite;Data Source=" + Root() + "/p.db");
+        EXPECT_EQ(Provider(), "SQLite");
+    }
+}
+
+TEST_F(TVToolTest, HasNoConnectionOfAllProjectsWithoutARunningOne) {
+    Settings("ProjectConnect=Provider=ODBC;DSN=all\n");
+    EXPECT_EQ(Connect(), "");
+    Project("GCSY=-2\n");
+    EXPECT_EQ(Connect(), "");
+    Project("GCSY=2\n");
+    EXPECT_EQ(Connect(), "Provider=ODBC;DSN=all");
+}
+
+TEST_F(TVToolTest, PassesOverEmptyTextsOnTheWayToTheConnection) {
+    Settings("ProjectConnect=\n");
+    Project("GCSY=1\nConnect=\nDatabase=\n");
+    EXPECT_EQ(Connect(), "");
+    Project("GCSY=1\nConnect=\nDatabase=Projects\\A\\project.db\n");
+    EXPECT_EQ(Connect(), "Provider=SQLite;Data Source=" + Root() + "/Projects/A/project.db");
+}
+
+TEST_F(TVToolTest, ReadsTheProjectIniThatTheSettingsName) {
+    std::filesystem::create_directory(m_folder.Path("State"));
+    Settings("ProjectIni=state\\P.ini\n");
+    Project("GCSY=1\nDatabase=wrong.db\n");
+    m_folder.Write("State/p.ini", "[Project]\nGCSY=1\nDatabase=right.db\n");
+    EXPECT_EQ(Path(TVToolGetProjectIni), Root() + "/State/p.ini");
+    EXPECT_EQ(Connect(), "Provider=SQLite;Data Source=" + Root() + "/right.db");
+}
+
+TEST_F(TVToolTest, GivesTextsThatJustFitTheirBuffersAndNoLongerOnes) {
+    const std::string begin = "Provider=ODBC;DSN=";
+    Project("GCSY=1\nConnect=" + begin + std::string(1023 - begin.size(), 'x') + "\n");
+    EXPECT_EQ(Connect().size(), 1023U);
+    Project("GCSY=1\nConnect=" + begin + std::string(1024 - begin.size(), 'x') + "\n");
+    EXPECT_EQ(Connect(), "");
+    Project("GCSY=1\nConnect=" + begin + std::string(5000, 'x') + "\n");
+    EXPECT_EQ(Connect(), "");
+    const std::string name(259 - Root().size() - 1, 'd');
+    Settings("CommonDb=" + name + "\nConfigDb=" + name + "d\n");
+    EXPECT_EQ(Path(TVToolGetCommonDbPath), Root() + "/" + name);
+    EXPECT_EQ(Path(TVToolGetConfigDbPath), "");
+}
+
+TEST_F(TVToolTest, ReadsWhatChangedSinceTheLastCall) {
+    Project("GCSY=1\nDatabase=/one.db\n");
+    EXPECT_EQ(Connect(), "Provider=SQLite;Data Source=/one.db");
+    Project("GCSY=1\nDatabase=/two.db\n");
+    EXPECT_EQ(Connect(), "Provider=SQLite;Data Source=/two.db");
+    Settings("MarksIni=M.ini\n");
+    EXPECT_EQ(Path(TVToolGetMarksIni), Root() + "/M.ini");
+}
+
+TEST_F(TVToolTest, ReadsSettingsInEitherEncoding) {
+    Settings("MarksIni=标记.ini\n");
+    EXPECT_EQ(Path(TVToolGetMarksIni), Root() + "/标记.ini");
+    m_folder.Write("tervo.ini", "[TVTool]\nMarksIni=" + Utf8(u8"标记.ini") + "\n");
+    EXPECT_EQ(Path(TVToolGetMarksIni), Root() + "/标记.ini");
+}

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -28,6 +29,18 @@ TEST(WriteFileWhole, KeepsTheModeOfTheFileItReplaces) {
     struct stat status = {};
     ASSERT_EQ(stat(path.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0640U);
+}
+
+TEST(WriteFileWhole, KeepsTheOwnerOfTheFileItReplaces) {
+    if (geteuid() != 0) GTEST_SKIP() << "only root may give a file away";
+    const CTempFolder folder;
+    const std::string path = folder.Write("a.txt", "x");
+    ASSERT_EQ(chown(path.c_str(), 65534, 65533), 0);
+    ASSERT_TRUE(WriteFileWhole(path, "y"));
+    struct stat status = {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 65534U);
+    EXPECT_EQ(status.st_gid, 65533U);
 }
 
 TEST(WriteFileWhole, WritesBehindALink) {

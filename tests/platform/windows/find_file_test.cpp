@@ -77,3 +77,44 @@ TEST(FindFirstFileA, RefusesANameThatIsNone) {
     folder.Write(Utf8(u8"亅"), ""); // its second byte in the code page is the bar
     EXPECT_EQ(Found(folder.Path("亅")), CNames{"亅"});
 }
+
+TEST(FindFirstFileA, FindsAFolderByItsNameButNotWithASlashAtItsEnd) {
+    const CTempFolder folder;
+    std::filesystem::create_directories(folder.Path("Output/GC1"));
+    EXPECT_EQ(Found(folder.Path() + "\\output"), CNames{"Output"});
+    EXPECT_TRUE(Found(folder.Path() + "\\output\\").empty());
+    EXPECT_EQ(Found(folder.Path() + "\\output\\*"), (CNames{".", "..", "GC1"}));
+    EXPECT_EQ(Found(folder.Path() + "\\output\\.."), CNames{".."});
+}
+
+TEST(FindFirstFileA, PassesOverNamesThatTheCodePageLacks) {
+    const CTempFolder folder;
+    for (const char8_t* name : {u8"BR가.dwg", u8"BR图.dwg"})
+        folder.Write(Utf8(name), "");
+    EXPECT_EQ(Found(folder.Path("BR*.dwg")), CNames{"BR图.dwg"});
+}
+
+TEST(FindFirstFileA, LeavesOutWhatWasRemovedMeanwhile) {
+    const CTempFolder folder;
+    for (const char* name : {"a.dwg", "b.dwg", "c.dwg"})
+        folder.Write(name, "");
+    WIN32_FIND_DATAA data = {};
+    const HANDLE search = FindFirstFileA(folder.Path("*.dwg").c_str(), &data);
+    ASSERT_NE(search, INVALID_HANDLE_VALUE);
+    std::filesystem::remove(folder.Path("b.dwg"));
+    folder.Write("d.dwg", "");
+    EXPECT_TRUE(FindNextFileA(search, &data));
+    EXPECT_STREQ(data.cFileName, "c.dwg");
+    EXPECT_FALSE(FindNextFileA(search, &data));
+    FindClose(search);
+    EXPECT_FALSE(FindNextFileA(search, &data));
+}
+
+TEST(FindFirstFileA, FindsInTheCurrentFolder) {
+    const CTempFolder folder;
+    folder.Write("A.dwg", "");
+    std::filesystem::current_path(folder.Path());
+    EXPECT_EQ(Found("*.dwg"), CNames{"A.dwg"});
+    EXPECT_EQ(Found("a.DWG"), CNames{"A.dwg"});
+    std::filesystem::current_path("/");
+}

@@ -156,6 +156,81 @@ TEST_F(MessageWindowTest, IsServedByOneProcessAtATime) {
     EXPECT_EQ(FindWindowA("another", nullptr), nullptr);
 }
 
+TEST_F(MessageWindowTest, OneProcessAnswersForTwoClasses) {
+    CMessageWindow first;
+    CMessageWindow second;
+    ASSERT_TRUE(first.Create("First", [](UINT, WPARAM, LPARAM) -> LRESULT { return 1; }));
+    ASSERT_TRUE(second.Create("Second", [](UINT, WPARAM, LPARAM) -> LRESULT { return 2; }));
+    std::array<LRESULT, 2> answers = {};
+    std::thread caller([&] {
+        answers[0] = SendMessageA(FindWindowA("first", nullptr), 1, 0, 0);
+        answers[1] = SendMessageA(FindWindowA("SECOND", nullptr), 1, 0, 0);
+        first.Quit();
+        second.Quit();
+    });
+    std::thread server([&] { second.Run(); });
+    first.Run();
+    server.join();
+    caller.join();
+    EXPECT_EQ(answers, (std::array<LRESULT, 2>{1, 2}));
+    first.Destroy();
+    EXPECT_EQ(FindWindowA("First", nullptr), nullptr);
+    EXPECT_NE(FindWindowA("Second", nullptr), nullptr);
+}
+
+TEST_F(MessageWindowTest, IsFoundByItsClassAloneWithoutATitle) {
+    Serve();
+    EXPECT_NE(FindWindowA(CLASS, nullptr), nullptr);
+    EXPECT_EQ(FindWindowA(CLASS, ""), nullptr); // a title, which no window has
+    EXPECT_EQ(FindWindowA(nullptr, "QMDBMANAGERE4"), nullptr);
+    EXPECT_EQ(FindWindowA("QMDBMANAGERE", nullptr), nullptr);
+    EXPECT_EQ(FindWindowA("QMDBMANAGERE40", nullptr), nullptr);
+}
+
+TEST_F(MessageWindowTest, DoesNotMindAFileInItsPlaceThatIsNoSocketOfALivingProcess) {
+    const std::string place = m_folder.Path("run/" + CMessageAddress(CLASS).Name() + ".socket");
+    m_folder.Write("run/" + CMessageAddress(CLASS).Name() + ".socket", "text");
+    EXPECT_EQ(FindWindowA(CLASS, nullptr), nullptr);
+    Serve();
+    EXPECT_EQ(SendMessageA(FindWindowA(CLASS, nullptr), 2534, 1, 1), 2);
+    EXPECT_TRUE(std::filesystem::is_socket(place));
+}
+
+TEST_F(MessageWindowTest, IsNotReachedByAnotherUser) {
+    if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+    Serve();
+    ASSERT_NE(FindWindowA(CLASS, nullptr), nullptr);
+    for (const char* part : {"", "run", "root"})
+        chmod(m_folder.Path(part).c_str(), 0755);
+    const pid_t other = fork();
+    if (other == 0) {
+        if (setresuid(65534, 65534, 65534) != 0) _exit(2);
+        // The folder is not its own, so it looks in its own place below the temporary folder.
+        _exit(FindWindowA(CLASS, nullptr) ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(other, &status, 0), other);
+    EXPECT_EQ(status, 0);
+}
+
+TEST_F(MessageWindowTest, HasNoWindowOfAnotherUserInItsOwnFolder) {
+    if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+    Serve();
+    // Someone else's process at the other end, as if it had put its socket there.
+    ASSERT_EQ(chown(m_folder.Path("run").c_str(), 65534, 65534), 0);
+    for (const char* part : {"", "run", "root"})
+        chmod(m_folder.Path(part).c_str(), 0755);
+    chmod(m_folder.Path("run/" + CMessageAddress(CLASS).Name() + ".socket").c_str(), 0666);
+    const pid_t other = fork();
+    if (other == 0) {
+        if (setresuid(65534, 65534, 65534) != 0) _exit(2);
+        _exit(FindWindowA(CLASS, nullptr) ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(other, &status, 0), other);
+    EXPECT_EQ(status, 0);
+}
+
 TEST_F(MessageWindowTest, LetsAPollLoopServeIt) {
     CMessageWindow window;
     std::vector<std::pair<UINT, WPARAM>> got;

@@ -67,6 +67,55 @@ TEST(ResolvePath, TakesAnAbsolutePathWithoutItsBase) {
     EXPECT_FALSE(IsAbsolutePath(""));
 }
 
+TEST(ResolvePath, TakesDotsAndSlashesAtTheEnd) {
+    const CTempFolder folder;
+    std::filesystem::create_directories(folder.Path("Data/Sub"));
+    folder.Write("a.txt", "");
+    std::string utf8;
+    EXPECT_TRUE(ResolvePath(folder.Path(), "data\\sub\\", &utf8));
+    EXPECT_EQ(utf8, folder.Path("Data/Sub"));
+    EXPECT_TRUE(ResolvePath(folder.Path(), "DATA\\..\\.\\A.TXT", &utf8));
+    EXPECT_TRUE(std::filesystem::equivalent(utf8, folder.Path("a.txt")));
+}
+
+TEST(ResolvePath, GoesBackOutOfAFolderThatIsNotThere) {
+    const CTempFolder folder;
+    folder.Write("A.txt", "");
+    std::string utf8;
+    EXPECT_TRUE(ResolvePath(folder.Path(), "missing\\..\\a.txt", &utf8));
+    EXPECT_EQ(utf8, folder.Path("A.txt"));
+    EXPECT_TRUE(ResolvePath(folder.Path(), "missing\\more\\.\\..\\..\\a.txt", &utf8));
+    EXPECT_EQ(utf8, folder.Path("A.txt"));
+    EXPECT_FALSE(ResolvePath(folder.Path(), "missing\\more\\..\\a.txt", &utf8));
+    EXPECT_EQ(utf8, folder.Path("missing/a.txt"));
+    EXPECT_TRUE(ResolvePath("", "/no-such-folder/../tmp", &utf8));
+    EXPECT_EQ(utf8, "/tmp");
+    std::filesystem::current_path(folder.Path());
+    EXPECT_TRUE(ResolvePath("", "missing/../a.txt", &utf8));
+    EXPECT_TRUE(std::filesystem::equivalent(utf8, "A.txt"));
+    std::filesystem::current_path("/");
+}
+
+TEST(ResolvePath, TakesSeveralSlashesForOne) {
+    const CTempFolder folder;
+    folder.Write("a.txt", "");
+    std::string utf8;
+    EXPECT_TRUE(ResolvePath("", "\\\\" + folder.Path() + "\\/a.txt", &utf8)); // as of a network folder
+    EXPECT_EQ(utf8, folder.Path("a.txt"));
+    EXPECT_FALSE(ResolvePath(folder.Path(), "\\\\host\\share\\a.txt", &utf8));
+    EXPECT_EQ(utf8, "/host/share/a.txt");
+}
+
+TEST(ResolvePath, PassesOverNamesThatTheCodePageLacks) {
+    const CTempFolder folder;
+    folder.Write(Utf8(u8"가.txt"), "");
+    folder.Write("B.txt", "");
+    std::string utf8;
+    EXPECT_TRUE(ResolvePath(folder.Path(), "b.TXT", &utf8));
+    EXPECT_EQ(utf8, folder.Path("B.txt"));
+    EXPECT_FALSE(ResolvePath(folder.Path(), "?.txt", &utf8));
+}
+
 TEST(SameFileName, ComparesLettersBeyondAsciiToo) {
     EXPECT_TRUE(SameFileName("Abc", "aBC"));
     EXPECT_TRUE(SameFileName("图Σ", "图σ"));

@@ -1,17 +1,11 @@
 #include "platform/windows/profile.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <array>
 #include <filesystem>
 #include <string>
 
-#include "platform/windows/descriptor.h"
 #include "platform/windows/file_bytes.h"
 #include "tests/platform/utf8_text.h"
 #include "tests/temp_folder.h"
@@ -29,14 +23,6 @@ std::string Bytes(const std::string& file) {
     std::string bytes = "unreadable";
     ReadFileWhole(file, &bytes);
     return bytes;
-}
-
-/// Writes count keys of its own one after the other; the exit status tells of a write that failed.
-[[noreturn]] void WriteKeys(const std::string& file, const std::string& prefix, int count) {
-    for (int i = 0; i < count; ++i)
-        if (!WritePrivateProfileStringA("S", (prefix + std::to_string(i)).c_str(), "值", file.c_str()))
-            _exit(1);
-    _exit(0);
 }
 
 } // namespace
@@ -95,6 +81,47 @@ TEST(GetPrivateProfileStringA, ListThatIsTooLongGivesTheSizeLessTwo) {
     EXPECT_EQ(GetPrivateProfileStringA("S", nullptr, "", buffer.data(), 12, file.c_str()), 11U);
 }
 
+TEST(GetPrivateProfileStringA, GivesTheDefaultForAnEmptyList) {
+    const CTempFolder folder;
+    const std::string file = folder.Write("a.ini", "[S]\nno key\n; k=1\n");
+    std::array<char, 16> buffer = {};
+    EXPECT_EQ(GetPrivateProfileStringA("S", nullptr, "d ", buffer.data(), 16, file.c_str()), 1U);
+    EXPECT_STREQ(buffer.data(), "d");
+    EXPECT_EQ(GetPrivateProfileStringA("none", nullptr, "", buffer.data(), 16, file.c_str()), 0U);
+    EXPECT_EQ(std::string(buffer.data(), 2), std::string(2, '\0'));
+    EXPECT_EQ(GetPrivateProfileStringA(nullptr, nullptr, "", buffer.data(), 16, folder.Path("b.ini").c_str()),
+              0U);
+    EXPECT_EQ(GetPrivateProfileStringA(nullptr, "k", "", buffer.data(), 16, file.c_str()), 2U); // sections
+    EXPECT_STREQ(buffer.data(), "S");
+    buffer.fill('#');
+    EXPECT_EQ(GetPrivateProfileStringA("S", nullptr, "", buffer.data(), 0, file.c_str()), 0U);
+    EXPECT_EQ(buffer[0], '#');
+    EXPECT_EQ(GetPrivateProfileStringA(nullptr, nullptr, "", buffer.data(), 1, file.c_str()), 0U);
+    EXPECT_EQ(buffer[0], '\0');
+    EXPECT_EQ(GetPrivateProfileStringA("S", "k", "d", nullptr, 16, file.c_str()), 0U);
+}
+
+TEST(GetPrivateProfileStringA, ComparesNamesWithoutCaseBeyondAsciiToo) {
+    const CTempFolder folder;
+    const std::string file = folder.Write("a.ini", "[工程Σ]\n钻孔a=1\n钻孔A=2\n=3\n[工程σ]\n钻孔b=4\n");
+    EXPECT_EQ(Value(file, "工程σ", "钻孔A"), "1"); // the first of equal ones
+    EXPECT_EQ(Value(file, "工程Σ", "钻孔b"), "none");
+    EXPECT_EQ(Value(file, "工程Σ", ""), "none"); // an empty name is no key
+}
+
+TEST(GetPrivateProfileStringA, TakesTheLineAsItStandsButForBlanksAndQuotes) {
+    const CTempFolder folder;
+    const std::string file = folder.Write(
+        "a.ini", "[S]\n\tk \t=\t v ; w = x \t\r\n;k2=c\n  ;k3=c\nk4\nk5=\nk6='\"q\"'\nk7=\"q'\n");
+    EXPECT_EQ(Value(file, "S", "k"), "v ; w = x");
+    EXPECT_EQ(Value(file, "S", ";k2"), "none");
+    EXPECT_EQ(Value(file, "S", "k3"), "none");
+    EXPECT_EQ(Value(file, "S", "k4"), "none");
+    EXPECT_EQ(Value(file, "S", "k5"), "");
+    EXPECT_EQ(Value(file, "S", "k6"), "\"q\"");
+    EXPECT_EQ(Value(file, "S", "k7"), "\"q'");
+}
+
 TEST(GetPrivateProfileStringA, FindsTheFileInAnyCaseWithEitherSlash) {
     const CTempFolder folder;
     folder.Write("Settings.ini", "[S]\nk=v\n");
@@ -114,7 +141,8 @@ TEST(GetPrivateProfileIntA, TakesASignAndDigitsUpToOtherText) {
     const CTempFolder folder;
     const std::string file =
         folder.Write("a.ini", "[S]\na=12\nb=-7x\nc=+3\nd=text\ne=\nf=0x10\ng= 4294967297\n"
-                              "h=\"8\"\ni=-\nj=1.9\n");
+                              "h=\"8\"\ni=-\nj=1.9\nk=-2147483648\nl=4294967296\nm=-0x1F\nn=0o17\n"
+                              "o=0b101\np=0xfg\nq=\t 5\nr=0X10\ns=1 000\n");
     const auto number = [&](const char* key) {
         return static_cast<int>(GetPrivateProfileIntA("S", key, 99, file.c_str()));
     };
@@ -123,11 +151,20 @@ TEST(GetPrivateProfileIntA, TakesASignAndDigitsUpToOtherText) {
     EXPECT_EQ(number("c"), 3);
     EXPECT_EQ(number("d"), 0);
     EXPECT_EQ(number("e"), 99);
-    EXPECT_EQ(number("f"), 0);
+    EXPECT_EQ(number("f"), 16);
     EXPECT_EQ(number("g"), 1);
     EXPECT_EQ(number("h"), 8);
     EXPECT_EQ(number("i"), 0);
     EXPECT_EQ(number("j"), 1);
+    EXPECT_EQ(number("k"), -2147483647 - 1);
+    EXPECT_EQ(number("l"), 0);
+    EXPECT_EQ(number("m"), -31);
+    EXPECT_EQ(number("n"), 15);
+    EXPECT_EQ(number("o"), 5);
+    EXPECT_EQ(number("p"), 15);
+    EXPECT_EQ(number("q"), 5);
+    EXPECT_EQ(number("r"), 0);
+    EXPECT_EQ(number("s"), 1);
     EXPECT_EQ(number("missing"), 99);
     EXPECT_EQ(static_cast<int>(GetPrivateProfileIntA("S", "missing", -1, file.c_str())), -1);
 }
@@ -151,6 +188,27 @@ TEST(WritePrivateProfileStringA, ReplacesAndRemoves) {
     EXPECT_EQ(Bytes(file), "; head\n[S]\na=9\n");
 }
 
+TEST(WritePrivateProfileStringA, WritesBlanksAndQuotesAsTheyStand) {
+    const CTempFolder folder;
+    const std::string file = folder.Write("a.ini", "[S]\r\n\r\n; end\r\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "a", "  x ", file.c_str()));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "b", "\" y \"", file.c_str()));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "c", "", file.c_str()));
+    EXPECT_EQ(Bytes(file), "[S]\r\n\r\n; end\r\na=  x \r\nb=\" y \"\r\nc=\r\n");
+    EXPECT_EQ(Value(file, "S", "a"), "x");
+    EXPECT_EQ(Value(file, "S", "b"), " y ");
+    EXPECT_EQ(Value(file, "S", "c"), "");
+}
+
+TEST(WritePrivateProfileStringA, ANullKeyRemovesTheSectionWhateverTheText) {
+    const CTempFolder folder;
+    const std::string file = folder.Write("a.ini", "[S]\na=1\n[T]\nb=2\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("s", nullptr, "text", file.c_str()));
+    EXPECT_EQ(Bytes(file), "[T]\nb=2\n");
+    EXPECT_FALSE(WritePrivateProfileStringA(nullptr, nullptr, nullptr, file.c_str())); // nothing is kept back
+    EXPECT_EQ(Bytes(file), "[T]\nb=2\n");
+}
+
 TEST(WritePrivateProfileStringA, LeavesNothingBesideTheFile) {
     const CTempFolder folder;
     const std::string file = folder.Path("a.ini");
@@ -169,51 +227,4 @@ TEST(WritePrivateProfileStringA, RefusesWithoutTouchingAnything) {
     EXPECT_FALSE(WritePrivateProfileStringA("S", "a", "1", folder.Path("missing/a.ini").c_str()));
     EXPECT_TRUE(WritePrivateProfileStringA("S", "a", nullptr, file.c_str()));
     EXPECT_FALSE(std::filesystem::exists(file));
-}
-
-TEST(WritePrivateProfileStringA, LosesNoKeyOfTwoProcessesThatWriteAtOnce) {
-    constexpr int COUNT = 60;
-    const CTempFolder folder;
-    const std::string file = folder.Path("a.ini");
-    std::array<pid_t, 2> writers = {};
-    for (std::size_t i = 0; i < writers.size(); ++i) {
-        writers[i] = fork();
-        ASSERT_GE(writers[i], 0);
-        if (writers[i] == 0) WriteKeys(file, i == 0 ? "a" : "b", COUNT);
-    }
-    int ended = 0;
-    std::size_t read = 0;
-    while (ended < 2) { // a reader sees whole files only: it has all keys up to the last, and no torn line
-        int status = 0;
-        if (waitpid(-1, &status, WNOHANG) > 0) {
-            EXPECT_EQ(status, 0);
-            ++ended;
-        }
-        std::string bytes;
-        if (!ReadFileWhole(file, &bytes) || bytes.empty()) continue;
-        EXPECT_TRUE(bytes.starts_with("[S]\n") && bytes.ends_with("=值\n")) << bytes;
-        EXPECT_GE(bytes.size(), read);
-        read = bytes.size();
-    }
-    for (int i = 0; i < COUNT; ++i) {
-        EXPECT_EQ(Value(file, "S", ("a" + std::to_string(i)).c_str()), "值");
-        EXPECT_EQ(Value(file, "S", ("b" + std::to_string(i)).c_str()), "值");
-    }
-}
-
-TEST(WritePrivateProfileStringA, WaitsForAnotherWritersLock) {
-    const CTempFolder folder;
-    const std::string file = folder.Write("a.ini", "[S]\na=1\n");
-    CDescriptor lock(open(file.c_str(), O_RDWR | O_CLOEXEC));
-    ASSERT_EQ(flock(lock.Get(), LOCK_EX), 0);
-    const pid_t writer = fork();
-    ASSERT_GE(writer, 0);
-    if (writer == 0) _exit(WritePrivateProfileStringA("S", "b", "2", file.c_str()) ? 0 : 1);
-    usleep(50000); // the writer may have come to the lock or not: the outcome is the same
-    EXPECT_EQ(Bytes(file), "[S]\na=1\n");
-    flock(lock.Get(), LOCK_UN); // the child's copy of the descriptor does not hold it any longer either
-    int status = 0;
-    ASSERT_EQ(waitpid(writer, &status, 0), writer);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(Bytes(file), "[S]\na=1\nb=2\n");
 }

@@ -55,6 +55,18 @@ TEST_F(RuntimeDirTest, IsNoneWhereOthersCanEnterOrALinkStandsInItsPlace) {
     EXPECT_EQ(RuntimeDir(), "");
 }
 
+TEST_F(RuntimeDirTest, IsNoneWhereAnotherUserHasTakenThePlace) {
+    if (geteuid() != 0) GTEST_SKIP() << "only root can make a folder of another user";
+    std::filesystem::create_directory(OfUser());
+    chmod(OfUser().c_str(), 0700);
+    ASSERT_EQ(chown(OfUser().c_str(), 65534, 65534), 0);
+    EXPECT_EQ(RuntimeDir(), "");
+    std::filesystem::create_directory(m_folder.Path("given"));
+    ASSERT_EQ(chown(m_folder.Path("given").c_str(), 65534, 65534), 0);
+    setenv("XDG_RUNTIME_DIR", m_folder.Path("given").c_str(), 1);
+    EXPECT_EQ(RuntimeDir(), "");
+}
+
 TEST_F(RuntimeDirTest, IsPutIntoTheEnvironmentWhenUnset) {
     EnsureRuntimeDir();
     EXPECT_STREQ(std::getenv("XDG_RUNTIME_DIR"), OfUser().c_str());
