@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "host/datamanager/database_failure.h"
 #include "host/datamanager/failure.h"
 #include "host/datamanager/import.h"
 #include "host/datamanager/installation.h"
@@ -64,8 +65,9 @@ ExitStatus Import(const COptions& options) {
     const CProject project = FindProject(installation, FromTerminal(options.m_strNumber));
     const auto pDatabase = OpenProjectDatabase(installation, project);
     CImportReport report(stderr);
-    const CImportCounts counts =
-        ImportFiles(*pDatabase, project.m_nGCSY, options.m_arFiles, options.m_bReplace, &report);
+    const CImportCounts counts = AtDatabase(ProjectConnection(installation, project), [&] {
+        return ImportFiles(*pDatabase, project.m_nGCSY, options.m_arFiles, options.m_bReplace, &report);
+    });
     if (report.Refusals() > 0) return ExitStatus::Refused;
     Print("readings: " + std::to_string(counts.m_nReadings) + "\nsamples: " +
           std::to_string(counts.m_nSamples) + "\nlayers: " + std::to_string(counts.m_nLayers) + "\n");
@@ -103,7 +105,9 @@ ExitStatus Results(const COptions& options) {
     const auto form = options.m_bCsv    ? ResultForm::Csv
                       : options.m_bJson ? ResultForm::Json
                                         : ResultForm::Aligned;
-    Print(ResultsText(*OpenProjectDatabase(installation, project), project.m_nGCSY, form));
+    const auto pDatabase = OpenProjectDatabase(installation, project);
+    Print(AtDatabase(ProjectConnection(installation, project),
+                     [&] { return ResultsText(*pDatabase, project.m_nGCSY, form); }));
     return ExitStatus::Done;
 }
 
@@ -124,6 +128,8 @@ int Run(ExitStatus (*pfnCall)(const COptions&), const COptions& options) {
         return Tell(ExitStatus::NoAccess, ToUtf8(error.what()));
     } catch (const std::filesystem::filesystem_error& error) {
         return Tell(ExitStatus::NoAccess, error.path1().string() + ": " + error.code().message());
+    } catch (const std::exception& error) {
+        return Tell(ExitStatus::NoAccess, error.what());
     }
 }
 

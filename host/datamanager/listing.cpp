@@ -5,9 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/datamanager/database_failure.h"
 #include "host/datamanager/natural_order.h"
 #include "host/datamanager/terminal_text.h"
-#include "platform/ado/error.h"
 #include "platform/windows/code_page.h"
 
 namespace {
@@ -73,9 +73,11 @@ std::vector<CListedProject> ListProjects(const CInstallation& installation) {
         listed.m_project = project;
         listed.m_bRunning = nRunning >= 0 && project.m_nGCSY == nRunning;
         try {
-            listed.m_arSamples = ReadSamples(*OpenProjectDatabase(installation, project), project.m_nGCSY);
-        } catch (const CDbError& error) {
-            listed.m_strFault = ToUtf8(error.what());
+            const auto pDatabase = OpenProjectDatabase(installation, project);
+            listed.m_arSamples = AtDatabase(ProjectConnection(installation, project),
+                                            [&] { return ReadSamples(*pDatabase, project.m_nGCSY); });
+        } catch (const CFailure& failure) {
+            listed.m_strFault = failure.what();
         }
     }
     return arProjects;

@@ -5,14 +5,16 @@
 #include <optional>
 #include <set>
 
-#include "host/datamanager/failure.h"
+#include "host/datamanager/database_failure.h"
 #include "host/datamanager/layout.h"
+#include "host/datamanager/layout_check.h"
 #include "host/datamanager/project.h"
 #include "host/datamanager/terminal_text.h"
 #include "host/datamanager/transaction.h"
 #include "platform/ado/sqlite_provider.h"
 #include "platform/ado/text.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
 
 namespace fs = std::filesystem;
 
@@ -63,7 +65,7 @@ std::string SettledConnection(const std::string& strConnect) {
 /// Opens the database; a file of the embedded one is made if need be.
 std::shared_ptr<CDbConnection> OpenOrMake(const std::string& strConnection) {
     const CConnectionText text(strConnection);
-    if (IsFileConnection(text)) return CreateSqliteDatabase(text.Value("Data Source"));
+    if (IsFileConnection(text)) CreateSqliteDatabase(text.Value("Data Source"));
     return OpenDbConnection(strConnection);
 }
 
@@ -141,19 +143,25 @@ std::int32_t MakeProject(const CInstallation& installation, const CProjectWish& 
     CheckNumber(wish.m_strGCBH);
     CheckName(wish.m_strGCMC);
     const CInstallationLock lock(installation);
-    if (IsProject(installation, wish.m_strGCBH))
-        throw CFailure(ExitStatus::Refused, "there is a project " + ToUtf8(wish.m_strGCBH) + " already");
+    // Programs of the suite find a folder in any case, so two of one name would be taken for each other.
+    for (const std::string& strFolder : FileNames(installation.ProjectsFolder().string()))
+        if (SameFileName(strFolder, wish.m_strGCBH) && IsProject(installation, strFolder))
+            throw CFailure(ExitStatus::Refused, "there is a project " + ToUtf8(strFolder) + " already");
     CProject project;
     project.m_strGCBH = wish.m_strGCBH;
     project.m_strGCMC = wish.m_strGCMC;
     project.m_nGCBZ = wish.m_nGCBZ;
     project.m_strConnect = SettledConnection(wish.m_strConnect);
     CFolderGuard folder(installation.ProjectsFolder() / ToUtf8(wish.m_strGCBH));
-    const auto pDatabase = OpenOrMake(ProjectConnection(installation, project));
-    CDbTransaction transaction(*pDatabase);
-    LayOutTables(*pDatabase, ProjectTables());
-    Register(*pDatabase, Indices(ReadProjects(installation)), &project);
-    transaction.Commit();
+    const std::string strConnection = ProjectConnection(installation, project);
+    AtDatabase(strConnection, [&] {
+        const auto pDatabase = OpenOrMake(strConnection);
+        CDbTransaction transaction(*pDatabase);
+        LayOutTables(*pDatabase, ProjectTables());
+        CheckLayout(*pDatabase, ProjectTables());
+        Register(*pDatabase, Indices(ReadProjects(installation)), &project);
+        transaction.Commit();
+    });
     WriteProject(installation, project);
     folder.Keep();
     return project.m_nGCSY;

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "host/datamanager/failure.h"
+#include "host/datamanager/database_failure.h"
+#include "host/datamanager/layout_check.h"
 #include "host/datamanager/terminal_text.h"
 #include "platform/tvtool/tvtool.h"
 #include "platform/windows/code_page.h"
@@ -86,5 +87,10 @@ std::string ProjectConnection(const CInstallation& installation, const CProject&
 
 std::shared_ptr<CDbConnection> OpenProjectDatabase(const CInstallation& installation,
                                                    const CProject& project) {
-    return OpenDbConnection(ProjectConnection(installation, project));
+    const std::string strConnection = ProjectConnection(installation, project);
+    return AtDatabase(strConnection, [&] {
+        auto pDatabase = OpenDbConnection(strConnection);
+        CheckLayout(*pDatabase, ProjectTables());
+        return pDatabase;
+    });
 }

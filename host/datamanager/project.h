@@ -39,6 +39,6 @@ std::string ProjectConnection(const CInstallation& installation, const CProject&
 /// A connection text for a file of the embedded database.
 std::string FileConnection(const std::string& strPath);
 
-/// Opens the project's database. Throws CDbError.
+/// Opens the project's database, which must have the suite's tables. CFailure where it cannot be had.
 std::shared_ptr<CDbConnection> OpenProjectDatabase(const CInstallation& installation,
                                                    const CProject& project);
