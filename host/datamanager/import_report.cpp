@@ -2,6 +2,20 @@
 
 #include <string>
 
+namespace {
+
+/// A field's text may have line ends in it, the message may not.
+void AppendOnOneLine(std::string* pLine, std::string_view strText) {
+    for (const char c : strText) {
+        if (c == '\n' || c == '\r')
+            pLine->append(c == '\n' ? "\\n" : "\\r");
+        else
+            pLine->push_back(c);
+    }
+}
+
+} // namespace
+
 void CImportReport::Refuse(std::string_view strFile, std::size_t nLine, std::string_view strColumn,
                            std::string_view strReason) {
     ++m_nRefusals;
@@ -17,6 +31,9 @@ void CImportReport::Write(std::string_view strBegin, std::string_view strFile, s
                           std::string_view strColumn, std::string_view strReason) {
     std::string strLine(strBegin);
     strLine.append(strFile).append(":").append(std::to_string(nLine)).append(": ");
-    strLine.append(strColumn).append(": ").append(strReason).append("\n");
+    AppendOnOneLine(&strLine, strColumn);
+    strLine.append(": ");
+    AppendOnOneLine(&strLine, strReason);
+    strLine.append("\n");
     std::fwrite(strLine.data(), 1, strLine.size(), m_pOut);
 }
