@@ -37,11 +37,22 @@ std::optional<std::intptr_t> Ask(const std::string& strClass, UINT nMessage, WPA
     return nAnswer > 0 ? std::optional(nAnswer) : std::nullopt;
 }
 
+bool IsThere(const std::string& strClass) {
+    return FindWindowA(strClass.c_str(), nullptr) != nullptr;
+}
+
+[[noreturn]] void FailHung() {
+    throw CFailure(ExitStatus::NoAccess, "the resident data manager does not answer");
+}
+
 /// Ends the resident one of that class and waits until it is gone.
 void End(const std::string& strClass) {
-    if (!Ask(strClass, kMessageEnd, 0)) return;
+    if (!Ask(strClass, kMessageEnd, 0)) {
+        if (IsThere(strClass)) FailHung();
+        return;
+    }
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (FindWindowA(strClass.c_str(), nullptr)) {
+    while (IsThere(strClass)) {
         if (std::chrono::steady_clock::now() > end)
             throw CFailure(ExitStatus::NoAccess, "the resident data manager does not end");
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -75,6 +86,7 @@ std::unique_ptr<CResident> HaveResident(const CInstallation& installation, const
         PrintProcess(*nProcess);
         return nullptr;
     }
+    if (IsThere(strClass)) FailHung();
     if (bForeground) {
         auto pResident = std::make_unique<CResident>(installation.LogFile(), strClass);
         PrintProcess(getpid());
@@ -109,6 +121,6 @@ void OpenProject(const CInstallation& installation, const CProject& project, boo
 
 void CloseProject(const CInstallation& installation) {
     const CInstallationLock lock(installation);
-    EndOthers("");
     installation.ProjectIni().SetNumber("Project", "GCSY", -1);
+    EndOthers("");
 }
