@@ -52,6 +52,10 @@ public:
             pStore->Put(strKey, arRow);
         ++m_nRows;
     }
+    void Flush() {
+        for (const auto& pStore : m_arStores)
+            pStore->Flush();
+    }
     [[nodiscard]] std::size_t Rows() const { return m_nRows; }
 
 private:
@@ -71,6 +75,10 @@ public:
         , m_pReport(pReport) {}
 
     void ReadFile(std::size_t nFile);
+    void Flush() {
+        for (auto& [pKind, rows] : m_mapKinds)
+            rows.Flush();
+    }
     [[nodiscard]] std::size_t Rows(std::size_t nKind) const {
         const auto it = m_mapKinds.find(&ImportKinds()[nKind]);
         return it == m_mapKinds.end() ? 0 : it->second.Rows();
@@ -133,6 +141,7 @@ CImportCounts ImportFiles(CDbConnection& database, std::int64_t nGCSY,
     for (std::size_t i = 0; i < arFiles.size(); ++i)
         import.ReadFile(i);
     if (pReport->Refusals() > 0) return {};
+    import.Flush();
     transaction.Commit();
     return {import.Rows(0), import.Rows(1), import.Rows(2)};
 }

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/ado/error.h"
+
 namespace {
 
 /// Type names that every engine knows; there is no common name for one byte.
@@ -27,13 +29,27 @@ std::string CreateStatement(const CTable& table) {
         if (!strColumns.empty()) strColumns += ", ";
         strColumns.append(column.m_strName).append(" ").append(SqlType(column.m_kind));
     }
-    return "CREATE TABLE IF NOT EXISTS " + std::string(table.m_strName) + " (" + strColumns + ")";
+    return "CREATE TABLE " + std::string(table.m_strName) + " (" + strColumns + ")";
+}
+
+/// Asked by reading, which everyone may who joins a database; an engine refuses CREATE to some, also where it
+/// would have nothing to do.
+bool IsThere(CDbConnection& database, const CTable& table) {
+    try {
+        (void)database.Query("SELECT COUNT(*) FROM " + std::string(table.m_strName) + " WHERE 1 = 0");
+        return true;
+    } catch (const CDbError& error) {
+        if (error.Failure() != DbFailure::General) throw;
+        return false; // whatever else is wrong stops the making
+    }
 }
 
 } // namespace
 
 void LayOutTables(CDbConnection& database, std::span<const CTable* const> arTables) {
+    database.LayOutDialect();
     for (const CTable* pTable : arTables) {
+        if (IsThere(database, *pTable)) continue;
         database.Execute(CreateStatement(*pTable));
         if (!pTable->HasColumn("GCSY") || !pTable->HasColumn("ZKBH") || !pTable->HasColumn("QYBH")) continue;
         const std::string strTable(pTable->m_strName);

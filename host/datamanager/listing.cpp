@@ -7,6 +7,7 @@
 
 #include "host/datamanager/database_failure.h"
 #include "host/datamanager/natural_order.h"
+#include "host/datamanager/numbers.h"
 #include "host/datamanager/terminal_text.h"
 #include "platform/windows/code_page.h"
 
@@ -60,7 +61,7 @@ std::vector<CListedSample> ReadSamples(CDbConnection& database, std::int32_t nGC
             it != mapMethods.end() && !std::holds_alternative<std::monostate>(it->second))
             sample.m_strSYFF = CellText(it->second);
         if (const auto it = mapReadings.find(key); it != mapReadings.end())
-            sample.m_nReadings = std::get<std::int64_t>(it->second);
+            sample.m_nReadings = CellWhole(it->second);
     }
     return arSamples;
 }

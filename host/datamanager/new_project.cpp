@@ -8,6 +8,7 @@
 #include "host/datamanager/database_failure.h"
 #include "host/datamanager/layout.h"
 #include "host/datamanager/layout_check.h"
+#include "host/datamanager/numbers.h"
 #include "host/datamanager/project.h"
 #include "host/datamanager/terminal_text.h"
 #include "host/datamanager/transaction.h"
@@ -72,10 +73,7 @@ std::shared_ptr<CDbConnection> OpenOrMake(const std::string& strConnection) {
 /// The projects of a database's register.
 std::vector<CProject> ReadRegister(CDbConnection& database) {
     const auto pRows = database.Query("SELECT GCSY, GCBH, GCMC, GCBZ FROM x_GongCheng WHERE GCSY > -1");
-    const auto number = [](const CDbCell& cell) {
-        const auto* pWhole = std::get_if<std::int64_t>(&cell);
-        return pWhole ? static_cast<std::int32_t>(*pWhole) : 0;
-    };
+    const auto number = [](const CDbCell& cell) { return static_cast<std::int32_t>(CellWhole(cell)); };
     std::vector<CProject> arProjects(pRows->RowCount());
     for (std::size_t i = 0; i < arProjects.size(); ++i) {
         arProjects[i].m_nGCSY = number(pRows->Cell(i, 0));

@@ -70,3 +70,17 @@ std::string ShortestFloat(float value) {
     const auto result = std::to_chars(szText.data(), szText.data() + szText.size(), value);
     return {szText.data(), result.ptr};
 }
+
+double CellNumber(const CDbCell& cell) {
+    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return static_cast<double>(*pWhole);
+    const auto* pReal = std::get_if<double>(&cell);
+    return pReal ? *pReal : 0.0;
+}
+
+std::int64_t CellWhole(const CDbCell& cell) {
+    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return *pWhole;
+    constexpr double kExactBelow = 9007199254740992.0; // every whole number below it is a double
+    const double dValue = CellNumber(cell);
+    return std::abs(dValue) < kExactBelow && dValue == std::trunc(dValue) ? static_cast<std::int64_t>(dValue)
+                                                                          : 0;
+}

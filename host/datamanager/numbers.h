@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ado/value.h"
+
 /// Whole number: a sign if need be and digits, within [nLowest, nHighest]. Nothing else is one.
 std::optional<std::int64_t> ParseWhole(std::string_view strText, std::int64_t nLowest, std::int64_t nHighest);
 
@@ -14,3 +16,10 @@ std::optional<double> ParseDecimal(std::string_view strText);
 
 /// The shortest text that reads back to the same 4-byte float: 12.35, not 12.350000381.
 std::string ShortestFloat(float value);
+
+/// The number in a cell, whatever kind the engine gives it; 0 for NULL and what is no number.
+double CellNumber(const CDbCell& cell);
+
+/// The whole number in a cell, likewise; 0 for one with a fraction, too. Tables of other tools hold whole
+/// numbers in columns of any type.
+std::int64_t CellWhole(const CDbCell& cell);

@@ -1,6 +1,7 @@
 #include "host/datamanager/table_store.h"
 
 #include <array>
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -25,6 +26,12 @@ void AppendKey(std::string* pKey, const CImportColumn& column, const CDbValue& v
     pKey->append(bytes.data(), bytes.size());
 }
 
+/// Whether the value is a whole number of the column's range that an engine gives as a real one.
+bool IsWhole(const CImportColumn& column, double dValue) {
+    constexpr double kBeyond = 2147483648.0;
+    return column.m_kind != ColumnKind::Float && std::abs(dValue) < kBeyond && dValue == std::trunc(dValue);
+}
+
 /// A stored key value; NULL and values of another type than the column's are no key of an import.
 bool FromCell(const CImportColumn& column, const CDbCell& cell, CDbValue* pValue) {
     if (const auto* pText = std::get_if<std::string_view>(&cell))
@@ -32,7 +39,7 @@ bool FromCell(const CImportColumn& column, const CDbCell& cell, CDbValue* pValue
     else if (const auto* pWhole = std::get_if<std::int64_t>(&cell))
         *pValue = *pWhole;
     else if (const auto* pReal = std::get_if<double>(&cell))
-        *pValue = *pReal;
+        *pValue = IsWhole(column, *pReal) ? CDbValue(static_cast<std::int64_t>(*pReal)) : CDbValue(*pReal);
     else
         return false;
     const bool bText = std::holds_alternative<std::string>(*pValue);
@@ -97,7 +104,11 @@ void CTableStore::Put(const std::string& strKey, const std::vector<CDbValue>& ar
     }
     for (std::size_t i = 0; i < m_arPlaces.size(); ++i)
         m_arInsert[i + 1] = arRow[m_arPlaces[i]];
-    m_pInsert->Execute(m_arInsert);
+    m_pInsert->Queue(m_arInsert);
+}
+
+void CTableStore::Flush() {
+    if (m_pInsert) m_pInsert->Flush();
 }
 
 void CTableStore::Overwrite(const std::vector<std::size_t>& arRows, const std::vector<CDbValue>& arRow) {

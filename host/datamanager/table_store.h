@@ -23,7 +23,9 @@ public:
     /// Whether rows of the key stood in the table at the beginning.
     [[nodiscard]] bool Holds(const std::string& strKey) const { return m_mapStored.contains(strKey); }
     /// Inserts the row, or writes its values over the stored ones of that key. arRow has the kind's columns.
+    /// New rows are all in the table after Flush.
     void Put(const std::string& strKey, const std::vector<CDbValue>& arRow);
+    void Flush();
 
 private:
     void ReadStored(const CImportKind& kind);

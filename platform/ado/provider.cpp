@@ -1,16 +1,25 @@
 #include "platform/ado/provider.h"
 
 #include <array>
+#include <charconv>
 
 #include "platform/ado/error.h"
+#include "platform/ado/odbc_provider.h"
 #include "platform/ado/sqlite_provider.h"
 #include "platform/ado/text.h"
 
 namespace {
-std::array<const CDbProvider*, 1> Providers() {
-    return {&SqliteProvider()};
+std::array<const CDbProvider*, 2> Providers() {
+    return {&SqliteProvider(), &OdbcProvider()};
 }
 } // namespace
+
+int LockTimeout(const CConnectionText& text) {
+    const std::string strTimeout = text.Value("Lock Timeout");
+    int nTimeout = kLockTimeout;
+    std::from_chars(strTimeout.data(), strTimeout.data() + strTimeout.size(), nTimeout);
+    return nTimeout;
+}
 
 std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection) {
     const CConnectionText text(strConnection);

@@ -20,6 +20,11 @@ public:
 
     /// Runs it with these values for its parameters; failures throw CDbError, and it can be run again.
     virtual void Execute(std::span<const CDbValue> arParameters) = 0;
+    /// Runs it with these values now or with later ones in one go, which is quicker where every run is a way
+    /// to a server; at the latest Flush runs it. What fails may so be told by a later call, and rows are not
+    /// seen before Flush.
+    virtual void Queue(std::span<const CDbValue> arParameters) { Execute(arParameters); }
+    virtual void Flush() {}
 };
 
 /// An open database. Statements and values are GBK, in the suite's SQL dialect; `?` stands for a parameter.
@@ -47,9 +52,20 @@ public:
     virtual void CommitTransaction() = 0;
     virtual void RollbackTransaction() = 0;
 
+    /// Puts into the database what it needs to understand the suite's dialect, if it is not there; for
+    /// whoever lays out its tables, in the same transaction. Nothing where the functions come with the
+    /// connection.
+    virtual void LayOutDialect() {}
+
     [[nodiscard]] std::unique_ptr<CDbCursor> Query(std::string_view strSql) { return Query(strSql, {}); }
     std::int64_t Execute(std::string_view strSql) { return Execute(strSql, {}); }
 };
+
+/// How long a statement waits for another program's lock, in ms, unless its connection text says otherwise.
+inline constexpr int kLockTimeout = 10000;
+
+/// The wait of a connection text: its key `Lock Timeout`, in ms, else kLockTimeout.
+int LockTimeout(const CConnectionText& text);
 
 /// A kind of database.
 class CDbProvider {
@@ -64,7 +80,7 @@ public:
     [[nodiscard]] virtual std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const = 0;
 };
 
-/// Opens the database that a connection text names: `Provider=SQLite;Data Source=/path/file.db`; SQLite is
-/// meant where no provider is named. Throws CDbError when the provider is unknown or its database cannot be
-/// had. Never creates a database.
+/// Opens the database that a connection text names: `Provider=SQLite;Data Source=/path/file.db` or
+/// `Provider=ODBC;<what a driver manager takes>`; SQLite is meant where no provider is named. Throws CDbError
+/// when the provider is unknown or its database cannot be had. Never creates a database.
 std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection);

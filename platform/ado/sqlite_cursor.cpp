@@ -1,13 +1,12 @@
 #include "platform/ado/sqlite_cursor.h"
 
 #include <array>
-#include <cstdio>
 #include <utility>
 
+#include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
 #include "platform/ado/sql_dialect.h"
 #include "platform/ado/text.h"
-#include "platform/windows/code_page.h"
 
 namespace {
 
@@ -46,30 +45,6 @@ std::string Utf8Name(const char* pszName) {
     return pszName ? pszName : std::string();
 }
 
-/// A name for messages and look-up; one that the code page lacks is never asked for.
-std::string GbkName(const std::string& strUtf8) {
-    std::string strGbk;
-    Utf8ToGbk(strUtf8, &strGbk);
-    return strGbk;
-}
-
-std::string Quoted(const std::string& strName) {
-    std::string strQuoted = "\"";
-    for (const char c : strName)
-        strQuoted.append(c == '"' ? 2 : 1, c);
-    return strQuoted + '"';
-}
-
-/// "U+1F600" of a character in UTF-8.
-std::string CodePointName(std::string_view strCharacter) {
-    std::size_t nPosition = 0;
-    char32_t character = 0xFFFD;
-    if (!strCharacter.empty()) NextUtf8(strCharacter, &nPosition, &character);
-    std::array<char, 16> szName{};
-    std::snprintf(szName.data(), szName.size(), "U+%04X", static_cast<unsigned>(character));
-    return szName.data();
-}
-
 } // namespace
 
 CSqliteCursor::CSqliteCursor(CSqliteHandle pDatabase, std::string_view strSqlUtf8,
@@ -83,7 +58,7 @@ CSqliteCursor::CSqliteCursor(CSqliteHandle pDatabase, std::string_view strSqlUtf
 }
 
 CSqliteStatement CSqliteCursor::Prepared(std::string_view strSql) {
-    if (const auto strWithRow = WithRowNumber(strSql)) {
+    if (const auto strWithRow = WithHiddenColumns(strSql, "rowid")) {
         sqlite3_stmt* pStatement = nullptr;
         const int nResult = sqlite3_prepare_v2(m_pDatabase.get(), strWithRow->data(),
                                                static_cast<int>(strWithRow->size()), &pStatement, nullptr);
@@ -103,12 +78,12 @@ void CSqliteCursor::ReadColumns(sqlite3_stmt* pStatement) {
     std::vector<CDbColumn> arColumns;
     for (int i = 0; i < nColumns; ++i) {
         m_arOrigins.push_back(Utf8Name(sqlite3_column_origin_name(pStatement, i)));
-        arColumns.push_back({GbkName(Utf8Name(sqlite3_column_name(pStatement, i))),
+        arColumns.push_back({NameFromUtf8(Utf8Name(sqlite3_column_name(pStatement, i))),
                              DeclaredType(sqlite3_column_decltype(pStatement, i))});
         if (m_strTableUtf8.empty()) m_strTableUtf8 = Utf8Name(sqlite3_column_table_name(pStatement, i));
     }
     if (m_bRowNumbers) m_strRowNumber = Utf8Name(sqlite3_column_origin_name(pStatement, nColumns));
-    m_strTable = GbkName(m_strTableUtf8);
+    m_strTable = NameFromUtf8(m_strTableUtf8);
     SetColumns(std::move(arColumns));
 }
 
@@ -144,13 +119,8 @@ std::string CSqliteCursor::ReadText(sqlite3_stmt* pStatement, int nColumn) const
     const auto* pText = reinterpret_cast<const char*>(sqlite3_column_text(pStatement, nColumn));
     const auto nBytes = static_cast<std::size_t>(sqlite3_column_bytes(pStatement, nColumn));
     const std::string_view strUtf8 = pText ? std::string_view(pText, nBytes) : std::string_view();
-    std::string strGbk;
-    std::string strRefused;
-    if (Utf8ToGbk(strUtf8, &strGbk, &strRefused)) return strGbk;
-    const std::string strColumn = Columns()[static_cast<std::size_t>(nColumn)].m_strName;
-    throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
-                   m_strTable + "." + strColumn + ": character " + CodePointName(strRefused) +
-                       " is not in the system code page");
+    return TextFromUtf8(strUtf8, m_strTable, Columns()[static_cast<std::size_t>(nColumn)].m_strName,
+                        "SQLite");
 }
 
 void CSqliteCursor::RequireOneTable() const {
@@ -168,7 +138,7 @@ std::string CSqliteCursor::WrittenName(const CDbChange& change) const {
     const std::string& strOrigin = m_arOrigins[change.m_nColumn];
     if (strOrigin.empty())
         throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite", "a computed column cannot be written");
-    return Quoted(strOrigin);
+    return QuotedName(strOrigin);
 }
 
 void CSqliteCursor::RunOnRow(const std::string& strSql, const std::vector<CDbChange>& arChanges,
@@ -189,7 +159,7 @@ void CSqliteCursor::WriteRow(std::size_t nRow, const std::vector<CDbChange>& arC
     std::int64_t nRowNumber = RowNumber(nRow);
     std::string strSql;
     for (const CDbChange& change : arChanges) {
-        strSql += (strSql.empty() ? "UPDATE " + Quoted(m_strTableUtf8) + " SET " : ",") +
+        strSql += (strSql.empty() ? "UPDATE " + QuotedName(m_strTableUtf8) + " SET " : ",") +
                   WrittenName(change) + "=?";
         const auto* pNumber = std::get_if<std::int64_t>(&change.m_value);
         if (pNumber && m_arOrigins[change.m_nColumn] == m_strRowNumber) nRowNumber = *pNumber;
@@ -199,7 +169,7 @@ void CSqliteCursor::WriteRow(std::size_t nRow, const std::vector<CDbChange>& arC
 }
 
 void CSqliteCursor::EraseRow(std::size_t nRow) {
-    RunOnRow("DELETE FROM " + Quoted(m_strTableUtf8), {}, nRow);
+    RunOnRow("DELETE FROM " + QuotedName(m_strTableUtf8), {}, nRow);
 }
 
 void CSqliteCursor::AddRow(const std::vector<CDbChange>& arChanges) {
@@ -212,7 +182,7 @@ void CSqliteCursor::AddRow(const std::vector<CDbChange>& arChanges) {
     }
     const std::string strValues =
         arChanges.empty() ? " DEFAULT VALUES" : "(" + strNames + ") VALUES(" + strPlaces + ")";
-    CSqliteStatement statement(m_pDatabase, "INSERT INTO " + Quoted(m_strTableUtf8) + strValues);
+    CSqliteStatement statement(m_pDatabase, "INSERT INTO " + QuotedName(m_strTableUtf8) + strValues);
     int nPlace = 0;
     for (const CDbChange& change : arChanges)
         statement.Bind(++nPlace, change.m_value);
@@ -233,9 +203,9 @@ bool CSqliteCursor::ReadRowAgain(std::size_t nRow) {
 CSqliteStatement CSqliteCursor::RowReader(std::int64_t nRowNumber) const {
     std::string strSql = "SELECT ";
     for (const std::string& strOrigin : m_arOrigins)
-        strSql += (strOrigin.empty() ? "NULL" : Quoted(strOrigin)) + ",";
+        strSql += (strOrigin.empty() ? "NULL" : QuotedName(strOrigin)) + ",";
     CSqliteStatement statement(m_pDatabase,
-                               strSql + "rowid FROM " + Quoted(m_strTableUtf8) + " WHERE rowid=?");
+                               strSql + "rowid FROM " + QuotedName(m_strTableUtf8) + " WHERE rowid=?");
     statement.Bind(1, nRowNumber);
     return statement;
 }

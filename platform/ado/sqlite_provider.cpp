@@ -1,25 +1,17 @@
 #include "platform/ado/sqlite_provider.h"
 
-#include <charconv>
-
+#include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
 #include "platform/ado/sql_dialect.h"
 #include "platform/ado/sqlite_cursor.h"
 #include "platform/ado/sqlite_pool.h"
 #include "platform/ado/sqlite_statement.h"
-#include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 
 namespace {
 
-constexpr int kLockTimeout = 10000; // ms
-
 std::string EngineStatement(std::string_view strSql) {
-    std::string strUtf8;
-    if (!GbkToUtf8(strSql, &strUtf8))
-        throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
-                       "The statement is broken: its bytes are no characters.");
-    return TranslateDialect(strUtf8);
+    return TranslateDialect(StatementToUtf8(strSql, "SQLite"));
 }
 
 class CSqlitePrepared : public CDbStatement {
@@ -105,10 +97,7 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "SQLite"; }
 
     [[nodiscard]] std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const override {
-        const std::string strTimeout = text.Value("Lock Timeout");
-        int nTimeout = kLockTimeout;
-        std::from_chars(strTimeout.data(), strTimeout.data() + strTimeout.size(), nTimeout);
-        return OpenFile(text.Value("Data Source"), SQLITE_OPEN_READWRITE, nTimeout);
+        return OpenFile(text.Value("Data Source"), SQLITE_OPEN_READWRITE, LockTimeout(text));
     }
 };
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
 #include "platform/windows/code_page.h"
 
@@ -18,10 +19,7 @@ sqlite3_stmt* Prepare(sqlite3* pDatabase, std::string_view strSql) {
 }
 
 int BindText(sqlite3_stmt* pStatement, int nPlace, const std::string& strGbk) {
-    std::string strUtf8;
-    if (!GbkToUtf8(strGbk, &strUtf8))
-        throw CDbError(DbFailure::NotInCodePage, 0, "SQLite",
-                       "a text is broken: its bytes are no characters");
+    const std::string strUtf8 = ValueToUtf8(strGbk, "SQLite");
     return sqlite3_bind_text64(pStatement, nPlace, strUtf8.data(), strUtf8.size(), SQLITE_TRANSIENT,
                                SQLITE_UTF8);
 }

@@ -2,6 +2,7 @@
 // values.
 
 #include "tests/support/programs.h"
+#include "tests/support/test_database.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,10 +32,12 @@ std::vector<std::string> SetNames() {
 /// A project with the readings of one set, running.
 class CRoad {
 public:
-    explicit CRoad(const std::string& strSet) {
+    /// In a database of the project's own, or in the one that strConnect names.
+    explicit CRoad(const std::string& strSet, const std::string& strConnect = "") {
+        setenv("CONNECT", strConnect.c_str(), 1);
         const std::string strFolder = TERVO_TEST_DATA "/readings/" + strSet;
         m_program.Do("init \"$ROOT\"");
-        m_program.Do("new --root \"$ROOT\" --number GC1 --name test");
+        m_program.Do("new --root \"$ROOT\" --number GC1 --name test --connect \"$CONNECT\"");
         m_program.Do("import --root \"$ROOT\" --number GC1 " + strFolder + "/samples.csv " + strFolder +
                      "/layers.csv " + strFolder + "/readings.csv");
         m_program.Do("open --root \"$ROOT\" --number GC1");
@@ -60,6 +63,14 @@ public:
     CProgram m_program;
     std::string m_strZKBH, m_strQYBH;
 };
+
+/// In a database that another tool could have made.
+class RoadOnEngine : public testing::TestWithParam<TestEngine> {
+protected:
+    CTestDatabase m_database{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, RoadOnEngine, TestEngines(), TestEngineName);
 
 class RoadOfSet : public testing::TestWithParam<std::string> {};
 
@@ -236,6 +247,33 @@ TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
               std::string::npos)
         << run.m_strOut;
     EXPECT_EQ(road.Dump()["modelSpace"].size(), 1U); // the chart stays
+    EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
+}
+
+TEST_P(RoadOnEngine, LeadsToTheSameValuesAndChart) {
+    const auto outcome = [](const std::string& strConnect) {
+        CRoad road("smith-exc4.4", strConnect);
+        EXPECT_EQ(road.Generate("DUMP " + road.File("sheet.json") + "\n").m_nStatus, 0);
+        const CJson listed = CJson::parse(road.m_program.Do("list --root \"$ROOT\" --json"));
+        return CJson({road.Results(), listed, road.Dump()["modelSpace"][0]["fields"]});
+    };
+    const CJson here = outcome(m_database.ConnectionText());
+    EXPECT_EQ(here, outcome("")); // in a database of its own
+    EXPECT_EQ(here[0][0]["CDC"], 11.03);
+    EXPECT_EQ(here[0][0]["CDF"], 17.35);
+}
+
+TEST_P(RoadOnEngine, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
+    CRoad road("smith-exc4.4", m_database.ConnectionText() + ";Lock Timeout=200");
+    const auto pOther = m_database.Connect();
+    pOther->BeginTransaction();
+    pOther->Execute("UPDATE z_c_SanZhou SET SYRQ = 'held'");
+    const CRun run = road.Generate("");
+    pOther->RollbackTransaction();
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    EXPECT_NE(run.m_strOut.find("z_c_SanZhou 1 1-1: locked by another program, row not stored"),
+              std::string::npos)
+        << run.m_strOut;
     EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
 }
 

@@ -2,21 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "host/datamanager/failure.h"
 #include "host/datamanager/layout.h"
 #include "host/datamanager/transaction.h"
-#include "platform/ado/sqlite_provider.h"
 #include "tests/support/programs.h"
+#include "tests/support/test_database.h"
 
 namespace {
 
 const std::string kReadingHeader =
     "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
 
-class Import : public testing::Test {
+class Import : public testing::TestWithParam<TestEngine> {
 protected:
-    Import()
-        : m_pDatabase(CreateSqliteDatabase(m_folder.Path("project.db"))) {
+    Import() {
         CDbTransaction transaction(*m_pDatabase);
         LayOutTables(*m_pDatabase, ProjectTables());
         transaction.Commit();
@@ -52,13 +54,16 @@ protected:
     std::string Rows(const std::string& strSql) { return RowsText(*m_pDatabase->Query(strSql)); }
 
     CTempFolder m_folder;
-    std::shared_ptr<CDbConnection> m_pDatabase;
+    CTestDatabase m_database{GetParam()};
+    std::shared_ptr<CDbConnection> m_pDatabase = m_database.Connect();
     std::string m_strReport;
 };
 
+INSTANTIATE_TEST_SUITE_P(Engines, Import, TestEngines(), TestEngineName);
+
 } // namespace
 
-TEST_F(Import, BringsInReadingsWithTheProjectsIndex) {
+TEST_P(Import, BringsInReadingsWithTheProjectsIndex) {
     const CImportCounts counts =
         Run({kReadingHeader + "ZK1,1-1,1,1,50,75,37.492,1,0,-0.01,1e-05,0,0,0,2\r\n" +
              "ZK1,1-1,1,2,50,75,37.492,1,0,21.9305,19.3625,0,0,0,-128\n"});
@@ -70,7 +75,7 @@ TEST_F(Import, BringsInReadingsWithTheProjectsIndex) {
               "7|ZK1|1-1|1|2|50|75|37.492|1|0|21.9305|19.3625|0|0|0|-128\n");
 }
 
-TEST_F(Import, TakesColumnsInAnyOrder) {
+TEST_P(Import, TakesColumnsInAnyOrder) {
     Run({"\xEF\xBB\xBF"
          "TCMC,TCHD,ZKBH,TCCDSD\n" +
          Utf8(u8"\"细砂, 松散\"") + ",7,ZK1,15\n"});
@@ -78,7 +83,7 @@ TEST_F(Import, TakesColumnsInAnyOrder) {
     EXPECT_EQ(Rows("SELECT * FROM z_g_TuCeng"), Utf8(u8"7|ZK1|15|7|细砂, 松散\n"));
 }
 
-TEST_F(Import, PutsTheMethodOfASampleIntoItsOwnTable) {
+TEST_P(Import, PutsTheMethodOfASampleIntoItsOwnTable) {
     const CImportCounts counts =
         Run({Utf8(u8"ZKBH,QYBH,SYFF,QYSD,QYLX\nZK1,1-1,固结排水剪,2,255\nZK1,1-2,,,\n")});
     EXPECT_EQ(m_strReport, "");
@@ -88,13 +93,13 @@ TEST_F(Import, PutsTheMethodOfASampleIntoItsOwnTable) {
               Utf8(u8"7|ZK1|1-1|固结排水剪|-|-|-|-|-|-|-|-|-\n7|ZK1|1-2|-|-|-|-|-|-|-|-|-|-\n"));
 }
 
-TEST_F(Import, WarnsOfAnUnknownMethodAndTakesIt) {
+TEST_P(Import, WarnsOfAnUnknownMethodAndTakesIt) {
     Run({"ZKBH,QYBH,SYFF\nZK1,1-1,CD\n"});
     EXPECT_EQ(m_strReport, "warning: 1.csv:2: SYFF: unknown test method \"CD\"\n");
     EXPECT_EQ(Rows("SELECT SYFF FROM z_c_SanZhou"), "CD\n");
 }
 
-TEST_F(Import, NamesEachRefusedFieldAndImportsNothing) {
+TEST_P(Import, NamesEachRefusedFieldAndImportsNothing) {
     const CImportCounts counts = Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,clay\nZK1,nan,,sand\n,8,4x,\n",
                                       "ZKBH,QYBH,SYFF,QYLX\nZK1,1-1,,256\nZK1,1-2,,1.0\nZK1,1-3,,0\n"});
     EXPECT_EQ(m_strReport,
@@ -111,13 +116,13 @@ TEST_F(Import, NamesEachRefusedFieldAndImportsNothing) {
     EXPECT_EQ(Rows("SELECT * FROM z_c_SanZhou"), "");
 }
 
-TEST_F(Import, NamesTheCharacterThatTheCodePageLacks) {
+TEST_P(Import, NamesTheCharacterThatTheCodePageLacks) {
     Run({Utf8(u8"ZKBH,TCCDSD,TCHD,TCMC\nZK𠀀,4,4,clay\nZK1,5,4,€é\n") + "ZK1,6,4,\xFF\n"});
     EXPECT_EQ(m_strReport, Utf8(u8"1.csv:2: ZKBH: \"𠀀\" (U+20000) is not in code page 936\n") +
                                "1.csv:4: TCMC: the bytes are no UTF-8\n");
 }
 
-TEST_F(Import, CountsTheBytesOfATextInTheCodePage) {
+TEST_P(Import, CountsTheBytesOfATextInTheCodePage) {
     std::string strLongest;
     for (int i = 0; i < 127; ++i)
         strLongest += Utf8(u8"砂");
@@ -128,7 +133,7 @@ TEST_F(Import, CountsTheBytesOfATextInTheCodePage) {
     EXPECT_EQ(m_strReport, "1.csv:2: TCMC: the text has 256 bytes in code page 936, more than 255\n");
 }
 
-TEST_F(Import, RefusesAHeaderWithUnknownDoubleOrMissingColumns) {
+TEST_P(Import, RefusesAHeaderWithUnknownDoubleOrMissingColumns) {
     Run({"ZKBH,TCCDSD,TCMC,TCMC,GCSY\n"});
     EXPECT_EQ(m_strReport, "1.csv:1: TCMC: the column stands twice\n"
                            "1.csv:1: GCSY: unknown column in a file of layers\n"
@@ -142,20 +147,20 @@ TEST_F(Import, RefusesAHeaderWithUnknownDoubleOrMissingColumns) {
     EXPECT_EQ(m_strReport, "1.csv:1: header: the file is empty\n");
 }
 
-TEST_F(Import, RefusesLinesWithTooFewOrTooManyFields) {
+TEST_P(Import, RefusesLinesWithTooFewOrTooManyFields) {
     Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4\nZK1,4,4,clay,more\n"});
     EXPECT_EQ(m_strReport, "1.csv:2: TCHD: the line ends before this field\n"
                            "1.csv:3: 5: the line has more fields than the header\n");
 }
 
-TEST_F(Import, RefusesAKeyThatStandsTwice) {
+TEST_P(Import, RefusesAKeyThatStandsTwice) {
     Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,clay\nZK1,8,4,sand\nZK1,4.0,3,silt\n"}, true);
     EXPECT_EQ(m_strReport, "1.csv:4: TCCDSD: the same key stands in 1.csv:2\n");
     Run({"ZKBH,QYBH,SYFF\nZK1,1-1,\n", "QYBH,ZKBH,SYFF\n1-1,ZK1,\n"}, true);
     EXPECT_EQ(m_strReport, "2.csv:2: QYBH: the same key stands in 1.csv:2\n");
 }
 
-TEST_F(Import, RefusesAKeyThatIsStoredUnlessItShallBeReplaced) {
+TEST_P(Import, RefusesAKeyThatIsStoredUnlessItShallBeReplaced) {
     const std::string strFirst =
         kReadingHeader + "ZK1,1-1,1,1,50,75,37,1,0,1,1,0,0,0,0\nZK1,1-1,1,2,50,75,37,1,0,2,2,0,0,0,0\n";
     const std::string strSecond =
@@ -170,14 +175,14 @@ TEST_F(Import, RefusesAKeyThatIsStoredUnlessItShallBeReplaced) {
               "1|50|1|0\n2|60|3|1\n3|60|4|1\n");
 }
 
-TEST_F(Import, KeepsRowsOfOtherProjects) {
+TEST_P(Import, KeepsRowsOfOtherProjects) {
     m_pDatabase->Execute("INSERT INTO z_c_QuYang (GCSY,ZKBH,QYBH,QYSD) VALUES (8,'ZK1','1-1',5)");
     Run({"ZKBH,QYBH,SYFF,QYSD\nZK1,1-1,,3\n"});
     EXPECT_EQ(m_strReport, "");
     EXPECT_EQ(Rows("SELECT GCSY, QYSD FROM z_c_QuYang ORDER BY GCSY"), "7|3\n8|5\n");
 }
 
-TEST_F(Import, NeverTouchesDateAndValuesOfASample) {
+TEST_P(Import, NeverTouchesDateAndValuesOfASample) {
     m_pDatabase->Execute("INSERT INTO z_c_SanZhou VALUES (7,'ZK1','1-1','old','2024.3.9',1,2,3,4,5,6,7,8)");
     Run({"ZKBH,QYBH,SYFF\nZK1,1-1,new\n"}, true);
     EXPECT_EQ(Rows("SELECT * FROM z_c_SanZhou"), "7|ZK1|1-1|new|2024.3.9|1|2|3|4|5|6|7|8\n");
@@ -185,13 +190,13 @@ TEST_F(Import, NeverTouchesDateAndValuesOfASample) {
     EXPECT_EQ(Rows("SELECT * FROM z_c_SanZhou"), "7|ZK1|1-1|-|2024.3.9|1|2|3|4|5|6|7|8\n");
 }
 
-TEST_F(Import, KeepsWhatWasStoredWhenAReplacingImportIsRefused) {
+TEST_P(Import, KeepsWhatWasStoredWhenAReplacingImportIsRefused) {
     Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,clay\n"});
     Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,sand\nZK1,x,4,sand\n"}, true);
     EXPECT_EQ(Rows("SELECT TCMC FROM z_g_TuCeng"), "clay\n");
 }
 
-TEST_F(Import, FailsForAFileThatCannotBeRead) {
+TEST_P(Import, FailsForAFileThatCannotBeRead) {
     CImportReport report(stderr);
     try {
         ImportFiles(*m_pDatabase, 7, {m_folder.Path("none.csv")}, false, &report);
@@ -200,4 +205,46 @@ TEST_F(Import, FailsForAFileThatCannotBeRead) {
         EXPECT_EQ(failure.Status(), ExitStatus::NoAccess);
     }
     EXPECT_THROW(ImportFiles(*m_pDatabase, 7, {m_folder.Path()}, false, &report), CFailure);
+}
+
+TEST_P(Import, TakesManyRowsAndReplacesThem) {
+    constexpr int nRows = 1234;
+    const auto text = [](const char* pszValues) {
+        std::string strText = kReadingHeader;
+        for (int i = 1; i <= nRows; ++i)
+            strText += "ZK1,1-1,1," + std::to_string(i) + pszValues;
+        return strText;
+    };
+    EXPECT_EQ(Run({text(",50,75,37,1,0,1,0.5,0,0,0,0\n")}).m_nReadings, static_cast<std::size_t>(nRows));
+    EXPECT_EQ(Rows("SELECT COUNT(*), MIN(SHJHXH), MAX(SHJHXH), SUM(ZXBX) FROM z_c_SanZhouCSXM"),
+              "1234|1|1234|617\n");
+    EXPECT_EQ(Run({text(",50,75,37,1,0,1,2,0,0,0,1\n")}, true).m_nReadings, static_cast<std::size_t>(nRows));
+    EXPECT_EQ(Rows("SELECT COUNT(*), SUM(ZXBX), SUM(JLLX) FROM z_c_SanZhouCSXM"), "1234|2468|1234\n");
+}
+
+TEST_P(Import, FindsKeysInColumnsOfAnyNumberType) {
+    m_pDatabase->Execute("DROP TABLE z_c_SanZhouCSXM");
+    m_pDatabase->Execute(
+        "CREATE TABLE z_c_SanZhouCSXM (GCSY numeric(10), ZKBH varchar(9), QYBH varchar(9), "
+        "SJBH double precision, SHJHXH numeric(10), WY real, SYGD real, SYZJ real, CLHXS real, "
+        "GJKXYL real, CLHDS real, ZXBX real, JQPS real, KXYL real, GJPS real, JLLX smallint)");
+    const std::string strText = kReadingHeader + "ZK1,1-1,1,2,50,75,37,1,0,1,1,0,0,0,0\n";
+    EXPECT_EQ(Run({strText}).m_nReadings, 1U);
+    Run({strText});
+    EXPECT_EQ(m_strReport, "1.csv:2: SHJHXH: a row of this key is stored already\n");
+}
+
+TEST_P(Import, OneOfTwoAtOnceWaitsForTheOther) {
+    const auto pOther = m_database.Connect();
+    CDbTransaction other(*pOther);
+    pOther->Execute("INSERT INTO z_g_TuCeng VALUES (7,'ZK1',4,4,'clay')");
+    std::jthread commit([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        other.Commit();
+    });
+    Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,sand\n"});
+    commit.join();
+    EXPECT_EQ(m_strReport,
+              "1.csv:2: TCCDSD: a row of this key is stored already\n"); // it read after the wait
+    EXPECT_EQ(Rows("SELECT TCMC FROM z_g_TuCeng"), "clay\n");
 }

@@ -3,26 +3,32 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/programs.h"
+#include "tests/support/test_database.h"
 
 namespace {
 
-class List : public testing::Test {
+class List : public testing::TestWithParam<TestEngine> {
 protected:
     List() {
+        setenv("CONNECT", m_database.ConnectionText().c_str(), 1);
         m_program.Do("init \"$ROOT\"");
-        m_program.Do(Utf8(u8"new --root \"$ROOT\" --number G1 --name 演示 --standard 2"));
+        m_program.Do(
+            Utf8(u8"new --root \"$ROOT\" --number G1 --name 演示 --standard 2 --connect \"$CONNECT\""));
     }
     void Import(const std::string& strText) {
         const std::string strFile = m_program.Folder().Write("import.csv", strText);
         m_program.Do("import --root \"$ROOT\" --number G1 '" + strFile + "'");
     }
 
+    CTestDatabase m_database{GetParam()};
     CProgram m_program;
 };
 
+INSTANTIATE_TEST_SUITE_P(Engines, List, TestEngines(), TestEngineName);
+
 } // namespace
 
-TEST_F(List, ShowsSamplesOfAllTablesInNaturalOrder) {
+TEST_P(List, ShowsSamplesOfAllTablesInNaturalOrder) {
     Import(Utf8(u8"ZKBH,QYBH,SYFF\nA1,1,固结排水剪\n10,2,\n9,10,固结排水剪\n9,2,固结排水剪\n"));
     Import("ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n"
            "9,10,1,1,50,75,37,1,0,1,1,0,0,0,0\n9,10,1,2,50,75,37,1,0,1,1,0,0,0,0\n9,9,1,1,50,75,37,1,0,1,1,0,"
@@ -44,7 +50,7 @@ TEST_F(List, ShowsSamplesOfAllTablesInNaturalOrder) {
                                                           u8"  A1    1     固结排水剪  0\n"));
 }
 
-TEST_F(List, MarksTheRunningProject) {
+TEST_P(List, MarksTheRunningProject) {
     m_program.Do("new --root \"$ROOT\" --number G2 --name x");
     m_program.Do("open --root \"$ROOT\" --number G2");
     const std::string strList = m_program.Do("list --root \"$ROOT\" --json");
@@ -57,9 +63,14 @@ TEST_F(List, MarksTheRunningProject) {
         << strList;
 }
 
-TEST_F(List, TellsOfADatabaseThatCannotBeReadAndListsTheOthers) {
+TEST_P(List, TellsOfADatabaseThatCannotBeReadAndListsTheOthers) {
     m_program.Do("new --root \"$ROOT\" --number G2 --name x");
-    std::filesystem::remove(m_program.Root() + "/Projects/G1/project.db");
+    // 9, one of the well-known ports, on which no database answers
+    EXPECT_EQ(m_program
+                  .Shell("sed -i -e 's|project\\.db|missing.db|' -e 's|Port=[0-9]*|Port=9|' "
+                         "\"$ROOT/Projects/G1/project.ini\"")
+                  .m_nStatus,
+              0);
     const CRun run = m_program.Tvdata("list --root \"$ROOT\" --json");
     EXPECT_EQ(run.m_nStatus, 4);
     EXPECT_NE(run.m_strErrors.find("tvdata: G1: "), std::string::npos) << run.m_strErrors;
@@ -67,13 +78,13 @@ TEST_F(List, TellsOfADatabaseThatCannotBeReadAndListsTheOthers) {
     EXPECT_NE(run.m_strOut.find("\"GCBH\":\"G2\""), std::string::npos) << run.m_strOut;
 }
 
-TEST_F(List, IsEmptyWithoutProjects) {
+TEST_P(List, IsEmptyWithoutProjects) {
     std::filesystem::remove_all(m_program.Root() + "/Projects/G1");
     EXPECT_EQ(m_program.Do("list --root \"$ROOT\" --json"), "{\"projects\":[]}\n");
     EXPECT_EQ(m_program.Do("list --root \"$ROOT\""), "");
 }
 
-TEST_F(List, TakesTheRootOfTheEnvironment) {
+TEST_P(List, TakesTheRootOfTheEnvironment) {
     EXPECT_EQ(m_program.Shell("TERVO_ROOT=\"$ROOT\" $T list").m_strOut,
               Utf8(u8"G1 演示 (GCSY 1, GCBZ 2)\n  ZKBH  QYBH  SYFF  readings\n"));
     EXPECT_EQ(m_program.Shell("XDG_DATA_HOME=\"$ROOT\" $T list").m_nStatus, 4);

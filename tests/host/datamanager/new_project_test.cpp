@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <cstdlib>
+
+#include "platform/ado/error.h"
+#include "platform/windows/code_page.h"
 #include "tests/support/programs.h"
+#include "tests/support/test_database.h"
 
 namespace {
 
@@ -12,6 +18,25 @@ protected:
 
     CProgram m_program;
 };
+
+/// Projects in a database that several installations share.
+class NewInShared : public testing::TestWithParam<TestEngine> {
+protected:
+    NewInShared() {
+        m_program.Do("init \"$ROOT\"");
+        m_program.Do("init \"$ROOT/../other\"");
+        setenv("CONNECT", m_database.ConnectionText().c_str(), 1);
+    }
+    /// Rows of the shared database.
+    [[nodiscard]] std::string Sql(const std::string& strSql) const {
+        return RowsText(*m_database.Connect()->Query(strSql));
+    }
+
+    CTestDatabase m_database{GetParam()};
+    CProgram m_program;
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, NewInShared, TestEngines(), TestEngineName);
 
 } // namespace
 
@@ -63,51 +88,99 @@ TEST_F(New, NamesACharacterThatTheCodePageLacks) {
     EXPECT_FALSE(std::filesystem::exists(m_program.Root() + "/Projects/A"));
 }
 
-TEST_F(New, JoinsAProjectThatStandsInTheDatabase) {
+TEST_P(NewInShared, LaysOutTheTablesInTheOrderOfTheSuite) {
+    m_program.Do("new --root \"$ROOT\" --number A --name one --connect \"$CONNECT\"");
+    const auto columns = [&](const std::string& strTable) {
+        const auto pRows = m_database.Connect()->Query("SELECT * FROM " + strTable);
+        std::string strNames;
+        for (const CDbColumn& column : pRows->Columns())
+            strNames += (strNames.empty() ? "" : " ") + column.m_strName;
+        for (char& c : strNames)
+            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        return strNames;
+    };
+    EXPECT_EQ(columns("z_c_SanZhou"), "GCSY ZKBH QYBH SYFF SYRQ UUC UUF CUC CUF CUCE CUFE CDC CDF");
+    EXPECT_EQ(columns("z_c_SanZhouCSXM"),
+              "GCSY ZKBH QYBH SJBH SHJHXH WY SYGD SYZJ CLHXS GJKXYL CLHDS ZXBX JQPS "
+              "KXYL GJPS JLLX");
+    EXPECT_EQ(columns("z_c_QuYang"), "GCSY ZKBH QYBH QYSD QYHD QYHSL QYLX QYSY QYYX");
+    EXPECT_EQ(columns("z_g_TuCeng"), "GCSY ZKBH TCCDSD TCHD TCMC");
+    EXPECT_EQ(columns("x_GongCheng"), "GCSY GCBH GCMC GCBZ GCSJ");
+    EXPECT_EQ(Sql(GetParam() == TestEngine::Sqlite
+                      ? "SELECT lower(tbl_name) FROM sqlite_master WHERE type = 'index' ORDER BY 1"
+                      : "SELECT tablename FROM pg_indexes WHERE schemaname = 'public' AND indexdef LIKE "
+                        "'%(gcsy, zkbh, qybh)' ORDER BY 1"),
+              "z_c_quyang\nz_c_sanzhou\nz_c_sanzhoucsxm\n");
+    EXPECT_EQ(Sql("SELECT val('12A'), isnumeric(left('9',1)), 'a'+'b'"), "12|-1|ab\n");
+}
+
+TEST_P(NewInShared, JoinsAProjectThatStandsInTheDatabase) {
     m_program.Do("new --root \"$ROOT\" --number A --name one");
-    m_program.Do("init \"$ROOT/../other\"");
     m_program.Do("new --root \"$ROOT/../other\" --number P --name first");
-    const std::string strConnect = " --connect \"Provider=SQLite;Data Source=$ROOT/../shared.db\"";
-    EXPECT_EQ(m_program.Do("new --root \"$ROOT\" --number S --name shared --standard 7" + strConnect), "2\n");
-    EXPECT_EQ(m_program.Do("new --root \"$ROOT/../other\" --number S --name elsewhere" + strConnect), "2\n");
-    const std::string strIni = m_program.Folder().Read("other/Projects/S/project.ini");
-    EXPECT_NE(strIni.find("GCSY=2\nGCBH=S\nGCMC=shared\nGCBZ=7\n"), std::string::npos) << strIni;
-    EXPECT_EQ(m_program.Sql("../shared.db", "SELECT GCSY, GCBH, GCMC, GCBZ FROM x_GongCheng"),
-              "2|S|shared|7\n");
+    EXPECT_EQ(m_program.Do(Utf8(u8"new --root \"$ROOT\" --number S --name 共有 --standard 7 --connect "
+                                u8"\"$CONNECT\"")),
+              "2\n");
+    EXPECT_EQ(
+        m_program.Do("new --root \"$ROOT/../other\" --number S --name elsewhere --connect \"$CONNECT\""),
+        "2\n");
+    const std::string strIni = ToUtf8(m_program.Folder().Read("other/Projects/S/project.ini"));
+    EXPECT_NE(strIni.find(Utf8(u8"GCSY=2\nGCBH=S\nGCMC=共有\nGCBZ=7\n")), std::string::npos) << strIni;
+    EXPECT_EQ(Sql("SELECT GCSY, GCBH, GCMC, GCBZ FROM x_GongCheng"), Utf8(u8"2|S|共有|7\n"));
     EXPECT_FALSE(std::filesystem::exists(m_program.Root() + "/Projects/S/project.db"));
 }
 
-TEST_F(New, RefusesToJoinWithAnIndexThatIsUsedHere) {
-    const std::string strConnect = " --connect \"Provider=SQLite;Data Source=$ROOT/../shared.db\"";
-    m_program.Do("new --root \"$ROOT\" --number S --name shared" + strConnect);
-    m_program.Do("init \"$ROOT/../other\"");
+TEST_P(NewInShared, RefusesToJoinWithAnIndexThatIsUsedHere) {
+    m_program.Do("new --root \"$ROOT\" --number S --name shared --connect \"$CONNECT\"");
     m_program.Do("new --root \"$ROOT/../other\" --number P --name first");
-    const CRun run = m_program.Tvdata("new --root \"$ROOT/../other\" --number S --name x" + strConnect);
+    const CRun run =
+        m_program.Tvdata("new --root \"$ROOT/../other\" --number S --name x --connect \"$CONNECT\"");
     EXPECT_EQ(run.m_nStatus, 1);
     EXPECT_NE(run.m_strErrors.find("S has index 1 in the database"), std::string::npos) << run.m_strErrors;
     EXPECT_FALSE(std::filesystem::exists(m_program.Folder().Path("other/Projects/S")));
 }
 
-TEST_F(New, CountsTheIndicesOfADatabaseThatIsShared) {
-    const std::string strConnect = " --connect \"Provider=SQLite;Data Source=$ROOT/../shared.db\"";
-    m_program.Do("init \"$ROOT/../other\"");
-    EXPECT_EQ(m_program.Do("new --root \"$ROOT/../other\" --number P --name x" + strConnect), "1\n");
+TEST_P(NewInShared, CountsTheIndicesOfADatabaseThatIsShared) {
+    EXPECT_EQ(m_program.Do("new --root \"$ROOT/../other\" --number P --name x --connect \"$CONNECT\""),
+              "1\n");
     EXPECT_EQ(m_program.Do("new --root \"$ROOT\" --number A --name x"), "1\n");
-    EXPECT_EQ(m_program.Do("new --root \"$ROOT\" --number Q --name x" + strConnect), "2\n");
+    EXPECT_EQ(m_program.Do("new --root \"$ROOT\" --number Q --name x --connect \"$CONNECT\""), "2\n");
 }
 
-TEST_F(New, KeepsTablesThatAreThere) {
-    const std::string strFile = m_program.Root() + "/../own.db";
-    EXPECT_EQ(m_program
-                  .Shell("sqlite3 '" + strFile +
-                         "' \"CREATE TABLE z_g_TuCeng (GCSY, ZKBH, TCCDSD, TCHD, TCMC, more); "
-                         "INSERT INTO z_g_TuCeng VALUES (5,'K',1,1,'clay','x')\"")
-                  .m_nStatus,
-              0);
-    m_program.Do(
-        "new --root \"$ROOT\" --number A --name x --connect \"Provider=SQLite;Data Source=" + strFile + "\"");
-    EXPECT_EQ(m_program.Sql("../own.db", "SELECT * FROM z_g_TuCeng"), "5|K|1|1|clay|x\n");
-    EXPECT_EQ(m_program.Sql("../own.db", "SELECT COUNT(*) FROM z_c_QuYang"), "0\n");
+TEST_P(NewInShared, KeepsTablesThatAreThere) {
+    const auto pDatabase = m_database.Connect();
+    pDatabase->Execute("CREATE TABLE z_g_TuCeng (GCSY integer, ZKBH varchar(9), TCCDSD real, TCHD real, TCMC "
+                       "varchar(9), more varchar(9))");
+    pDatabase->Execute("INSERT INTO z_g_TuCeng VALUES (5,'K',1,1,'clay','x')");
+    m_program.Do("new --root \"$ROOT\" --number A --name x --connect \"$CONNECT\"");
+    EXPECT_EQ(Sql("SELECT * FROM z_g_TuCeng"), "5|K|1|1|clay|x\n");
+    EXPECT_EQ(Sql("SELECT COUNT(*) FROM z_c_QuYang"), "0\n");
+}
+
+TEST_P(NewInShared, LeavesNothingBehindWhereItIsRefused) {
+    const auto pDatabase = m_database.Connect();
+    pDatabase->Execute("CREATE TABLE x_GongCheng (GCSY integer, GCBH varchar(9))");
+    const CRun run = m_program.Tvdata("new --root \"$ROOT\" --number A --name x --connect \"$CONNECT\"");
+    EXPECT_EQ(run.m_nStatus, 4);
+    EXPECT_FALSE(std::filesystem::exists(m_program.Root() + "/Projects/A"));
+    EXPECT_THROW((void)Sql("SELECT COUNT(*) FROM z_c_QuYang"), CDbError); // made, and undone
+}
+
+TEST_F(New, SaysInOneLineWhyADriversDatabaseCannotBeHad) {
+    const auto refused = [&](const std::string& strConnect, const std::string& strReason) {
+        const CRun run = m_program.Tvdata(
+            "new --root \"$ROOT\" --number A --name x --connect 'Provider=ODBC;" + strConnect + "'");
+        EXPECT_EQ(run.m_nStatus, 4);
+        EXPECT_TRUE(run.m_strErrors.starts_with("tvdata: There is no connection to ")) << run.m_strErrors;
+        EXPECT_EQ(run.m_strErrors.find('\n'), run.m_strErrors.size() - 1) << run.m_strErrors;
+        EXPECT_NE(run.m_strErrors.find(strReason), std::string::npos) << run.m_strErrors;
+        EXPECT_EQ(run.m_strErrors.find("hidden"), std::string::npos) << run.m_strErrors;
+        EXPECT_FALSE(std::filesystem::exists(m_program.Root() + "/Projects/A"));
+    };
+    const std::string strServer = "Server=127.0.0.1;Port=9;Database=gc1;Uid=me;Pwd=hidden";
+    refused("Driver=PostgreSQL Unicode;" + strServer, "the database gc1 on 127.0.0.1:9: ");
+    refused("Driver=PostgreSQL Unicode;" + strServer, "Connection refused");
+    refused("Driver=No Such Driver;" + strServer, "No Such Driver");
+    refused("DSN=nowhere;Pwd=hidden", "the data source nowhere: Data source name not found");
 }
 
 TEST_F(New, UsesTheDatabaseThatTheInstallationNamesForEveryProject) {

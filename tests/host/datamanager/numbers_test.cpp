@@ -47,3 +47,18 @@ TEST(ShortestFloat, IsTheShortestTextThatReadsBack) {
     EXPECT_EQ(ShortestFloat(16777216.0F), "16777216");
     EXPECT_EQ(ShortestFloat(-std::numeric_limits<float>::quiet_NaN()), "nan");
 }
+
+TEST(CellNumber, TakesAnyKindOfCell) {
+    EXPECT_EQ(CellNumber(std::int64_t{3}), 3.0);
+    EXPECT_EQ(CellNumber(2.5), 2.5);
+    EXPECT_EQ(CellNumber(std::string_view("7")), 0.0);
+    EXPECT_EQ(CellNumber({}), 0.0);
+}
+
+TEST(CellWhole, TakesWholeNumbersOfAnyKind) {
+    EXPECT_EQ(CellWhole(std::int64_t{9007199254740993}), 9007199254740993);
+    EXPECT_EQ(CellWhole(-3.0), -3);
+    EXPECT_EQ(CellWhole(2.5), 0);
+    EXPECT_EQ(CellWhole(1e300), 0);
+    EXPECT_EQ(CellWhole({}), 0);
+}

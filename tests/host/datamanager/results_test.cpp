@@ -4,16 +4,15 @@
 
 #include "host/datamanager/layout.h"
 #include "host/datamanager/schema.h"
-#include "platform/ado/sqlite_provider.h"
 #include "platform/windows/code_page.h"
 #include "tests/support/programs.h"
+#include "tests/support/test_database.h"
 
 namespace {
 
-class Results : public testing::Test {
+class Results : public testing::TestWithParam<TestEngine> {
 protected:
-    Results()
-        : m_pDatabase(CreateSqliteDatabase(m_folder.Path("project.db"))) {
+    Results() {
         LayOutTables(*m_pDatabase, ProjectTables());
         // Values as the suite stores them: 4-byte floats widened.
         m_pDatabase->Execute(
@@ -24,13 +23,15 @@ protected:
             "(3,'ZK9','2',NULL,'',NULL,NULL,NULL,NULL,NULL,NULL,NULL,NULL)");
     }
 
-    CTempFolder m_folder;
-    std::shared_ptr<CDbConnection> m_pDatabase;
+    CTestDatabase m_database{GetParam()};
+    std::shared_ptr<CDbConnection> m_pDatabase = m_database.Connect();
 };
+
+INSTANTIATE_TEST_SUITE_P(Engines, Results, TestEngines(), TestEngineName);
 
 } // namespace
 
-TEST_F(Results, AreCsvWithTheShortestNumbersInNaturalOrder) {
+TEST_P(Results, AreCsvWithTheShortestNumbersInNaturalOrder) {
     EXPECT_EQ(ResultsText(*m_pDatabase, 3, ResultForm::Csv),
               Utf8(u8"ZKBH,QYBH,SYFF,SYRQ,UUC,UUF,CUC,CUF,CUCE,CUFE,CDC,CDF\n"
                    u8"ZK9,2,,,,,,,,,,\n"
@@ -38,7 +39,7 @@ TEST_F(Results, AreCsvWithTheShortestNumbersInNaturalOrder) {
                    u8"ZK10,1,固结不排水剪,2024.3.9,,,12.35,20,0.1,-1.5,,\n"));
 }
 
-TEST_F(Results, AreAListOfObjectsInJson) {
+TEST_P(Results, AreAListOfObjectsInJson) {
     EXPECT_EQ(
         ResultsText(*m_pDatabase, 3, ResultForm::Json),
         Utf8(u8"[\n"
@@ -55,7 +56,7 @@ TEST_F(Results, AreAListOfObjectsInJson) {
     EXPECT_EQ(ResultsText(*m_pDatabase, 99, ResultForm::Json), "[\n]\n");
 }
 
-TEST_F(Results, AreAlignedForPeople) {
+TEST_P(Results, AreAlignedForPeople) {
     EXPECT_EQ(ResultsText(*m_pDatabase, 3, ResultForm::Aligned),
               Utf8(u8"ZKBH  QYBH  SYFF          SYRQ      UUC  UUF  CUC    CUF  CUCE  CUFE  CDC    CDF\n"
                    u8"ZK9   2\n"

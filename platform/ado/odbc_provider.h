@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/ado/provider.h"
+
+/// Every database that an ODBC driver reaches: `Provider=ODBC;<what a driver manager takes>`, such as
+/// `Provider=ODBC;Driver=PostgreSQL Unicode;Server=127.0.0.1;Database=gc1;Uid=me;Pwd=secret`. All keys but
+/// `Provider` and `Lock Timeout` are handed on as they stand. A statement waits up to 10 s for another
+/// program's lock, or as many milliseconds as key `Lock Timeout` says, where the engine is known
+/// (OdbcEngine); so are rows told apart for storing.
+const CDbProvider& OdbcProvider();

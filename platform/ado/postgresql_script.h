@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string_view>
+
+/// The text of postgresql.sql.
+std::string_view PostgresqlScript();
