@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/windows/descriptor.h"
 
@@ -19,10 +19,15 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// The file that a link leads to; the path itself where there is none yet.
+/// Where a path leads over links, also to a file that is not there yet.
 std::string LinkTarget(const std::string& path) {
-    std::array<char, PATH_MAX> real = {};
-    return realpath(path.c_str(), real.data()) ? std::string(real.data()) : path;
+    constexpr int MOST_LINKS = 40;
+    namespace fs = std::filesystem;
+    fs::path target = path;
+    std::error_code error;
+    for (int i = 0; i < MOST_LINKS && fs::is_symlink(fs::symlink_status(target, error)); ++i)
+        target = target.parent_path() / fs::read_symlink(target, error);
+    return target.string();
 }
 
 /// Gives the new file what the one it replaces had: its mode and, as far as this user may, its owner. A file

@@ -54,6 +54,17 @@ TEST(WriteFileWhole, WritesBehindALink) {
     EXPECT_EQ(read, "y");
 }
 
+TEST(WriteFileWhole, MakesTheFileThatALinkLeadsTo) {
+    const CTempFolder folder;
+    std::filesystem::create_directory(folder.Path("there"));
+    std::filesystem::create_symlink("there/second", folder.Path("first"));
+    std::filesystem::create_symlink("a.txt", folder.Path("there/second"));
+    ASSERT_TRUE(WriteFileWhole(folder.Path("first"), "y"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("first")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("there/second")));
+    EXPECT_EQ(folder.Read("there/a.txt"), "y");
+}
+
 TEST(WriteFileWhole, FailsAndLeavesTheOldWhenTheTargetIsAFolder) {
     const CTempFolder folder;
     std::filesystem::create_directory(folder.Path("sub"));
