@@ -6,10 +6,7 @@
 #include "platform/windows/code_page.h"
 
 std::string DatabasePlace(const std::string& strConnection) {
-    const CConnectionText text(strConnection);
-    const std::string strFile = text.Value("Data Source");
-    if (!strFile.empty()) return ToUtf8(strFile);
-    return ToUtf8(CConnectionText(text.Without("Pwd")).Without("Password"));
+    return ToUtf8(CConnectionText(strConnection).DatabaseName());
 }
 
 CFailure DatabaseFailure(const std::string& strConnection, const CDbError& error) {
@@ -17,5 +14,7 @@ CFailure DatabaseFailure(const std::string& strConnection, const CDbError& error
         error.Failure() == DbFailure::Locked ? "locked by another program" : ToUtf8(error.what());
     std::ranges::replace_if(
         strWhat, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    return {ExitStatus::NoAccess, DatabasePlace(strConnection) + ": " + strWhat};
+    const std::string strPlace = DatabasePlace(strConnection);
+    const bool bNamed = strWhat.find(strPlace) != std::string::npos;
+    return {ExitStatus::NoAccess, bNamed ? strWhat : strPlace + ": " + strWhat};
 }

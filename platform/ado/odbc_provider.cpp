@@ -66,18 +66,6 @@ private:
     COdbcHandle m_pLink;
 };
 
-/// What a message calls the database; never the text itself, which may hold a password.
-std::string DatabaseName(const CConnectionText& text) {
-    const std::string strSource = text.Value("DSN");
-    if (!strSource.empty()) return "the data source " + strSource;
-    std::string strName = "the database " + text.Value("Database");
-    const std::string strServer =
-        text.Value("Server").empty() ? text.Value("Servername") : text.Value("Server");
-    if (!strServer.empty()) strName += " on " + strServer;
-    if (!text.Value("Port").empty()) strName += ":" + text.Value("Port");
-    return strName;
-}
-
 class COdbcProvider : public CDbProvider {
 public:
     [[nodiscard]] std::string_view Name() const override { return kSource; }
@@ -92,7 +80,7 @@ public:
             pLink = std::make_shared<COdbcLink>(StatementToUtf8(strDriver, kSource));
         } catch (const CDbError& error) {
             throw CDbError(error.Failure(), error.Code(), kSource,
-                           "There is no connection to " + DatabaseName(text) + ": " + error.what());
+                           "There is no connection to " + text.DatabaseName() + ": " + error.what());
         }
         const std::string strOpening = pLink->Engine().Opening(LockTimeout(text));
         if (!strOpening.empty()) COdbcStatement(pLink).Run(strOpening, {});
