@@ -3,10 +3,14 @@
 #include <algorithm>
 
 #include "platform/ado/connection_text.h"
+#include "platform/ado/odbc_provider.h"
 #include "platform/windows/code_page.h"
 
 std::string DatabasePlace(const std::string& strConnection) {
-    return ToUtf8(CConnectionText(strConnection).DatabaseName());
+    const CConnectionText text(strConnection);
+    const std::string strFile = text.Value("Data Source");
+    if (!strFile.empty()) return ToUtf8(strFile);
+    return ToUtf8(OdbcPlace(text));
 }
 
 CFailure DatabaseFailure(const std::string& strConnection, const CDbError& error) {
@@ -15,6 +19,6 @@ CFailure DatabaseFailure(const std::string& strConnection, const CDbError& error
     std::ranges::replace_if(
         strWhat, [](char c) { return c == '\n' || c == '\r'; }, ' ');
     const std::string strPlace = DatabasePlace(strConnection);
-    const bool bNamed = strWhat.find(strPlace) != std::string::npos;
-    return {ExitStatus::NoAccess, bNamed ? strWhat : strPlace + ": " + strWhat};
+    if (!strWhat.starts_with(strPlace)) strWhat.insert(0, strPlace + ": ");
+    return {ExitStatus::NoAccess, strWhat};
 }

@@ -5,7 +5,7 @@
 #include "host/datamanager/failure.h"
 #include "platform/ado/error.h"
 
-/// What messages call a database, UTF-8.
+/// Where a database is, for messages, UTF-8: its file, else its name and server; never a password.
 std::string DatabasePlace(const std::string& strConnection);
 
 /// A database's failure as the program's: where it is and what is wrong, on one line.

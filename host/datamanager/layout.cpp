@@ -7,7 +7,7 @@
 namespace {
 
 /// Type names that every engine knows; there is no common name for one byte.
-std::string_view SqlType(ColumnKind kind) {
+std::string_view SqlType(const CDbConnection& database, ColumnKind kind) {
     switch (kind) {
     case ColumnKind::Int32:
         return "INTEGER";
@@ -16,18 +16,18 @@ std::string_view SqlType(ColumnKind kind) {
     case ColumnKind::UInt8:
         return "SMALLINT";
     case ColumnKind::Float:
-        return "REAL";
+        return database.RealType();
     case ColumnKind::Text:
         break;
     }
     return "VARCHAR(255)";
 }
 
-std::string CreateStatement(const CTable& table) {
+std::string CreateStatement(const CDbConnection& database, const CTable& table) {
     std::string strColumns;
     for (const CColumn& column : table.m_arColumns) {
         if (!strColumns.empty()) strColumns += ", ";
-        strColumns.append(column.m_strName).append(" ").append(SqlType(column.m_kind));
+        strColumns.append(column.m_strName).append(" ").append(SqlType(database, column.m_kind));
     }
     return "CREATE TABLE " + std::string(table.m_strName) + " (" + strColumns + ")";
 }
@@ -50,7 +50,7 @@ void LayOutTables(CDbConnection& database, std::span<const CTable* const> arTabl
     database.LayOutDialect();
     for (const CTable* pTable : arTables) {
         if (IsThere(database, *pTable)) continue;
-        database.Execute(CreateStatement(*pTable));
+        database.Execute(CreateStatement(database, *pTable));
         if (!pTable->HasColumn("GCSY") || !pTable->HasColumn("ZKBH") || !pTable->HasColumn("QYBH")) continue;
         const std::string strTable(pTable->m_strName);
         std::string strIndex = "CREATE INDEX IF NOT EXISTS i_" + strTable;

@@ -61,14 +61,3 @@ std::string CConnectionText::Without(std::string_view strKey) const {
     }
     return strRest;
 }
-
-std::string CConnectionText::DatabaseName() const {
-    if (const std::string strFile = Value("Data Source"); !strFile.empty()) return strFile;
-    if (const std::string strSource = Value("DSN"); !strSource.empty()) return "the data source " + strSource;
-    std::string strName = "the database";
-    if (const std::string strDatabase = Value("Database"); !strDatabase.empty()) strName += " " + strDatabase;
-    const std::string strServer = Value("Server").empty() ? Value("Servername") : Value("Server");
-    if (!strServer.empty()) strName += " on " + strServer;
-    if (const std::string strPort = Value("Port"); !strPort.empty()) strName += ":" + strPort;
-    return strName;
-}

@@ -17,10 +17,6 @@ public:
     /// Everything but the key named, in order, as a connection text: what is handed on to a driver.
     [[nodiscard]] std::string Without(std::string_view strKey) const;
 
-    /// What messages call the database: its file, else its data source or name and server; nothing that may
-    /// be a secret.
-    [[nodiscard]] std::string DatabaseName() const;
-
 private:
     struct CPair {
         std::string m_strKey;

@@ -56,6 +56,8 @@ public:
         if (!asked.Fetch()) COdbcStatement(m_pLink).Run(engine.DialectScript(), {});
     }
 
+    [[nodiscard]] std::string_view RealType() const override { return "DOUBLE PRECISION"; }
+
 private:
     [[nodiscard]] std::string EngineStatement(std::string_view strSql) const {
         std::string strStatement = m_pLink->Engine().Statement(StatementToUtf8(strSql, kSource));
@@ -79,8 +81,7 @@ public:
         try {
             pLink = std::make_shared<COdbcLink>(StatementToUtf8(strDriver, kSource));
         } catch (const CDbError& error) {
-            throw CDbError(error.Failure(), error.Code(), kSource,
-                           "There is no connection to " + text.DatabaseName() + ": " + error.what());
+            throw CDbError(error.Failure(), error.Code(), kSource, OdbcPlace(text) + ": " + error.what());
         }
         const std::string strOpening = pLink->Engine().Opening(LockTimeout(text));
         if (!strOpening.empty()) COdbcStatement(pLink).Run(strOpening, {});
@@ -89,6 +90,18 @@ public:
 };
 
 } // namespace
+
+std::string OdbcPlace(const CConnectionText& text) {
+    const std::string strSource = text.Value("DSN");
+    if (!strSource.empty()) return "data source " + strSource;
+    std::string strPlace = "database";
+    if (!text.Value("Database").empty()) strPlace += " " + text.Value("Database");
+    const std::string strServer =
+        text.Value("Server").empty() ? text.Value("Servername") : text.Value("Server");
+    if (!strServer.empty()) strPlace += " on " + strServer;
+    if (!text.Value("Port").empty()) strPlace += ":" + text.Value("Port");
+    return strPlace;
+}
 
 const CDbProvider& OdbcProvider() {
     static const COdbcProvider s_provider;

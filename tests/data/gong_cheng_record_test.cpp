@@ -4,10 +4,11 @@
 #include "tests/support/suite_fixture.h"
 
 namespace {
-class GongChengRecord : public CSuiteTest {};
+class GongChengRecord : public CSuiteEngineTest {};
+INSTANTIATE_TEST_SUITE_P(Engines, GongChengRecord, TestEngines(), TestEngineName);
 } // namespace
 
-TEST_F(GongChengRecord, BindsItsFiveColumns) {
+TEST_P(GongChengRecord, BindsItsFiveColumns) {
     Execute("insert into x_GongCheng values(0,'GC-1','某工程',-5,1700000000)");
     CGongChengRecord record;
     ASSERT_TRUE(record.OpenRows(record.QueryFor(ProjectCriterion(0)), 0, 1));
@@ -19,7 +20,7 @@ TEST_F(GongChengRecord, BindsItsFiveColumns) {
     EXPECT_EQ(record.m_nGCSJ, 1700000000);
 }
 
-TEST_F(GongChengRecord, TakesColumnsWithoutStatusAsZeroWhereTheyAreNull) {
+TEST_P(GongChengRecord, TakesColumnsWithoutStatusAsZeroWhereTheyAreNull) {
     Execute("insert into x_GongCheng values(1,'GC-1',NULL,NULL,NULL)");
     CGongChengRecord record;
     ASSERT_TRUE(record.OpenRows(record.QueryFor(ProjectCriterion(1)), 0, 1));

@@ -13,7 +13,7 @@
 
 namespace {
 
-class RecordAccessor : public CSuiteTest {
+class RecordAccessor : public CSuiteEngineTest {
 protected:
     template <class Record>
     static int Open(Record& record, const CString& strCriterion) {
@@ -21,9 +21,15 @@ protected:
     }
 };
 
+/// Over an engine whose database is a file.
+class RecordAccessorOnFile : public RecordAccessor {};
+
+INSTANTIATE_TEST_SUITE_P(Engines, RecordAccessorOnFile, testing::Values(TestEngine::Sqlite), TestEngineName);
+INSTANTIATE_TEST_SUITE_P(Engines, RecordAccessor, TestEngines(), TestEngineName);
+
 } // namespace
 
-TEST_F(RecordAccessor, PutsTheCriterionIntoTheTablesQuery) {
+TEST_P(RecordAccessor, PutsTheCriterionIntoTheTablesQuery) {
     EXPECT_EQ(CSanZhouRecord().QueryFor("GCSY = 1"),
               CString("SELECT * FROM z_c_SanZhou WHERE GCSY > -1 and GCSY = 1;"));
     EXPECT_EQ(CSanZhouCSXMRecord().QueryFor("a"),
@@ -40,7 +46,7 @@ TEST_F(RecordAccessor, PutsTheCriterionIntoTheTablesQuery) {
               CString("SELECT GCSY,GCBH,GCMC,GCBZ,GCSJ FROM x_GongCheng WHERE GCSY > -1 and GCBH = '%s%d';"));
 }
 
-TEST_F(RecordAccessor, ReadsRowByRowToTheEnd) {
+TEST_P(RecordAccessor, ReadsRowByRowToTheEnd) {
     Execute("insert into x_GongCheng values(1,'A','甲',1,2),(2,'B','乙',3,4)");
     CGongChengRecord record;
     ASSERT_TRUE(Open(record, "GCSY > 0 ORDER BY GCSY"));
@@ -54,21 +60,21 @@ TEST_F(RecordAccessor, ReadsRowByRowToTheEnd) {
     EXPECT_NE(record.MoveNextRow(), 0);
 }
 
-TEST_F(RecordAccessor, AnEmptyTableOpensAndHasNoRow) {
+TEST_P(RecordAccessor, AnEmptyTableOpensAndHasNoRow) {
     CGongChengRecord record;
     ASSERT_TRUE(Open(record, "GCSY = 1"));
     EXPECT_NE(record.MoveFirstRow(), 0);
     EXPECT_LT(record.StoreRow(), 0);
 }
 
-TEST_F(RecordAccessor, LeavesOutRowsOfNoProject) {
+TEST_P(RecordAccessor, LeavesOutRowsOfNoProject) {
     Execute("insert into x_GongCheng values(-1,'A','',0,0)");
     CGongChengRecord record;
     ASSERT_TRUE(Open(record, "GCSY = -1"));
     EXPECT_NE(record.MoveFirstRow(), 0);
 }
 
-TEST_F(RecordAccessor, FindsNumbersWithAnApostrophe) {
+TEST_P(RecordAccessor, FindsNumbersWithAnApostrophe) {
     Execute(
         "insert into z_c_SanZhou(GCSY,ZKBH,QYBH,SYFF) values(1,'O''K','''','固结不排水剪'),(1,'OK','1','x')");
     CSanZhouRecord record;
@@ -78,7 +84,7 @@ TEST_F(RecordAccessor, FindsNumbersWithAnApostrophe) {
     EXPECT_NE(record.MoveNextRow(), 0);
 }
 
-TEST_F(RecordAccessor, MayBeClosedTwiceAndOpenedAgain) {
+TEST_P(RecordAccessor, MayBeClosedTwiceAndOpenedAgain) {
     Execute("insert into x_GongCheng values(1,'A','',0,0)");
     CGongChengRecord record;
     record.CloseRows();
@@ -90,7 +96,7 @@ TEST_F(RecordAccessor, MayBeClosedTwiceAndOpenedAgain) {
     EXPECT_EQ(record.MoveFirstRow(), 0);
 }
 
-TEST_F(RecordAccessor, KeepsTextsOf255BytesAndCutsLongerOnesAtACharacter) {
+TEST_P(RecordAccessor, KeepsTextsOf255BytesAndCutsLongerOnesAtACharacter) {
     const std::string strFull(255, 'x');
     std::string strLong = "a";
     for (int i = 0; i < 130; ++i)
@@ -103,7 +109,7 @@ TEST_F(RecordAccessor, KeepsTextsOf255BytesAndCutsLongerOnesAtACharacter) {
     EXPECT_EQ(std::string(record.m_szGCMC), strLong.substr(0, 255));
 }
 
-TEST_F(RecordAccessor, DoesNotOpenWithoutProjectTableOrDatabase) {
+TEST_P(RecordAccessor, DoesNotOpenWithoutProjectTableOrDatabase) {
     CGongChengRecord record;
     EXPECT_EQ(record.OpenRows("SELECT nonsense", 0, 1), 0);
     Execute("drop table x_GongCheng");
@@ -115,7 +121,7 @@ TEST_F(RecordAccessor, DoesNotOpenWithoutProjectTableOrDatabase) {
     EXPECT_TRUE(m_arBoxes.empty()); // the caller reports
 }
 
-TEST_F(RecordAccessor, DoesNotOpenATruncatedDatabase) {
+TEST_P(RecordAccessorOnFile, DoesNotOpenATruncatedDatabase) {
     for (int i = 0; i < 200; ++i)
         Execute("insert into x_GongCheng values(1,'" + std::string(200, 'x') + "','',0,0)");
     m_pDatabase.reset();
@@ -126,7 +132,7 @@ TEST_F(RecordAccessor, DoesNotOpenATruncatedDatabase) {
     EXPECT_EQ(Open(record, "GCSY = 1"), 0);
 }
 
-TEST_F(RecordAccessor, DoesNotOpenATableWithFewerColumns) {
+TEST_P(RecordAccessor, DoesNotOpenATableWithFewerColumns) {
     Execute("drop table z_c_SanZhou");
     Execute("create table z_c_SanZhou(GCSY integer, ZKBH text, QYBH text)");
     Execute("insert into z_c_SanZhou values(1,'a','b')");
@@ -134,7 +140,7 @@ TEST_F(RecordAccessor, DoesNotOpenATableWithFewerColumns) {
     EXPECT_EQ(Open(record, "GCSY = 1"), 0);
 }
 
-TEST_F(RecordAccessor, DoesNotStoreWhenOpenedForReadingOnly) {
+TEST_P(RecordAccessor, DoesNotStoreWhenOpenedForReadingOnly) {
     Execute("insert into x_GongCheng values(1,'A','',0,0)");
     CGongChengRecord record;
     ASSERT_TRUE(record.OpenRows(record.QueryFor("GCSY = 1"), 0, 0));

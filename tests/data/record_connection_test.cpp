@@ -24,7 +24,31 @@ protected:
     }
 };
 
+/// The project's database on a server.
+class RecordConnectionToServer : public CSuiteEngineTest {};
+
+INSTANTIATE_TEST_SUITE_P(Engines, RecordConnectionToServer, testing::Values(TestEngine::Postgresql),
+                         TestEngineName);
+
 } // namespace
+
+TEST_P(RecordConnectionToServer, OutlivesAServerThatGoesAwayAndComesBack) {
+    Execute("insert into x_GongCheng values(1,'GC','一',0,0)");
+    CGongChengRecord record;
+    ASSERT_TRUE(record.OpenRows(record.QueryFor("GCSY = 1"), 0, 1));
+    ASSERT_EQ(record.MoveFirstRow(), 0);
+    m_database.Break();
+    record.m_nGCBZ = 5;
+    EXPECT_LT(record.StoreRow(), 0);
+    ASSERT_EQ(m_arLines.size(), 1U);
+    EXPECT_TRUE(m_arLines[0].starts_with("x_GongCheng: ")) << m_arLines[0];
+    ASSERT_TRUE(record.OpenRows(record.QueryFor("GCSY = 1"), 0, 1));
+    ASSERT_EQ(record.MoveFirstRow(), 0);
+    record.m_nGCBZ = 5;
+    EXPECT_EQ(record.StoreRow(), 0);
+    m_pDatabase = m_database.Connect();
+    EXPECT_EQ(Query("select GCMC, GCBZ from x_GongCheng"), "一|5");
+}
 
 TEST_F(RecordConnection, GoesToTheProjectThatRunsNow) {
     MakeProject("one.db", "一");

@@ -10,7 +10,7 @@
 
 namespace {
 
-class SanZhouCSXMRecord : public CSuiteTest {
+class SanZhouCSXMRecord : public CSuiteEngineTest {
 protected:
     void Insert(const std::string& strHole, const std::string& strSample) {
         m_pDatabase->Execute("insert into z_c_SanZhouCSXM(GCSY,ZKBH,QYBH) values(1,?,?)",
@@ -33,9 +33,11 @@ std::tuple<int, double, std::string> Key(const std::string& strName) {
             std::string(255 - strName.size(), '0') + strName};
 }
 
+INSTANTIATE_TEST_SUITE_P(Engines, SanZhouCSXMRecord, TestEngines(), TestEngineName);
+
 } // namespace
 
-TEST_F(SanZhouCSXMRecord, BindsItsSixteenColumnsByPosition) {
+TEST_P(SanZhouCSXMRecord, BindsItsSixteenColumnsByPosition) {
     Execute("insert into z_c_SanZhouCSXM values(1,'ZK1','1-1',2,3,100,80,39.1,1.5,10,20,30,0.25,40,0.5,-2)");
     CSanZhouCSXMRecord record;
     ASSERT_TRUE(record.OpenRows(record.QueryFor(ReadingsCriterion(1, "ZK1", "1-1")), 0, 1));
@@ -49,7 +51,7 @@ TEST_F(SanZhouCSXMRecord, BindsItsSixteenColumnsByPosition) {
     EXPECT_EQ(record.m_nJLLX, -2);
 }
 
-TEST_F(SanZhouCSXMRecord, ReadsASamplesReadingsSpecimenBySpecimen) {
+TEST_P(SanZhouCSXMRecord, ReadsASamplesReadingsSpecimenBySpecimen) {
     Execute("insert into z_c_SanZhouCSXM(GCSY,ZKBH,QYBH,SJBH,SHJHXH) values(1,'K','1',2,1),(1,'K','1',1,10),"
             "(1,'K','1',1,9),(2,'K','1',1,1),(1,'K','2',1,1)");
     CSanZhouCSXMRecord record;
@@ -60,7 +62,7 @@ TEST_F(SanZhouCSXMRecord, ReadsASamplesReadingsSpecimenBySpecimen) {
     EXPECT_EQ(arRead, (std::vector<std::pair<int, int>>{{1, 9}, {1, 10}, {2, 1}}));
 }
 
-TEST_F(SanZhouCSXMRecord, ListsBoreholesAndSamplesInNaturalOrder) {
+TEST_P(SanZhouCSXMRecord, ListsBoreholesAndSamplesInNaturalOrder) {
     const CTexts arNames = {"9", "10",  "A1", "ZK1", "ZK10", "1-2", "1-10",
                             "2", "K'1", "a1", "B",   "ZK9",  "1A"};
     std::vector<std::pair<std::string, std::string>> arPairs;
@@ -82,7 +84,7 @@ TEST_F(SanZhouCSXMRecord, ListsBoreholesAndSamplesInNaturalOrder) {
     EXPECT_EQ(Listed(OpenDialogListCriterion(1)), arExpected);
 }
 
-TEST_F(SanZhouCSXMRecord, ListsOneBoreholesSamplesWithAnApostropheInItsNumber) {
+TEST_P(SanZhouCSXMRecord, ListsOneBoreholesSamplesWithAnApostropheInItsNumber) {
     for (const char* pszSample : {"10", "A1", "9", "1-2"})
         Insert("K'1", pszSample);
     Insert("K1", "1");

@@ -1,12 +1,11 @@
 #include "data/san_zhou_record.h"
 
 #include "data/criteria.h"
-#include "tests/platform/ado/locking_process.h"
 #include "tests/support/suite_fixture.h"
 
 namespace {
 
-class SanZhouRecord : public CSuiteTest {
+class SanZhouRecord : public CSuiteEngineTest {
 protected:
     void Insert(const std::string& strValues) {
         Execute("insert into z_c_SanZhou values(" + strValues + ")");
@@ -30,11 +29,13 @@ protected:
     }
 };
 
-constexpr const char* kAll = "select * from z_c_SanZhou";
+constexpr const char* kAll = "select * from z_c_SanZhou order by UUC is not null";
+
+INSTANTIATE_TEST_SUITE_P(Engines, SanZhouRecord, TestEngines(), TestEngineName);
 
 } // namespace
 
-TEST_F(SanZhouRecord, BindsItsThirteenColumnsByPosition) {
+TEST_P(SanZhouRecord, BindsItsThirteenColumnsByPosition) {
     Insert("1,'ZK1','1-1','固结不排水剪','2024.3.9',6.5,7.5,8.5,9.5,10.5,11.5,12.5,13.5");
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));
@@ -48,7 +49,7 @@ TEST_F(SanZhouRecord, BindsItsThirteenColumnsByPosition) {
     EXPECT_EQ(arValues, (std::vector<float>{6.5F, 7.5F, 8.5F, 9.5F, 10.5F, 11.5F, 12.5F, 13.5F}));
 }
 
-TEST_F(SanZhouRecord, TellsNullByTheStatusOfEachColumn) {
+TEST_P(SanZhouRecord, TellsNullByTheStatusOfEachColumn) {
     Insert("1,'ZK1','1-1',NULL,NULL,0,NULL,1,NULL,1,NULL,1,NULL");
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));
@@ -61,7 +62,7 @@ TEST_F(SanZhouRecord, TellsNullByTheStatusOfEachColumn) {
     EXPECT_STREQ(record.m_szSYRQ, "");
 }
 
-TEST_F(SanZhouRecord, AStoreErasesTheValuesOfOtherMethods) {
+TEST_P(SanZhouRecord, AStoreErasesTheValuesOfOtherMethods) {
     Insert("1,'ZK1','1-1','固结不排水剪',NULL,1,2,3,NULL,NULL,NULL,7,8");
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));
@@ -73,7 +74,7 @@ TEST_F(SanZhouRecord, AStoreErasesTheValuesOfOtherMethods) {
               CTexts{"1"});
 }
 
-TEST_F(SanZhouRecord, AStoreTouchesOneOfTwoRowsWithEqualKeys) {
+TEST_P(SanZhouRecord, AStoreTouchesOneOfTwoRowsWithEqualKeys) {
     Insert("1,'ZK1','1-1','a',NULL,1,2,3,4,5,6,7,8");
     Insert("1,'ZK1','1-1','a',NULL,1,2,3,4,5,6,7,8");
     CSanZhouRecord record;
@@ -84,7 +85,7 @@ TEST_F(SanZhouRecord, AStoreTouchesOneOfTwoRowsWithEqualKeys) {
               (CTexts{"1|ZK1|1-1|a|2024.3.9|||12.5|20.25|5|28.75||", "1|ZK1|1-1|a||1|2|3|4|5|6|7|8"}));
 }
 
-TEST_F(SanZhouRecord, AStoreKeepsTextsLongerThanTheBuffer) {
+TEST_P(SanZhouRecord, AStoreKeepsTextsLongerThanTheBuffer) {
     const std::string strMethod(300, 'm');
     Insert("1,'ZK1','1-1','" + strMethod + "',NULL,NULL,NULL,NULL,NULL,NULL,NULL,NULL,NULL");
     CSanZhouRecord record;
@@ -94,7 +95,7 @@ TEST_F(SanZhouRecord, AStoreKeepsTextsLongerThanTheBuffer) {
     EXPECT_EQ(Rows("select SYFF,CUC from z_c_SanZhou"), CTexts{strMethod + "|12.5"});
 }
 
-TEST_F(SanZhouRecord, ReadsOtherColumnOrdersSilentlyWrong) {
+TEST_P(SanZhouRecord, ReadsOtherColumnOrdersSilentlyWrong) {
     Execute("drop table z_c_SanZhou");
     Execute("create table z_c_SanZhou(GCSY integer,ZKBH text,QYBH text,SYRQ text,SYFF text,UUF real,UUC "
             "real,CUC text,"
@@ -109,13 +110,13 @@ TEST_F(SanZhouRecord, ReadsOtherColumnOrdersSilentlyWrong) {
     EXPECT_EQ(record.m_dwStatusCUC, DBSTATUS_S_OK);
 }
 
-TEST_F(SanZhouRecord, NamesTheRowThatAnotherProgramsLockKeptFromBeingStored) {
+TEST_P(SanZhouRecord, NamesTheRowThatAnotherProgramsLockKeptFromBeingStored) {
     Insert("1,'ZK1','1-1','a',NULL,1,2,3,4,5,6,7,8");
-    const std::string strConnection = "Provider=SQLite;Lock Timeout=20;Data Source=" + m_strDatabase;
+    const std::string strConnection = m_database.ConnectionText() + ";Lock Timeout=20";
     SetProject("Connect", strConnection.c_str());
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));
-    const CLockingProcess other(m_strDatabase);
+    const CDatabaseLock other(m_database);
     StoreConsolidatedUndrained(record);
     EXPECT_LT(record.StoreRow(), 0);
     EXPECT_EQ(m_arLines, CTexts{"z_c_SanZhou ZK1 1-1: locked by another program, row not stored"});

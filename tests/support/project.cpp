@@ -3,19 +3,21 @@
 #include "data/project_context.h"
 #include "data/sql_text.h"
 #include "platform/ado/report.h"
-#include "platform/ado/sqlite_provider.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
 #include "platform/windows/profile.h"
 
-CTestProject::CTestProject()
-    : m_pDatabase(CreateSqliteDatabase(m_strDatabase)) {
+#include <initializer_list>
+
+CTestProject::CTestProject(TestEngine engine)
+    : m_database(engine, m_root.Path("project.db")) {
     SetInstallationRoot(m_root.Path());
     g_strProjectIni = m_root.Path("Project.ini");
     g_strSettingsIni = m_root.Path("Settings.ini");
     g_strMarksIni = m_root.Path("Marks.ini");
     SetProject("GCSY", "1");
     SetProject("Database", "project.db");
+    if (engine != TestEngine::Sqlite) SetProject("Connect", m_database.ConnectionText().c_str());
     LayOut(*m_pDatabase);
     CMessageBoxHost host;
     host.m_show = [this](HWND, const std::wstring& strText, const std::wstring& strCaption, UINT uStyle) {
@@ -37,19 +39,26 @@ CTestProject::~CTestProject() {
 }
 
 void CTestProject::LayOut(CDbConnection& database) {
+    const std::string strReal(database.RealType());
+    const auto reals = [&](std::initializer_list<const char*> arNames) {
+        std::string strColumns;
+        for (const char* pszName : arNames)
+            strColumns += std::string(",") + pszName + " " + strReal;
+        return strColumns;
+    };
     database.BeginTransaction();
-    for (const char* pszTable :
-         {"z_c_SanZhou(GCSY integer,ZKBH text,QYBH text,SYFF text,SYRQ text,UUC real,UUF real,CUC real,CUF "
-          "real,"
-          "CUCE real,CUFE real,CDC real,CDF real)",
-          "z_c_SanZhouCSXM(GCSY integer,ZKBH text,QYBH text,SJBH integer,SHJHXH integer,WY real,SYGD "
-          "real,SYZJ "
-          "real,CLHXS real,GJKXYL real,CLHDS real,ZXBX real,JQPS real,KXYL real,GJPS real,JLLX tinyint)",
-          "z_c_QuYang(GCSY integer,ZKBH text,QYBH text,QYSD real,QYHD real,QYHSL real,QYLX tinyint,QYSY real,"
-          "QYYX real)",
-          "z_g_TuCeng(GCSY integer,ZKBH text,TCCDSD real,TCHD real,TCMC text)",
-          "x_GongCheng(GCSY integer,GCBH text,GCMC text,GCBZ smallint,GCSJ integer)"})
-        database.Execute(std::string("create table ") + pszTable);
+    database.LayOutDialect();
+    for (const std::string& strTable :
+         {"z_c_SanZhou(GCSY integer,ZKBH text,QYBH text,SYFF text,SYRQ text" +
+              reals({"UUC", "UUF", "CUC", "CUF", "CUCE", "CUFE", "CDC", "CDF"}),
+          "z_c_SanZhouCSXM(GCSY integer,ZKBH text,QYBH text,SJBH integer,SHJHXH integer" +
+              reals({"WY", "SYGD", "SYZJ", "CLHXS", "GJKXYL", "CLHDS", "ZXBX", "JQPS", "KXYL", "GJPS"}) +
+              ",JLLX smallint",
+          "z_c_QuYang(GCSY integer,ZKBH text,QYBH text" + reals({"QYSD", "QYHD", "QYHSL"}) +
+              ",QYLX smallint" + reals({"QYSY", "QYYX"}),
+          "z_g_TuCeng(GCSY integer,ZKBH text" + reals({"TCCDSD", "TCHD"}) + ",TCMC text",
+          std::string("x_GongCheng(GCSY integer,GCBH text,GCMC text,GCBZ smallint,GCSJ integer")})
+        database.Execute("create table " + strTable + ")");
     database.CommitTransaction();
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/ado/provider.h"
 #include "platform/windows/message_box.h"
+#include "tests/support/test_database.h"
 #include "tests/temp_folder.h"
 
 #include <memory>
@@ -15,7 +16,7 @@
 /// Statements are GBK.
 class CTestProject {
 public:
-    CTestProject();
+    explicit CTestProject(TestEngine engine = TestEngine::Sqlite);
     ~CTestProject();
     CTestProject(const CTestProject&) = delete;
     CTestProject& operator=(const CTestProject&) = delete;
@@ -40,8 +41,9 @@ public:
                     double dZXBX, int nJLLX);
 
     CTempFolder m_root;
-    std::string m_strDatabase = m_root.Path("project.db");
-    std::shared_ptr<CDbConnection> m_pDatabase;
+    CTestDatabase m_database;
+    std::string m_strDatabase = m_database.File(); ///< of the embedded engine
+    std::shared_ptr<CDbConnection> m_pDatabase = m_database.Connect();
     std::vector<std::string> m_arBoxes;
     std::string m_strCaption; ///< of the last box
     UINT m_uStyle = 0;

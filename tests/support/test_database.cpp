@@ -1,6 +1,7 @@
 #include "tests/support/test_database.h"
 
 #include <chrono>
+#include <utility>
 
 #include "platform/ado/sqlite_provider.h"
 #include "tests/support/postgresql_server.h"
@@ -13,10 +14,10 @@ std::string TestEngineName(const testing::TestParamInfo<TestEngine>& info) {
     return info.param == TestEngine::Sqlite ? "Sqlite" : "Postgresql";
 }
 
-CTestDatabase::CTestDatabase(TestEngine engine)
+CTestDatabase::CTestDatabase(TestEngine engine, std::string strFile)
     : m_engine(engine) {
     if (engine == TestEngine::Sqlite) {
-        m_strFile = m_folder.Path("project.db");
+        m_strFile = strFile.empty() ? m_folder.Path("project.db") : std::move(strFile);
         m_strConnection = "Provider=SQLite;Data Source=" + m_strFile;
         CreateSqliteDatabase(m_strFile);
     } else {

@@ -26,7 +26,8 @@ std::string TestEngineName(const testing::TestParamInfo<TestEngine>& info);
 /// An empty database of the test's own, removed when the test ends.
 class CTestDatabase {
 public:
-    explicit CTestDatabase(TestEngine engine);
+    /// In a file of that path where the engine is the embedded one, else in one of its own.
+    explicit CTestDatabase(TestEngine engine, std::string strFile = {});
     CTestDatabase(const CTestDatabase&) = delete;
     CTestDatabase& operator=(const CTestDatabase&) = delete;
     ~CTestDatabase();

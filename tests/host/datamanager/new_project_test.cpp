@@ -166,21 +166,21 @@ TEST_P(NewInShared, LeavesNothingBehindWhereItIsRefused) {
 }
 
 TEST_F(New, SaysInOneLineWhyADriversDatabaseCannotBeHad) {
-    const auto refused = [&](const std::string& strConnect, const std::string& strReason) {
+    const auto refused = [&](const std::string& strConnect, const std::string& strPlace,
+                             const std::string& strReason) {
         const CRun run = m_program.Tvdata(
             "new --root \"$ROOT\" --number A --name x --connect 'Provider=ODBC;" + strConnect + "'");
         EXPECT_EQ(run.m_nStatus, 4);
-        EXPECT_TRUE(run.m_strErrors.starts_with("tvdata: There is no connection to ")) << run.m_strErrors;
+        EXPECT_TRUE(run.m_strErrors.starts_with("tvdata: " + strPlace + ": ")) << run.m_strErrors;
         EXPECT_EQ(run.m_strErrors.find('\n'), run.m_strErrors.size() - 1) << run.m_strErrors;
         EXPECT_NE(run.m_strErrors.find(strReason), std::string::npos) << run.m_strErrors;
         EXPECT_EQ(run.m_strErrors.find("hidden"), std::string::npos) << run.m_strErrors;
         EXPECT_FALSE(std::filesystem::exists(m_program.Root() + "/Projects/A"));
     };
     const std::string strServer = "Server=127.0.0.1;Port=9;Database=gc1;Uid=me;Pwd=hidden";
-    refused("Driver=PostgreSQL Unicode;" + strServer, "the database gc1 on 127.0.0.1:9: ");
-    refused("Driver=PostgreSQL Unicode;" + strServer, "Connection refused");
-    refused("Driver=No Such Driver;" + strServer, "No Such Driver");
-    refused("DSN=nowhere;Pwd=hidden", "the data source nowhere: Data source name not found");
+    refused("Driver=PostgreSQL Unicode;" + strServer, "database gc1 on 127.0.0.1:9", "Connection refused");
+    refused("Driver=No Such Driver;" + strServer, "database gc1 on 127.0.0.1:9", "No Such Driver");
+    refused("DSN=nowhere;Pwd=hidden", "data source nowhere", "Data source name not found");
 }
 
 TEST_F(New, UsesTheDatabaseThatTheInstallationNamesForEveryProject) {

@@ -37,12 +37,3 @@ TEST(ConnectionText, IgnoresEmptyPairsAndTakesAKeyWithoutValueAsEmpty) {
     EXPECT_EQ(text.Value("Data Source"), "");
     EXPECT_EQ(text.Without("x"), "Trusted;Data Source=");
 }
-
-TEST(ConnectionText, NamesTheDatabaseWithoutItsSecrets) {
-    const auto name = [](const char* pszText) { return CConnectionText(pszText).DatabaseName(); };
-    EXPECT_EQ(name("Provider=SQLite;Data Source=/a/b.db"), "/a/b.db");
-    EXPECT_EQ(name("DSN=soil;Pwd=hidden"), "the data source soil");
-    EXPECT_EQ(name("Driver=X;Server=127.0.0.1;Port=9;Database=gc1;Uid=me;Pwd=hidden"),
-              "the database gc1 on 127.0.0.1:9");
-    EXPECT_EQ(name("Driver=X;Servername=pg;Database=gc1"), "the database gc1 on pg");
-}

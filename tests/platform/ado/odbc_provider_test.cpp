@@ -40,7 +40,7 @@ TEST_P(OdbcProvider, HandsOnAllThatADriverManagerTakes) {
 
 TEST_P(OdbcProvider, SaysThatAServerIsDown) {
     const std::string strWhy = WhyNotOpened(With("Port", "1"));
-    EXPECT_TRUE(strWhy.starts_with("There is no connection to the database test")) << strWhy;
+    EXPECT_TRUE(strWhy.starts_with("database test")) << strWhy;
     EXPECT_NE(strWhy.find(" on 127.0.0.1:1: "), std::string::npos) << strWhy;
     EXPECT_NE(strWhy.find("Connection refused"), std::string::npos) << strWhy;
 }
@@ -55,14 +55,22 @@ TEST_P(OdbcProvider, SaysThatDriverDataSourceOrDatabaseIsMissing) {
     const std::string strDriver = WhyNotOpened(With("Driver", "No Such Driver"));
     EXPECT_NE(strDriver.find("No Such Driver"), std::string::npos) << strDriver;
     EXPECT_EQ(strDriver.find("only for tests"), std::string::npos) << strDriver;
-    EXPECT_EQ(
-        WhyNotOpened("Provider=ODBC;DSN=none;Pwd=x"),
-        "There is no connection to the data source none: Data source name not found and no default driver "
-        "specified");
+    EXPECT_EQ(WhyNotOpened("Provider=ODBC;DSN=none;Pwd=x"),
+              "data source none: Data source name not found and no default driver "
+              "specified");
     EXPECT_NE(WhyNotOpened(With("Database", "nowhere")).find("database \"nowhere\" does not exist"),
               std::string::npos);
     EXPECT_EQ(WhyNotOpened("Provider=ODBC;Lock Timeout=5"),
               "The connection text names neither a driver nor a data source.");
+}
+
+TEST(OdbcPlace, NamesSourceOrDatabaseAndServerAndNothingElse) {
+    EXPECT_EQ(OdbcPlace(CConnectionText("Provider=ODBC;DSN=gc;Pwd=x")), "data source gc");
+    EXPECT_EQ(
+        OdbcPlace(CConnectionText("Driver=D;Server=h;Port=5;Database=gc1;Uid=u;Pwd=x;pqopt={password=x}")),
+        "database gc1 on h:5");
+    EXPECT_EQ(OdbcPlace(CConnectionText("Driver=D;Servername=h;Database=gc1")), "database gc1 on h");
+    EXPECT_EQ(OdbcPlace(CConnectionText("Driver=D;Database=gc1")), "database gc1");
 }
 
 TEST_P(OdbcProvider, FailsPlainlyWhenTheServerGoesAwayAndFindsItAgain) {
