@@ -19,7 +19,9 @@ void CheckTable(CDbConnection& database, const CTable& table) {
         if (i >= pRows->Columns().size()) Refuse(table, i, ", " + strBelongs + ", is missing");
         const std::string& strFound = pRows->Columns()[i].m_strName;
         if (!EqualNoCase(strFound, strBelongs))
-            Refuse(table, i, " is " + strFound + " where " + strBelongs + " belongs");
+            Refuse(
+                table, i,
+                std::string(" is ").append(strFound).append(" where ").append(strBelongs).append(" belongs"));
     }
 }
 

@@ -70,6 +70,7 @@ int RunAsPlainUser(const CTempFolder& folder, std::vector<std::string> arWords, 
     arWords.insert(arWords.begin(), "tvdata");
     const int nStatus = AsPlainUser(folder, [&] {
         std::vector<char*> arArguments;
+        arArguments.reserve(arWords.size() + 1);
         for (std::string& strWord : arWords)
             arArguments.push_back(strWord.data());
         arArguments.push_back(nullptr);

@@ -76,11 +76,14 @@ TEST(Refusals, ProjectIsNamedWhereItIsNotThere) {
     const CProgram program;
     program.Do("init \"$ROOT\"");
     const std::string strFile = program.Folder().Write("s.csv", "ZKBH,QYBH,SYFF\n");
-    for (const std::string strCall : {"open", "results", "import"})
-        for (const std::string strNumber : {"none", "..", "../Data", ""})
-            Fails(program.Tvdata(strCall + " --root \"$ROOT\" --number '" + strNumber + "'" +
-                                 (strCall == "import" ? " '" + strFile + "'" : "")),
-                  1, "tvdata: there is no project " + strNumber + " in " + program.Root() + "\n");
+    for (const std::string strNumber : {"none", "..", "../Data", ""}) {
+        const std::string strProject = " --root \"$ROOT\" --number '" + strNumber + "'";
+        std::string strTold = "tvdata: there is no project ";
+        strTold.append(strNumber).append(" in ").append(program.Root()).append("\n");
+        Fails(program.Tvdata("open" + strProject), 1, strTold);
+        Fails(program.Tvdata("results" + strProject), 1, strTold);
+        Fails(program.Tvdata("import" + strProject + " '" + strFile + "'"), 1, strTold);
+    }
 }
 
 TEST(Refusals, UsageIsToldForWhatTheProgramDoesNotKnow) {

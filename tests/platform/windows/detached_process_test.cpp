@@ -20,7 +20,7 @@ namespace {
 
 /// Makes a shell script that can be run.
 std::string Script(const CTempFolder& folder, const std::string& lines) {
-    const std::string path = folder.Write("program", "#!/bin/sh\n" + lines);
+    std::string path = folder.Write("program", "#!/bin/sh\n" + lines);
     chmod(path.c_str(), 0755);
     return path;
 }

@@ -47,7 +47,7 @@ protected:
     }
     /// What the program that was started wrote.
     std::string Out() const {
-        const std::string out = WaitedFile(m_folder, "out");
+        std::string out = WaitedFile(m_folder, "out");
         std::filesystem::remove(m_folder.Path("out"));
         return out;
     }
