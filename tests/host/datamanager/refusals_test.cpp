@@ -77,12 +77,13 @@ TEST(Refusals, ProjectIsNamedWhereItIsNotThere) {
     program.Do("init \"$ROOT\"");
     const std::string strFile = program.Folder().Write("s.csv", "ZKBH,QYBH,SYFF\n");
     for (const std::string strNumber : {"none", "..", "../Data", ""}) {
-        const std::string strProject = " --root \"$ROOT\" --number '" + strNumber + "'";
+        std::string strProject = " --root \"$ROOT\" --number '";
+        strProject.append(strNumber).append("'");
         std::string strTold = "tvdata: there is no project ";
         strTold.append(strNumber).append(" in ").append(program.Root()).append("\n");
         Fails(program.Tvdata("open" + strProject), 1, strTold);
         Fails(program.Tvdata("results" + strProject), 1, strTold);
-        Fails(program.Tvdata("import" + strProject + " '" + strFile + "'"), 1, strTold);
+        Fails(program.Tvdata("import" + strProject.append(" '").append(strFile).append("'")), 1, strTold);
     }
 }
 
