@@ -39,7 +39,7 @@ bool IsThere(CDbConnection& database, const CTable& table) {
         (void)database.Query("SELECT COUNT(*) FROM " + std::string(table.m_strName) + " WHERE 1 = 0");
         return true;
     } catch (const CDbError& error) {
-        if (error.Failure() != DbFailure::General) throw;
+        if (error.Failure() == DbFailure::Locked) throw;
         return false; // whatever else is wrong stops the making
     }
 }

@@ -78,9 +78,7 @@ std::optional<std::size_t> CDbCursor::FindColumn(std::string_view strName) const
     return std::nullopt;
 }
 
-DBTYPE CDbCursor::CellType(std::size_t nRow, std::size_t nColumn) const {
-    const CDbCell& cell = Cell(nRow, nColumn);
-    const DBTYPE wDeclared = m_arColumns[nColumn].m_wType;
+DBTYPE CellType(const CDbCell& cell, DBTYPE wDeclared) {
     if (std::holds_alternative<std::monostate>(cell)) return DBTYPE_NULL;
     if (const auto* pWhole = std::get_if<std::int64_t>(&cell))
         return FitsWhole(wDeclared, *pWhole) ? wDeclared : DBTYPE_I4;

@@ -15,7 +15,12 @@
 struct CDbColumn {
     std::string m_strName;
     DBTYPE m_wType = DBTYPE_EMPTY; ///< as the table declares it; DBTYPE_EMPTY where nothing is declared
+    std::size_t m_nSize = 0;       ///< characters or bytes that it is declared to hold; 0 where none are said
 };
+
+/// The variant type of a cell of a column: the declared one where the value fits it, else the value's own,
+/// DBTYPE_NULL for NULL.
+DBTYPE CellType(const CDbCell& cell, DBTYPE wDeclared);
 
 /// A new value for the column at a position (from 0) of a row.
 struct CDbChange {
@@ -41,9 +46,9 @@ public:
     [[nodiscard]] const CDbCell& Cell(std::size_t nRow, std::size_t nColumn) const {
         return m_arCells[nRow * m_arColumns.size() + nColumn];
     }
-    /// The variant type of a cell: the declared one where the value fits it, else the value's own,
-    /// DBTYPE_NULL for NULL.
-    [[nodiscard]] DBTYPE CellType(std::size_t nRow, std::size_t nColumn) const;
+    [[nodiscard]] DBTYPE CellType(std::size_t nRow, std::size_t nColumn) const {
+        return ::CellType(Cell(nRow, nColumn), m_arColumns[nColumn].m_wType);
+    }
 
     /// Writes these columns of exactly this row, also where other rows hold the same values.
     void UpdateRow(std::size_t nRow, const std::vector<CDbChange>& arChanges);

@@ -6,6 +6,11 @@
 /// What a database call can fail for, as far as callers treat it differently.
 enum class DbFailure {
     General,       ///< whatever the engine says
+    Statement,     ///< the engine does not take the statement
+    NoTable,       ///< the statement names a table that is not there
+    Constraint,    ///< the table's rules forbid the value
+    ReadOnly,      ///< what was to be written cannot be written
+    RowGone,       ///< the row was deleted by another program
     Locked,        ///< another program held the lock for the whole wait
     NotInCodePage, ///< a stored text has a character that the system code page lacks
 };

@@ -12,8 +12,8 @@ namespace {
 /// How often a row is sought that other programs keep changing.
 constexpr int kMostSearches = 5;
 
-[[noreturn]] void Refuse(const char* pszWhy) {
-    throw CDbError(DbFailure::General, 0, "ODBC", pszWhy);
+[[noreturn]] void Refuse(DbFailure failure, const char* pszWhy) {
+    throw CDbError(failure, 0, "ODBC", pszWhy);
 }
 
 std::vector<CDbValue> Values(const std::vector<CDbChange>& arChanges) {
@@ -48,7 +48,7 @@ void COdbcCursor::RunWithMarks(COdbcStatement& statement) {
             return;
         } catch (const CDbError& error) {
             // A view has no marks and is read without; the plain statement says what else is wrong.
-            if (error.Failure() != DbFailure::General) throw;
+            if (error.Failure() == DbFailure::Locked || error.Failure() == DbFailure::NotInCodePage) throw;
             m_select.reset();
         }
     }
@@ -57,7 +57,7 @@ void COdbcCursor::RunWithMarks(COdbcStatement& statement) {
 
 void COdbcCursor::ReadColumns(const COdbcStatement& statement) {
     std::vector<COdbcColumn> arGiven = statement.Columns();
-    if (arGiven.empty()) Refuse("The statement gives no rows.");
+    if (arGiven.empty()) Refuse(DbFailure::General, "The statement gives no rows.");
     if (m_select) arGiven.resize(arGiven.size() - kMarkColumns);
     std::vector<CDbColumn> arColumns;
     for (const COdbcColumn& column : arGiven)
@@ -123,7 +123,7 @@ CRowMark COdbcCursor::ReadMark(COdbcStatement& statement, std::size_t nFirstColu
 }
 
 void COdbcCursor::RequireOneTable() const {
-    if (!m_select) Refuse("the result is not the rows of one table");
+    if (!m_select) Refuse(DbFailure::ReadOnly, "the result is not the rows of one table");
 }
 
 const std::string& COdbcCursor::WrittenName(const CDbChange& change) const {
@@ -192,12 +192,13 @@ void COdbcCursor::RunOnRow(const std::string& strSql, std::span<const CDbValue> 
         case Search::Found:
             break;
         case Search::Gone:
-            Refuse("the row was deleted by another program");
+            Refuse(DbFailure::RowGone, "the row was deleted by another program");
         case Search::Ambiguous:
-            Refuse("the row was changed by another program and cannot be told from others");
+            Refuse(DbFailure::General,
+                   "the row was changed by another program and cannot be told from others");
         }
     }
-    Refuse("the row is changed by other programs all the time");
+    Refuse(DbFailure::General, "the row is changed by other programs all the time");
 }
 
 COdbcCursor::Search COdbcCursor::FindAgain(std::size_t nRow) {

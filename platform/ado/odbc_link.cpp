@@ -96,14 +96,22 @@ bool IsLockState(const std::string& strState) {
     return std::ranges::find(s_arStates, strState) != s_arStates.end();
 }
 
+DbFailure FailureOf(SQLSMALLINT nHandleType, const std::string& strState) {
+    if (nHandleType != SQL_HANDLE_STMT) return DbFailure::General;
+    if (IsLockState(strState)) return DbFailure::Locked;
+    if (strState == "42S02" || strState == "42P01") return DbFailure::NoTable;
+    if (strState == "25006") return DbFailure::ReadOnly;
+    if (strState.starts_with("42") || strState.starts_with("07")) return DbFailure::Statement;
+    return strState.starts_with("23") ? DbFailure::Constraint : DbFailure::General;
+}
+
 } // namespace
 
 void ThrowOdbcError(SQLSMALLINT nHandleType, SQLHANDLE hHandle) {
     const CDiagnostic diagnostic = FindDiagnostic(nHandleType, hHandle);
     std::string strWhy = NameFromUtf8(OneLine(diagnostic.m_strText));
     if (strWhy.empty()) strWhy = "the driver fails with state " + diagnostic.m_strState;
-    const bool bLocked = nHandleType == SQL_HANDLE_STMT && IsLockState(diagnostic.m_strState);
-    throw CDbError(bLocked ? DbFailure::Locked : DbFailure::General, diagnostic.m_lNative, "ODBC", strWhy);
+    throw CDbError(FailureOf(nHandleType, diagnostic.m_strState), diagnostic.m_lNative, "ODBC", strWhy);
 }
 
 void CheckOdbc(SQLRETURN nResult, SQLSMALLINT nHandleType, SQLHANDLE hHandle) {

@@ -21,6 +21,11 @@ int LockTimeout(const CConnectionText& text) {
     return nTimeout;
 }
 
+std::string CDbConnection::ProcedureCall(std::string_view strName, std::size_t /*nParameters*/) const {
+    throw CDbError(DbFailure::Statement, 0, "Database",
+                   "This database has no stored procedures: " + std::string(strName));
+}
+
 std::shared_ptr<CDbConnection> OpenDbConnection(std::string_view strConnection) {
     const CConnectionText text(strConnection);
     const std::string strGiven = text.Value("Provider");

@@ -61,6 +61,10 @@ public:
     /// as 4.6 is not less than the 4.6 in a statement.
     [[nodiscard]] virtual std::string_view RealType() const { return "REAL"; }
 
+    /// The statement, in the engine's words, that runs a stored procedure with so many parameters. Throws
+    /// where the engine has none, which is what a connection answers unless it says otherwise.
+    [[nodiscard]] virtual std::string ProcedureCall(std::string_view strName, std::size_t nParameters) const;
+
     [[nodiscard]] std::unique_ptr<CDbCursor> Query(std::string_view strSql) { return Query(strSql, {}); }
     std::int64_t Execute(std::string_view strSql) { return Execute(strSql, {}); }
 };

@@ -1,6 +1,7 @@
 #include "platform/ado/sqlite_cursor.h"
 
 #include <array>
+#include <charconv>
 #include <utility>
 
 #include "platform/ado/database_text.h"
@@ -41,6 +42,16 @@ DBTYPE DeclaredType(const char* pszDeclared) {
     return DBTYPE_EMPTY;
 }
 
+/// The length that a declaration such as varchar(50) gives; 0 where it gives none.
+std::size_t DeclaredSize(const char* pszDeclared) {
+    const std::string_view strDeclared = pszDeclared ? std::string_view(pszDeclared) : std::string_view();
+    const std::size_t nOpen = strDeclared.find('(');
+    std::size_t nSize = 0;
+    if (nOpen != std::string_view::npos)
+        std::from_chars(strDeclared.data() + nOpen + 1, strDeclared.data() + strDeclared.size(), nSize);
+    return nSize;
+}
+
 std::string Utf8Name(const char* pszName) {
     return pszName ? pszName : std::string();
 }
@@ -78,8 +89,9 @@ void CSqliteCursor::ReadColumns(sqlite3_stmt* pStatement) {
     std::vector<CDbColumn> arColumns;
     for (int i = 0; i < nColumns; ++i) {
         m_arOrigins.push_back(Utf8Name(sqlite3_column_origin_name(pStatement, i)));
+        const char* pszDeclared = sqlite3_column_decltype(pStatement, i);
         arColumns.push_back({NameFromUtf8(Utf8Name(sqlite3_column_name(pStatement, i))),
-                             DeclaredType(sqlite3_column_decltype(pStatement, i))});
+                             DeclaredType(pszDeclared), DeclaredSize(pszDeclared)});
         if (m_strTableUtf8.empty()) m_strTableUtf8 = Utf8Name(sqlite3_column_table_name(pStatement, i));
     }
     if (m_bRowNumbers) m_strRowNumber = Utf8Name(sqlite3_column_origin_name(pStatement, nColumns));
@@ -125,7 +137,7 @@ std::string CSqliteCursor::ReadText(sqlite3_stmt* pStatement, int nColumn) const
 
 void CSqliteCursor::RequireOneTable() const {
     if (m_strRowNumber.empty())
-        throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite",
+        throw CDbError(DbFailure::ReadOnly, SQLITE_READONLY, "SQLite",
                        "the result is not the rows of one table");
 }
 
@@ -137,7 +149,7 @@ std::int64_t CSqliteCursor::RowNumber(std::size_t nRow) const {
 std::string CSqliteCursor::WrittenName(const CDbChange& change) const {
     const std::string& strOrigin = m_arOrigins[change.m_nColumn];
     if (strOrigin.empty())
-        throw CDbError(DbFailure::General, SQLITE_READONLY, "SQLite", "a computed column cannot be written");
+        throw CDbError(DbFailure::ReadOnly, SQLITE_READONLY, "SQLite", "a computed column cannot be written");
     return QuotedName(strOrigin);
 }
 
@@ -151,7 +163,7 @@ void CSqliteCursor::RunOnRow(const std::string& strSql, const std::vector<CDbCha
     statement.Bind(++nPlace, nRowNumber);
     statement.Step();
     if (sqlite3_changes(m_pDatabase.get()) == 0)
-        throw CDbError(DbFailure::General, SQLITE_NOTFOUND, "SQLite",
+        throw CDbError(DbFailure::RowGone, SQLITE_NOTFOUND, "SQLite",
                        "the row was deleted by another program");
 }
 

@@ -14,7 +14,7 @@ sqlite3_stmt* Prepare(sqlite3* pDatabase, std::string_view strSql) {
     const int nResult =
         sqlite3_prepare_v2(pDatabase, strSql.data(), static_cast<int>(strSql.size()), &pStatement, nullptr);
     if (nResult != SQLITE_OK) ThrowSqliteError(pDatabase, nResult);
-    if (!pStatement) throw CDbError(DbFailure::General, 0, "SQLite", "The statement is empty.");
+    if (!pStatement) throw CDbError(DbFailure::Statement, 0, "SQLite", "The statement is empty.");
     return pStatement;
 }
 
@@ -29,14 +29,30 @@ int BindBytes(sqlite3_stmt* pStatement, int nPlace, const std::vector<unsigned c
     return sqlite3_bind_blob64(pStatement, nPlace, arBytes.data(), arBytes.size(), SQLITE_TRANSIENT);
 }
 
+DbFailure FailureOf(int nResult, std::string_view strWhy) {
+    switch (nResult & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return DbFailure::Locked;
+    case SQLITE_ERROR: // a missing table has no code of its own
+        return strWhy.starts_with("no such table") ? DbFailure::NoTable : DbFailure::Statement;
+    case SQLITE_RANGE:
+        return DbFailure::Statement;
+    case SQLITE_CONSTRAINT:
+        return DbFailure::Constraint;
+    case SQLITE_READONLY:
+        return DbFailure::ReadOnly;
+    default:
+        return DbFailure::General;
+    }
+}
+
 } // namespace
 
 void ThrowSqliteError(sqlite3* pDatabase, int nResult) {
     std::string strWhy;
     if (!Utf8ToGbk(sqlite3_errmsg(pDatabase), &strWhy)) strWhy = sqlite3_errstr(nResult);
-    const int nPrimary = nResult & 0xFF;
-    const bool bLocked = nPrimary == SQLITE_BUSY || nPrimary == SQLITE_LOCKED;
-    throw CDbError(bLocked ? DbFailure::Locked : DbFailure::General, nResult, "SQLite", strWhy);
+    throw CDbError(FailureOf(nResult, strWhy), nResult, "SQLite", strWhy);
 }
 
 CSqliteStatement::CSqliteStatement(CSqliteHandle pDatabase, std::string_view strSqlUtf8)
