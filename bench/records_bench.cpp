@@ -1,71 +1,26 @@
 // Reading a project of 1,000 samples with 60 readings each through the record class, which finds the running
 // project and connects anew for every sample, against the plain C interface of the same database.
 
-#include "data/criteria.h"
-#include "data/san_zhou_csxm_record.h"
-#include "platform/windows/profile.h"
-#include "tests/support/project.h"
+#include "bench/sample_project.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
 #include <cstdio>
-#include <cstdlib>
 
 namespace {
-constexpr int kSamples = 1000;
-constexpr int kReadings = 60;
-
-[[noreturn]] void Fail(const char* pszWhat) {
-    std::fprintf(stderr, "%s\n", pszWhat);
-    std::abort();
-}
-
-std::string BoreholeOf(int nSample) {
-    return "ZK" + std::to_string(nSample / 10 + 1);
-}
-
-std::string SampleOf(int nSample) {
-    return std::to_string(nSample / 10 + 1) + "-" + std::to_string(nSample % 10 + 1);
-}
-
 /// The project, made once for both.
 CTestProject& Project() {
     static CTestProject s_project;
-    static const bool s_bFilled = [] {
-        WritePrivateProfileStringA("TVTool", "ProjectIni", "Project.ini",
-                                   (s_project.Root() + "/tervo.ini").c_str());
-        s_project.m_pDatabase->BeginTransaction();
-        for (int nSample = 0; nSample < kSamples; ++nSample)
-            for (int i = 0; i < kReadings; ++i)
-                s_project.AddReading(BoreholeOf(nSample).c_str(), SampleOf(nSample).c_str(), i / 20 + 1,
-                                     i % 20 + 1, 100.0 * (i / 20 + 1), 3.25 * i, 60.5 * (i % 20), 0);
-        s_project.Execute("CREATE INDEX i_z_c_SanZhouCSXM ON z_c_SanZhouCSXM (GCSY, ZKBH, QYBH)");
-        s_project.m_pDatabase->CommitTransaction();
-        return true;
-    }();
+    static const bool s_bFilled = (FillSamples(&s_project), true);
     (void)s_bFilled;
     return s_project;
 }
 
 void RecordClass(benchmark::State& state) {
     Project();
-    while (state.KeepRunning()) {
-        double dSum = 0.0;
-        int nRows = 0;
-        for (int nSample = 0; nSample < kSamples; ++nSample) {
-            CSanZhouCSXMRecord record;
-            const CString strCriterion =
-                ReadingsCriterion(1, BoreholeOf(nSample).c_str(), SampleOf(nSample).c_str());
-            if (!record.OpenRows(record.QueryFor(strCriterion), 0, 1))
-                Fail("the record class cannot open its rows");
-            for (int nMoved = record.MoveFirstRow(); nMoved == 0; nMoved = record.MoveNextRow(), ++nRows)
-                dSum += record.m_fCLHDS;
-            record.CloseRows();
-        }
-        if (nRows != kSamples * kReadings) Fail("the record class did not read every row");
-        benchmark::DoNotOptimize(dSum);
-    }
+    while (state.KeepRunning())
+        ReadSamplesByRecordClass();
     state.SetItemsProcessed(state.iterations() * kSamples * kReadings);
 }
 

@@ -60,6 +60,7 @@ void COdbcCursor::ReadColumns(const COdbcStatement& statement) {
     if (arGiven.empty()) Refuse(DbFailure::General, "The statement gives no rows.");
     if (m_select) arGiven.resize(arGiven.size() - kMarkColumns);
     std::vector<CDbColumn> arColumns;
+    arColumns.reserve(arGiven.size());
     for (const COdbcColumn& column : arGiven)
         arColumns.push_back({NameFromUtf8(column.m_strName), column.m_wType});
     SetColumns(std::move(arColumns));
@@ -185,7 +186,7 @@ void COdbcCursor::RunOnRow(const std::string& strSql, std::span<const CDbValue> 
                           std::string(engine.MarkColumns()),
                       arValues);
         if (statement.Fetch()) {
-            m_arMarks[nRow] = ReadMark(statement, 0);
+            m_mapEarlier[nRow].push_back(std::exchange(m_arMarks[nRow], ReadMark(statement, 0)));
             return;
         }
         switch (FindAgain(nRow)) {
@@ -202,20 +203,27 @@ void COdbcCursor::RunOnRow(const std::string& strSql, std::span<const CDbValue> 
 }
 
 COdbcCursor::Search COdbcCursor::FindAgain(std::size_t nRow) {
-    if (const auto mark = Successor(m_arMarks[nRow]);
-        mark && std::ranges::find(m_arMarks, *mark) == m_arMarks.end()) {
-        m_arMarks[nRow] = *mark;
-        return Search::Found;
+    const COdbcEngine& engine = m_pLink->Engine();
+    // A write that was rolled back leaves the row as it was before.
+    const std::vector<CRowMark>& arEarlier = m_mapEarlier[nRow];
+    for (auto it = arEarlier.rbegin(); it != arEarlier.rend(); ++it) {
+        if (const auto mark = MarkWhere(engine.RowCondition(*it))) {
+            m_arMarks[nRow] = *mark;
+            return Search::Found;
+        }
     }
-    return FindByElimination(nRow);
+    const auto successor = MarkWhere(engine.SuccessorCondition(m_select->m_strTable, m_arMarks[nRow]));
+    if (!successor || std::ranges::find(m_arMarks, *successor) != m_arMarks.end())
+        return FindByElimination(nRow);
+    m_arMarks[nRow] = *successor;
+    return Search::Found;
 }
 
-std::optional<CRowMark> COdbcCursor::Successor(const CRowMark& mark) const {
+std::optional<CRowMark> COdbcCursor::MarkWhere(const std::string& strCondition) const {
     try {
-        const COdbcEngine& engine = m_pLink->Engine();
         COdbcStatement statement(m_pLink);
-        statement.Run("SELECT " + std::string(engine.MarkColumns()) + " FROM " + m_select->m_strTable +
-                          " WHERE " + engine.SuccessorCondition(m_select->m_strTable, mark),
+        statement.Run("SELECT " + std::string(m_pLink->Engine().MarkColumns()) + " FROM " +
+                          m_select->m_strTable + " WHERE " + strCondition,
                       {});
         if (statement.Fetch()) return ReadMark(statement, 0);
     } catch (const CDbError& error) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,7 +44,8 @@ private:
 
     /// Finds the row where other programs have put it.
     Search FindAgain(std::size_t nRow);
-    [[nodiscard]] std::optional<CRowMark> Successor(const CRowMark& mark) const;
+    /// The mark of the table's row that meets a condition.
+    [[nodiscard]] std::optional<CRowMark> MarkWhere(const std::string& strCondition) const;
     Search FindByElimination(std::size_t nRow);
     /// The rows whose marks the other one does not have.
     [[nodiscard]] std::vector<std::size_t> RowsNotIn(const COdbcCursor& other) const;
@@ -56,6 +58,7 @@ private:
     std::string m_strTable;               ///< GBK, for messages
     std::vector<std::string> m_arOrigins; ///< what each column is called in a statement that writes it
     std::vector<CRowMark> m_arMarks;
+    std::map<std::size_t, std::vector<CRowMark>> m_mapEarlier; ///< of rows written here, oldest first
     std::string m_strText;
     std::vector<unsigned char> m_arBytes;
 };

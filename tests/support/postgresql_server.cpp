@@ -75,6 +75,7 @@ pid_t Start(const passwd* pUser, const std::string& strLog, std::vector<std::str
     dup2(nLog, STDOUT_FILENO);
     dup2(nLog, STDERR_FILENO);
     std::vector<char*> arArguments;
+    arArguments.reserve(arWords.size() + 1);
     for (std::string& strWord : arWords)
         arArguments.push_back(strWord.data());
     arArguments.push_back(nullptr);
@@ -197,7 +198,7 @@ std::string CPostgresqlServer::ConnectionText(const std::string& strDatabase) co
 }
 
 std::string CPostgresqlServer::MakeDatabase() {
-    const std::string strDatabase = "test" + std::to_string(++m_nDatabases);
+    std::string strDatabase = "test" + std::to_string(++m_nDatabases);
     OpenDbConnection(ConnectionText("postgres"))->Execute("CREATE DATABASE " + strDatabase);
     return strDatabase;
 }

@@ -110,8 +110,10 @@ TEST_P(PostgresqlRows, StoresThroughASchemaAnotherNameAndNamesInQuotes) {
 TEST_P(PostgresqlRows, WritesRowsInATransactionThatIsUndone) {
     const auto pCursor = m_pDatabase->Query("select * from t");
     m_pDatabase->BeginTransaction();
-    pCursor->UpdateRow(0, {{2, std::int64_t{5}}});
+    for (const std::size_t nRow : {0U, 1U, 1U, 2U})
+        pCursor->UpdateRow(nRow, {{2, std::int64_t{5}}});
     m_pDatabase->RollbackTransaction();
-    pCursor->UpdateRow(0, {{1, std::string("y")}});
-    EXPECT_EQ(Rows(*m_pDatabase, "select * from t order by b"), (CRows{"1|x|0", "1|x|0", "1|y|0"}));
+    pCursor->UpdateRow(1, {{1, std::string("y")}});
+    pCursor->DeleteRow(2);
+    EXPECT_EQ(Rows(*m_pDatabase, "select * from t order by b"), (CRows{"1|x|0", "1|y|0"}));
 }

@@ -189,3 +189,18 @@ TEST_P(Provider, ReadsTextsOfAnyLength) {
         EXPECT_EQ(Rows(*m_pDatabase, "select name, n from t").at(0), strLong + "|1") << nLength;
     }
 }
+
+TEST_P(Provider, TakesQuotedTextsAsTheyStand) {
+    if (!IsSqlite()) m_pDatabase->Execute("set standard_conforming_strings = off");
+    for (const std::string& strText :
+         {std::string("C:\\数据\\x"), std::string("\\"), std::string("a ? b"), std::string("{d '1'}"),
+          std::string("left(a,1)+b; -- /* $1 %s"), std::string("土\\'"), std::string()}) {
+        std::string strLiteral = "'";
+        for (std::size_t i = 0; i < strText.size(); ++i) {
+            strLiteral.append(strText[i] == '\'' ? 2 : 1, strText[i]);
+        }
+        EXPECT_EQ(Rows(*m_pDatabase, "select " + strLiteral + "';"), CRows{strText}) << strText;
+        EXPECT_EQ(Rows(*m_pDatabase, "select " + strLiteral + "' where 1 = 1 -- it's ? over"),
+                  CRows{strText});
+    }
+}

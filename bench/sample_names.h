@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+// What the benchmarks of the record classes read: 1,000 samples of 60 readings each.
+
+constexpr int kSamples = 1000;
+constexpr int kReadings = 60;
+
+/// Ends the program: figures of something that fails are worth nothing.
+[[noreturn]] void Fail(const char* pszWhat);
+
+std::string BoreholeOf(int nSample);
+std::string SampleOf(int nSample);
