@@ -41,10 +41,10 @@ AcDbDatabase::AcDbDatabase() {
     AddNamed(*pLinetypes, L"ByLayer", new AcDbLinetypeTableRecord);
     AddNamed(*pLinetypes, L"ByBlock", new AcDbLinetypeTableRecord);
     AddNamed(*pLinetypes, L"Continuous", new AcDbLinetypeTableRecord);
-    m_idClayer = AddNamed(*pLayers, L"0", new AcDbLayerTableRecord);
+    m_variables.m_idClayer = AddNamed(*pLayers, L"0", new AcDbLayerTableRecord);
     auto* const pStandard = new AcDbTextStyleTableRecord;
     pStandard->setFileName(L"txt.shx");
-    m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
+    m_variables.m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
     for (AcDbObject* pTable : std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles})
         pTable->close();
     m_bModified = false;
@@ -76,36 +76,46 @@ Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& pTable, A
 
 Acad::ErrorStatus AcDbDatabase::setLtscale(double scale) {
     if (!std::isfinite(scale) || scale <= 0.0) return Acad::eInvalidInput;
-    if (scale == m_dLtscale) return Acad::eOk;
-    m_dLtscale = scale;
-    m_bModified = true;
+    CDbVariables variables = m_variables;
+    variables.m_dLtscale = scale;
+    SetVariables(variables);
     return Acad::eOk;
 }
 
+void AcDbDatabase::SetVariables(const CDbVariables& variables) {
+    if (variables == m_variables) return;
+    m_undoLog.NoteVariables(m_variables);
+    m_variables = variables;
+    m_bModified = true;
+}
+
 template <class T>
-Acad::ErrorStatus AcDbDatabase::SetCurrent(AcDbObjectId& idCurrent, AcDbObjectId id) {
+Acad::ErrorStatus AcDbDatabase::SetCurrent(AcDbObjectId CDbVariables::*pVariable, AcDbObjectId id) {
     if (id.isNull()) return Acad::eNullObjectId;
     if (id.database() != this) return Acad::eWrongDatabase;
     if (!PeekObject<T>(id)) return Acad::eNotThatKindOfClass;
     if (id.isErased()) return Acad::eWasErased;
-    if (id != idCurrent) m_bModified = true;
-    idCurrent = id;
+    CDbVariables variables = m_variables;
+    variables.*pVariable = id;
+    SetVariables(variables);
     return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbDatabase::setCeltype(AcDbObjectId idLinetype) {
-    if (!idLinetype.isNull()) return SetCurrent<AcDbLinetypeTableRecord>(m_idCeltype, idLinetype);
-    if (!m_idCeltype.isNull()) m_bModified = true;
-    m_idCeltype.setNull();
+    if (!idLinetype.isNull())
+        return SetCurrent<AcDbLinetypeTableRecord>(&CDbVariables::m_idCeltype, idLinetype);
+    CDbVariables variables = m_variables;
+    variables.m_idCeltype.setNull();
+    SetVariables(variables);
     return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbDatabase::setClayer(AcDbObjectId idLayer) {
-    return SetCurrent<AcDbLayerTableRecord>(m_idClayer, idLayer);
+    return SetCurrent<AcDbLayerTableRecord>(&CDbVariables::m_idClayer, idLayer);
 }
 
 Acad::ErrorStatus AcDbDatabase::setTextstyle(AcDbObjectId idStyle) {
-    return SetCurrent<AcDbTextStyleTableRecord>(m_idTextstyle, idStyle);
+    return SetCurrent<AcDbTextStyleTableRecord>(&CDbVariables::m_idTextstyle, idStyle);
 }
 
 Acad::ErrorStatus AcDbDatabase::getFilename(std::wstring& fileName) const {
@@ -132,6 +142,7 @@ Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject,
     id = AcDbObjectId(pStub.get());
     pObject->m_id = id;
     pObject->m_idOwner = idOwner;
+    m_undoLog.NoteAppended(*pStub);
     m_mapStubs.emplace(pStub->m_handle, std::move(pStub));
     return Acad::eOk;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/acad/db_tables.h"
+#include "platform/acad/undo_log.h"
 
 #include <map>
 #include <memory>
@@ -28,14 +29,16 @@ public:
     AcDbObjectId textStyleTableId() const { return m_idTextStyleTable; }
     AcDbObjectId ModelSpaceId() const { return m_idModelSpace; }
 
-    double ltscale() const { return m_dLtscale; }
+    double ltscale() const { return m_variables.m_dLtscale; }
     Acad::ErrorStatus setLtscale(double scale);
-    AcDbObjectId celtype() const { return m_idCeltype; } ///< null: ByLayer
+    AcDbObjectId celtype() const { return m_variables.m_idCeltype; } ///< null: ByLayer
     Acad::ErrorStatus setCeltype(AcDbObjectId idLinetype);
-    AcDbObjectId clayer() const { return m_idClayer; }
+    AcDbObjectId clayer() const { return m_variables.m_idClayer; }
     Acad::ErrorStatus setClayer(AcDbObjectId idLayer);
-    AcDbObjectId textstyle() const { return m_idTextstyle; }
+    AcDbObjectId textstyle() const { return m_variables.m_idTextstyle; }
     Acad::ErrorStatus setTextstyle(AcDbObjectId idStyle);
+    const CDbVariables& Variables() const { return m_variables; }
+    void SetVariables(const CDbVariables& variables); ///< all at once, unchecked
 
     /// Reads line type name from a line type file, sought by the host. eFileNotFound, eUndefinedLineType (the
     /// file does not hold it), eDuplicateKey (the drawing has it already).
@@ -48,6 +51,8 @@ public:
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
 
+    CUndoLog& UndoLog() { return m_undoLog; }
+
     /// Entities appended or changed (opened for writing) since the last call, erased ones left out, in
     /// database order; the host redraws them.
     std::vector<AcDbObjectId> TakeChangedEntities();
@@ -58,13 +63,13 @@ private:
     friend class AcDbObject;
     void NoteChanged(CDbStub& stub);
     template <class T>
-    Acad::ErrorStatus SetCurrent(AcDbObjectId& idCurrent, AcDbObjectId id);
+    Acad::ErrorStatus SetCurrent(AcDbObjectId CDbVariables::*pVariable, AcDbObjectId id);
 
     std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
     Adesk::UInt64 m_nNextHandle = 1;
     AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idModelSpace;
-    AcDbObjectId m_idCeltype, m_idClayer, m_idTextstyle;
-    double m_dLtscale = 1.0;
+    CDbVariables m_variables;
+    CUndoLog m_undoLog{*this};
     std::wstring m_strFilename;
     std::vector<AcDbObjectId> m_arChanged;
     bool m_bModified = false;

@@ -1,7 +1,10 @@
 #include "platform/acad/db_entity.h"
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_filer.h"
 #include "platform/acad/db_stub.h"
+
+#include <algorithm>
 
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbEntity, AcDbObject)
 
@@ -47,6 +50,24 @@ Acad::ErrorStatus AcDbEntity::setLayer(AcDbObjectId idLayer) {
 
 std::string AcDbEntity::LayerName() const {
     return m_idLayer.isNull() ? std::string("0") : SymbolName(m_idLayer);
+}
+
+Acad::ErrorStatus AcDbEntity::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbObject::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    pFiler->writeUInt16(m_nColorIndex);
+    pFiler->writeHardPointerId(m_idLayer);
+    return pFiler->writeHardPointerId(m_idLinetype);
+}
+
+Acad::ErrorStatus AcDbEntity::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbObject::dwgInFields(pFiler); status != Acad::eOk) return status;
+    pFiler->readUInt16(&m_nColorIndex);
+    m_nColorIndex = std::min(m_nColorIndex, g_nColorByLayer);
+    pFiler->readHardPointerId(&m_idLayer);
+    if (!PeekObject<AcDbLayerTableRecord>(m_idLayer)) m_idLayer.setNull();
+    pFiler->readHardPointerId(&m_idLinetype);
+    if (!PeekObject<AcDbLinetypeTableRecord>(m_idLinetype)) m_idLinetype.setNull();
+    return pFiler->filerStatus();
 }
 
 Acad::ErrorStatus AcDbEntity::subGetGeomExtents(AcDbExtents& extents) const {

@@ -50,6 +50,9 @@ public:
         return subMoveGripPointsAt(indices, offset);
     }
 
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
+
     /// What was drawn last; null before the first drawing.
     std::shared_ptr<const CDisplayList> Picture() const { return m_pPicture; }
     void SetPicture(std::shared_ptr<const CDisplayList> pPicture) { m_pPicture = std::move(pPicture); }

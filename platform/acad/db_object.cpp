@@ -4,6 +4,8 @@
 #include "platform/acad/db_stub.h"
 #include "platform/windows/host_assert.h"
 
+#include <algorithm>
+
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbObject, AcRxObject)
 
 namespace {
@@ -23,7 +25,10 @@ Acad::ErrorStatus OpenForWrite(CDbStub& stub) {
     if (stub.m_bNotifying) return Acad::eWasOpenForNotify;
     if (stub.m_nReaders) return Acad::eWasOpenForRead;
     stub.m_bWriting = true;
-    stub.m_bModified = false;
+    stub.m_bModified = stub.m_bErasureChanged = false;
+    stub.m_before.reset();
+    if (stub.m_pDatabase->UndoLog().IsRecording())
+        stub.m_before = RecordOf(*stub.m_pObject, AcDb::kUndoFiler);
     return Acad::eOk;
 }
 
@@ -61,11 +66,28 @@ Acad::ErrorStatus acdbOpenAcDbObject(AcDbObject*& pObject, AcDbObjectId id, AcDb
 
 void AcDbObject::EndWriting() {
     CDbStub& stub = *m_id.Stub();
+    if (stub.m_before)
+        stub.m_pDatabase->UndoLog().NoteChanged(stub, *std::exchange(stub.m_before, std::nullopt));
     stub.m_bWriting = false;
-    // An entity counts as changed by every opening for writing, since its class may have changed fields
-    // without a word; a table or a record only when it said so.
+    // An entity is drawn anew after every opening for writing, since its class may have changed fields
+    // without a word; a table or a record counts as changed only when it said so.
     if (stub.m_bModified || isKindOf(AcDbEntity::desc())) stub.m_pDatabase->NoteChanged(stub);
-    stub.m_bModified = false;
+    TellReactors(stub);
+    stub.m_bModified = stub.m_bErasureChanged = false;
+}
+
+void AcDbObject::TellReactors(const CDbStub& stub) {
+    if (m_arReactors.empty() || !(stub.m_bModified || stub.m_bErasureChanged)) return;
+    CDbStub& mine = *m_id.Stub();
+    ++mine.m_nReaders; // those told may look at it
+    for (const AcDbObjectId& idReactor : std::vector<AcDbObjectId>(m_arReactors)) {
+        AcDbObject* pReactor = nullptr;
+        if (acdbOpenAcDbObject(pReactor, idReactor, AcDb::kForNotify) != Acad::eOk) continue;
+        if (stub.m_bErasureChanged) pReactor->erased(this, stub.m_bErased);
+        if (stub.m_bModified) pReactor->modified(this);
+        pReactor->close();
+    }
+    --mine.m_nReaders;
 }
 
 Acad::ErrorStatus AcDbObject::close() {
@@ -108,8 +130,9 @@ Acad::ErrorStatus AcDbObject::erase(bool bErasing) {
     CDbStub& stub = *m_id.Stub();
     if (!stub.m_bWriting) return Acad::eNotOpenForWrite;
     if (stub.m_bErased == bErasing) return Acad::eOk;
+    stub.m_pDatabase->UndoLog().NoteErasure(stub);
     stub.m_bErased = bErasing;
-    stub.m_bModified = true;
+    stub.m_bModified = stub.m_bErasureChanged = true;
     return Acad::eOk;
 }
 
@@ -123,6 +146,76 @@ bool AcDbObject::isReadEnabled() const {
 
 bool AcDbObject::isWriteEnabled() const {
     return m_id.isNull() || m_id.Stub()->m_bWriting;
+}
+
+bool AcDbObject::isNotifyEnabled() const {
+    return !m_id.isNull() && m_id.Stub()->m_bNotifying;
+}
+
+bool AcDbObject::isUndoing() const {
+    return !m_id.isNull() && m_id.Stub()->m_bUndoing;
+}
+
+Acad::ErrorStatus AcDbObject::upgradeFromNotify(Adesk::Boolean& wasWritable) {
+    wasWritable = Adesk::kFalse;
+    if (m_id.isNull()) return Acad::eNoDatabase;
+    CDbStub& stub = *m_id.Stub();
+    if (!stub.m_bNotifying) return Acad::eNotOpenForNotify;
+    if (stub.m_nReaders) return Acad::eWasOpenForRead;
+    wasWritable = stub.m_bWriting;
+    if (!stub.m_bWriting) {
+        stub.m_bNotifying = false;
+        OpenForWrite(stub);
+        stub.m_bNotifying = true;
+    }
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::downgradeToNotify(Adesk::Boolean wasWritable) {
+    if (m_id.isNull()) return Acad::eNoDatabase;
+    CDbStub& stub = *m_id.Stub();
+    if (!stub.m_bNotifying) return Acad::eNotOpenForNotify;
+    if (!stub.m_bWriting) return Acad::eNotOpenForWrite;
+    if (!wasWritable) EndWriting();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::addPersistentReactor(AcDbObjectId idReactor) {
+    assertWriteEnabled();
+    if (idReactor.isNull()) return Acad::eNullObjectId;
+    if (database() && idReactor.database() != database()) return Acad::eWrongDatabase;
+    if (!hasPersistentReactor(idReactor)) m_arReactors.push_back(idReactor);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbObject::removePersistentReactor(AcDbObjectId idReactor) {
+    assertWriteEnabled();
+    return std::erase(m_arReactors, idReactor) ? Acad::eOk : Acad::eKeyNotFound;
+}
+
+bool AcDbObject::hasPersistentReactor(AcDbObjectId idReactor) const {
+    return std::find(m_arReactors.begin(), m_arReactors.end(), idReactor) != m_arReactors.end();
+}
+
+Acad::ErrorStatus AcDbObject::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    assertReadEnabled();
+    pFiler->writeInt32(static_cast<Adesk::Int32>(m_arReactors.size()));
+    for (const AcDbObjectId& idReactor : m_arReactors)
+        pFiler->writeSoftPointerId(idReactor);
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbObject::dwgInFields(AcDbDwgFiler* pFiler) {
+    assertWriteEnabled();
+    Adesk::Int32 nReactors = 0;
+    pFiler->readInt32(&nReactors);
+    m_arReactors.clear();
+    for (Adesk::Int32 i = 0; i < nReactors; ++i) {
+        AcDbObjectId idReactor;
+        if (pFiler->readSoftPointerId(&idReactor) != Acad::eOk) break;
+        if (!idReactor.isNull()) m_arReactors.push_back(idReactor);
+    }
+    return pFiler->filerStatus();
 }
 
 void AcDbObject::assertReadEnabled() const {

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+class AcDbDwgFiler;
+
 namespace AcDb {
 enum OpenMode { kForRead = 0, kForWrite = 1, kForNotify = 2 };
 enum SaveType { kR13Save = 0, kR14Save = 1 };
@@ -38,6 +40,30 @@ public:
     bool isErased() const;
     bool isReadEnabled() const;
     bool isWriteEnabled() const;
+    bool isNotifyEnabled() const;
+    bool isUndoing() const; ///< what happens to it now is an undo or a redo
+
+    /// Open for notify -> for write and back. wasWritable tells that it was open for writing besides, and is
+    /// handed to the way back. eWasOpenForRead when somebody reads it; eNotOpenForNotify.
+    Acad::ErrorStatus upgradeFromNotify(Adesk::Boolean& wasWritable);
+    Acad::ErrorStatus downgradeToNotify(Adesk::Boolean wasWritable);
+
+    /// Objects that are told of changes to this one, from one session to the next. eKeyNotFound.
+    Acad::ErrorStatus addPersistentReactor(AcDbObjectId idReactor);
+    Acad::ErrorStatus removePersistentReactor(AcDbObjectId idReactor);
+    bool hasPersistentReactor(AcDbObjectId idReactor) const;
+    const std::vector<AcDbObjectId>& PersistentReactors() const { return m_arReactors; }
+
+    // What a persistent reactor is told, opened for notify; the notifier is open for reading then.
+    virtual void modified(const AcDbObject*) {}                           ///< it was closed after a change
+    virtual void erased(const AcDbObject*, Adesk::Boolean /*bErased*/) {} ///< or brought back
+
+    /// Writes or reads the object's record, whatever its class.
+    Acad::ErrorStatus dwgOut(AcDbDwgFiler* pFiler) const { return dwgOutFields(pFiler); }
+    Acad::ErrorStatus dwgIn(AcDbDwgFiler* pFiler) { return dwgInFields(pFiler); }
+    /// A class's part of the record: it runs its base's first, and ends with its status if that is not eOk.
+    virtual Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const;
+    virtual Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler);
 
     /// What every reading operation starts with: the object is free or open in some way. A violation is a
     /// defect of the caller and stops the program with a message, as in the CAD program.
@@ -48,9 +74,12 @@ public:
 
 private:
     friend class AcDbDatabase;
+    friend class CUndoLog;
     void EndWriting();
+    void TellReactors(const CDbStub& stub);
 
     AcDbObjectId m_id, m_idOwner;
+    std::vector<AcDbObjectId> m_arReactors;
 };
 
 /// Opens a stored object. eNullObjectId, eWasErased (unless asked for erased ones), eWasOpenFor...,

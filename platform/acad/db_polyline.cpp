@@ -1,5 +1,6 @@
 #include "platform/acad/db_polyline.h"
 
+#include "platform/acad/db_filer.h"
 #include "platform/acad/plane_transform.h"
 #include "platform/acad/rx_class.h"
 
@@ -81,6 +82,37 @@ void AcDbPolyline::reset(Adesk::Boolean reuse, unsigned int numVerts) {
     m_arVertices.clear();
     if (!reuse) m_arVertices.shrink_to_fit();
     m_arVertices.reserve(numVerts);
+}
+
+Acad::ErrorStatus AcDbPolyline::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    pFiler->writeBoolean(m_bClosed);
+    pFiler->writeInt32(static_cast<Adesk::Int32>(m_arVertices.size()));
+    for (const CPolylineVertex& vertex : m_arVertices) {
+        pFiler->writePoint2d(vertex.m_pt);
+        for (const double value : {vertex.m_dBulge, vertex.m_dStartWidth, vertex.m_dEndWidth})
+            pFiler->writeDouble(value);
+    }
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbPolyline::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgInFields(pFiler); status != Acad::eOk) return status;
+    Adesk::Boolean bClosed = Adesk::kFalse;
+    Adesk::Int32 nVertices = 0;
+    pFiler->readBoolean(&bClosed);
+    m_bClosed = bClosed != Adesk::kFalse;
+    pFiler->readInt32(&nVertices);
+    m_arVertices.clear();
+    for (Adesk::Int32 i = 0; i < nVertices; ++i) {
+        CPolylineVertex vertex;
+        pFiler->readPoint2d(&vertex.m_pt);
+        for (double* pValue : {&vertex.m_dBulge, &vertex.m_dStartWidth, &vertex.m_dEndWidth})
+            pFiler->readDouble(pValue);
+        if (pFiler->filerStatus() != Acad::eOk) break;
+        m_arVertices.push_back(vertex);
+    }
+    return pFiler->filerStatus();
 }
 
 Adesk::Boolean AcDbPolyline::subWorldDraw(AcGiWorldDraw* pMode) {

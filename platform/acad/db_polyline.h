@@ -28,6 +28,8 @@ public:
     void reset(Adesk::Boolean reuse, unsigned int numVerts);
 
     const std::vector<CPolylineVertex>& Vertices() const { return m_arVertices; }
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;

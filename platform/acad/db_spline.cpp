@@ -1,5 +1,6 @@
 #include "platform/acad/db_spline.h"
 
+#include "platform/acad/db_filer.h"
 #include "platform/acad/rx_class.h"
 #include "platform/acad/spline_curve.h"
 
@@ -23,6 +24,31 @@ Acad::ErrorStatus AcDbSpline::intersectWith(const AcDbSpline* pOther, AcDb::Inte
     for (const AcGePoint2d& crossing : Crossings(mine, other))
         points.append({crossing.x, crossing.y, 0.0});
     return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbSpline::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    pFiler->writeInt32(m_nOrder);
+    pFiler->writeDouble(m_dFitTolerance);
+    pFiler->writeInt32(numFitPoints());
+    for (const AcGePoint3d& point : m_arFitPoints)
+        pFiler->writePoint3d(point);
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbSpline::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgInFields(pFiler); status != Acad::eOk) return status;
+    Adesk::Int32 nPoints = 0;
+    pFiler->readInt32(&m_nOrder);
+    pFiler->readDouble(&m_dFitTolerance);
+    pFiler->readInt32(&nPoints);
+    m_arFitPoints.clear();
+    for (Adesk::Int32 i = 0; i < nPoints; ++i) {
+        AcGePoint3d point;
+        if (pFiler->readPoint3d(&point) != Acad::eOk) break;
+        m_arFitPoints.push_back(point);
+    }
+    return pFiler->filerStatus();
 }
 
 Adesk::Boolean AcDbSpline::subWorldDraw(AcGiWorldDraw* pMode) {

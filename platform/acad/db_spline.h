@@ -22,6 +22,8 @@ public:
     /// when a curve has fewer than two points; no crossing is eOk with nothing appended.
     Acad::ErrorStatus intersectWith(const AcDbSpline* pOther, AcDb::Intersect mode, AcGePoint3dArray& points,
                                     Adesk::GsMarker thisMarker = 0, Adesk::GsMarker otherMarker = 0) const;
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;

@@ -2,8 +2,10 @@
 // What a drawing knows of one of its objects. For the drawing database itself only.
 
 #include "platform/acad/db_object.h"
+#include "platform/acad/memory_filer.h"
 
 #include <memory>
+#include <optional>
 
 struct CDbStub {
     AcDbDatabase* m_pDatabase = nullptr;
@@ -11,8 +13,11 @@ struct CDbStub {
     std::unique_ptr<AcDbObject> m_pObject;
     int m_nReaders = 0;
     bool m_bWriting = false, m_bNotifying = false, m_bErased = false;
-    bool m_bModified = false; ///< changed in this opening
-    bool m_bNoted = false;    ///< stands in the drawing's list of changed entities
+    bool m_bModified = false;          ///< changed in this opening
+    bool m_bErasureChanged = false;    ///< erased or brought back in this opening
+    bool m_bUndoing = false;           ///< an undo or redo is reading its record
+    std::optional<CDbRecord> m_before; ///< as it was when opened for writing, while undo is recorded
+    bool m_bNoted = false;             ///< stands in the drawing's list of changed entities
 
     bool IsOpen() const { return m_nReaders > 0 || m_bWriting || m_bNotifying; }
 };

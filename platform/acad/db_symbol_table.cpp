@@ -1,7 +1,9 @@
 #include "platform/acad/db_symbol_table.h"
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_filer.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/filed_text.h"
 #include "platform/acad/wide_names.h"
 
 #include <algorithm>
@@ -24,6 +26,16 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const ACHAR* name) {
     }
     m_strName = name;
     return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbSymbolTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbObject::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    return pFiler->writeString(m_strName.c_str());
+}
+
+Acad::ErrorStatus AcDbSymbolTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbObject::dwgInFields(pFiler); status != Acad::eOk) return status;
+    return ReadText(pFiler, m_strName);
 }
 
 AcDbObjectId AcDbSymbolTable::Find(const ACHAR* name) const {

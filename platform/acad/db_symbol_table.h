@@ -12,6 +12,8 @@ public:
     const std::wstring& Name() const { return m_strName; }
     Acad::ErrorStatus getName(std::wstring& name) const;
     Acad::ErrorStatus setName(const ACHAR* name);
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 private:
     std::wstring m_strName;

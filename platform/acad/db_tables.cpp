@@ -1,7 +1,9 @@
 #include "platform/acad/db_tables.h"
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_filer.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/filed_text.h"
 #include "platform/windows/code_page.h"
 
 #include <algorithm>
@@ -46,6 +48,16 @@ std::vector<AcDbObjectId> AcDbBlockTableRecord::EntityIds(bool bWithErased) cons
     return ids;
 }
 
+Acad::ErrorStatus AcDbBlockTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgOutFields(pFiler);
+    return status == Acad::eOk ? pFiler->writePoint3d(m_ptOrigin) : status;
+}
+
+Acad::ErrorStatus AcDbBlockTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgInFields(pFiler);
+    return status == Acad::eOk ? pFiler->readPoint3d(&m_ptOrigin) : status;
+}
+
 Acad::ErrorStatus AcDbLayerTableRecord::SetColorIndex(Adesk::UInt16 color) {
     assertWriteEnabled();
     if (color == 0 || color >= g_nColorByLayer) return Acad::eInvalidInput;
@@ -63,6 +75,23 @@ Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(AcDbObjectId idLinet
     return Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbLayerTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgOutFields(pFiler);
+    if (status != Acad::eOk) return status;
+    pFiler->writeUInt16(m_nColorIndex);
+    return pFiler->writeHardPointerId(m_idLinetype);
+}
+
+Acad::ErrorStatus AcDbLayerTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgInFields(pFiler);
+    if (status != Acad::eOk) return status;
+    pFiler->readUInt16(&m_nColorIndex);
+    if (m_nColorIndex == 0 || m_nColorIndex >= g_nColorByLayer) m_nColorIndex = g_nWhite;
+    pFiler->readHardPointerId(&m_idLinetype);
+    if (!PeekObject<AcDbLinetypeTableRecord>(m_idLinetype)) m_idLinetype.setNull();
+    return pFiler->filerStatus();
+}
+
 Acad::ErrorStatus AcDbLinetypeTableRecord::SetPattern(const ACHAR* comments, std::vector<double> dashes) {
     assertWriteEnabled();
     if (!std::all_of(dashes.begin(), dashes.end(), [](double length) { return std::isfinite(length); }))
@@ -70,6 +99,31 @@ Acad::ErrorStatus AcDbLinetypeTableRecord::SetPattern(const ACHAR* comments, std
     m_strComments = comments ? comments : L"";
     m_arDashes = std::move(dashes);
     return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLinetypeTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgOutFields(pFiler);
+    if (status != Acad::eOk) return status;
+    pFiler->writeString(m_strComments.c_str());
+    pFiler->writeInt32(static_cast<Adesk::Int32>(m_arDashes.size()));
+    for (const double dash : m_arDashes)
+        pFiler->writeDouble(dash);
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbLinetypeTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgInFields(pFiler);
+    if (status != Acad::eOk) return status;
+    ReadText(pFiler, m_strComments);
+    Adesk::Int32 nDashes = 0;
+    pFiler->readInt32(&nDashes);
+    m_arDashes.clear();
+    for (Adesk::Int32 i = 0; i < nDashes; ++i) {
+        double dash = 0.0;
+        if (pFiler->readDouble(&dash) != Acad::eOk) break;
+        m_arDashes.push_back(dash);
+    }
+    return pFiler->filerStatus();
 }
 
 Acad::ErrorStatus AcDbTextStyleTableRecord::setFont(const ACHAR* typeface, Adesk::Boolean bold,
@@ -139,4 +193,28 @@ Acad::ErrorStatus AcDbTextStyleTableRecord::setObliquingAngle(double radians) {
 CTextFont AcDbTextStyleTableRecord::Font() const {
     if (!m_strTypeface.empty()) return {GbkFromWide(m_strTypeface), std::string()};
     return {GbkFromWide(m_strFileName), GbkFromWide(m_strBigFontFileName)};
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgOutFields(pFiler);
+    if (status != Acad::eOk) return status;
+    for (const std::wstring* pText : {&m_strTypeface, &m_strFileName, &m_strBigFontFileName})
+        pFiler->writeString(pText->c_str());
+    for (const int value : {m_bBold, m_bItalic, m_nCharset, m_nPitchAndFamily})
+        pFiler->writeInt32(value);
+    for (const double value : {m_dTextSize, m_dXScale, m_dObliquingAngle})
+        pFiler->writeDouble(value);
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbTextStyleTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
+    const Acad::ErrorStatus status = AcDbSymbolTableRecord::dwgInFields(pFiler);
+    if (status != Acad::eOk) return status;
+    for (std::wstring* pText : {&m_strTypeface, &m_strFileName, &m_strBigFontFileName})
+        ReadText(pFiler, *pText);
+    for (int* pValue : {&m_bBold, &m_bItalic, &m_nCharset, &m_nPitchAndFamily})
+        pFiler->readInt32(pValue);
+    for (double* pValue : {&m_dTextSize, &m_dXScale, &m_dObliquingAngle})
+        pFiler->readDouble(pValue);
+    return pFiler->filerStatus();
 }

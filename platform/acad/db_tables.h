@@ -5,7 +5,11 @@
 #include "platform/acad/db_symbol_table.h"
 #include "platform/acad/text_metrics.h"
 
-/// A block: its entities in drawing order. Model space is one.
+/// The colour index that is white on a dark ground and black on paper.
+inline constexpr Adesk::UInt16 g_nWhite = 7;
+
+/// A block: its entities in drawing order. Model space is one. Its record does not hold the order, which only
+/// ever grows: an entity that is undone is an erased one.
 class AcDbBlockTableRecord : public AcDbSymbolTableRecord {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTableRecord)
@@ -15,6 +19,8 @@ public:
     Acad::ErrorStatus appendAcDbEntity(AcDbEntity* pEntity);
     AcGePoint3d origin() const { return m_ptOrigin; }
     Acad::ErrorStatus setOrigin(const AcGePoint3d& origin);
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
     /// The entities, erased ones left out unless asked for.
     std::vector<AcDbObjectId> EntityIds(bool bWithErased = false) const;
 
@@ -30,9 +36,11 @@ public:
     Acad::ErrorStatus SetColorIndex(Adesk::UInt16 color);
     AcDbObjectId linetypeObjectId() const { return m_idLinetype; } ///< null means Continuous
     Acad::ErrorStatus setLinetypeObjectId(AcDbObjectId idLinetype);
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 private:
-    Adesk::UInt16 m_nColorIndex = 7;
+    Adesk::UInt16 m_nColorIndex = g_nWhite;
     AcDbObjectId m_idLinetype;
 };
 
@@ -44,6 +52,8 @@ public:
     const std::vector<double>& Dashes() const { return m_arDashes; }
     const std::wstring& Comments() const { return m_strComments; }
     Acad::ErrorStatus SetPattern(const ACHAR* comments, std::vector<double> dashes);
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 private:
     std::wstring m_strComments;
@@ -69,6 +79,8 @@ public:
     double textSize() const { return m_dTextSize; }
     double xScale() const { return m_dXScale; }
     double obliquingAngle() const { return m_dObliquingAngle; }
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
     /// What its texts are measured and painted with: the font by name, else the shape-font files.
     CTextFont Font() const;
 

@@ -1,7 +1,9 @@
 #include "platform/acad/db_text.h"
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_filer.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/filed_text.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/plane_transform.h"
 #include "platform/acad/text_box.h"
@@ -81,6 +83,26 @@ Acad::ErrorStatus AcDbText::setTextStyle(AcDbObjectId idStyle) {
     if (!idStyle.isNull() && database() && idStyle.database() != database()) return Acad::eWrongDatabase;
     m_idStyle = idStyle;
     return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    pFiler->writePoint3d(m_ptPosition);
+    pFiler->writeString(m_strText.c_str());
+    for (const double value : {m_dHeight, m_dRotation, m_dWidthFactor, m_dOblique})
+        pFiler->writeDouble(value);
+    return pFiler->writeHardPointerId(m_idStyle);
+}
+
+Acad::ErrorStatus AcDbText::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgInFields(pFiler); status != Acad::eOk) return status;
+    pFiler->readPoint3d(&m_ptPosition);
+    ReadText(pFiler, m_strText);
+    for (double* pValue : {&m_dHeight, &m_dRotation, &m_dWidthFactor, &m_dOblique})
+        pFiler->readDouble(pValue);
+    pFiler->readHardPointerId(&m_idStyle);
+    if (!PeekObject<AcDbTextStyleTableRecord>(m_idStyle)) m_idStyle.setNull();
+    return pFiler->filerStatus();
 }
 
 CTextPrimitive AcDbText::Primitive() const {

@@ -28,6 +28,8 @@ public:
     Acad::ErrorStatus setWidthFactor(double factor);
     Acad::ErrorStatus setOblique(double radians);
     Acad::ErrorStatus setTextStyle(AcDbObjectId idStyle);
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;

@@ -35,8 +35,9 @@ constexpr const char* g_arStatusNames[] = {
     "eDegenerateGeometry",
     "eNotInBlock",
     "eIsWriteProtected",
+    "eNotOpenForNotify",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eIsWriteProtected + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eNotOpenForNotify + 1, "every status has its name");
 
 } // namespace
 

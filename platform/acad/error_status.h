@@ -34,6 +34,7 @@ enum ErrorStatus {
     eDegenerateGeometry = 26,
     eNotInBlock = 27,
     eIsWriteProtected = 28,
+    eNotOpenForNotify = 29,
 };
 
 /// The status's name, for messages ("eWasErased").

@@ -131,3 +131,113 @@ TEST(DbObjectDeathTest, StopsTheProgramWhenAClosedObjectIsChanged) {
     AcGePoint2d point;
     EXPECT_DEATH(pPolyline->getPointAt(0, point), "free or open");
 }
+
+namespace {
+
+/// Notes what it is told, and follows by one unit.
+class CFollower : public AcDbPolyline {
+public:
+    void modified(const AcDbObject* pObject) override {
+        m_bSawOpen = pObject->isReadEnabled() && !pObject->isWriteEnabled();
+        Adesk::Boolean bWasWritable = Adesk::kTrue;
+        m_upgraded = upgradeFromNotify(bWasWritable);
+        if (m_upgraded != Acad::eOk) return;
+        addVertexAt(numVerts(), {1.0, 1.0});
+        downgradeToNotify(bWasWritable);
+    }
+    void erased(const AcDbObject*, Adesk::Boolean bErased) override { m_nErasures += bErased ? 1 : -1; }
+
+    bool m_bSawOpen = false;
+    Acad::ErrorStatus m_upgraded = Acad::eInvalidInput;
+    int m_nErasures = 0;
+};
+
+class PersistentReactor : public testing::Test {
+protected:
+    PersistentReactor() {
+        CDbOpen<AcDbPolyline> source(m_idSource, AcDb::kForWrite);
+        source->addPersistentReactor(m_idFollower);
+        m_database.TakeChangedEntities();
+    }
+    void Change() { CDbOpen<AcDbPolyline>(m_idSource, AcDb::kForWrite)->addVertexAt(0, {0.0, 0.0}); }
+
+    AcDbDatabase m_database;
+    CFollower* m_pFollower = new CFollower;
+    AcDbObjectId m_idFollower = Append(m_database, m_pFollower);
+    AcDbObjectId m_idSource = Append(m_database, new AcDbPolyline);
+};
+
+} // namespace
+
+TEST_F(PersistentReactor, IsToldOfAChangeWhenTheChangedObjectIsClosed) {
+    const unsigned int nBefore = m_pFollower->numVerts();
+    {
+        CDbOpen<AcDbPolyline> source(m_idSource, AcDb::kForWrite);
+        source->addVertexAt(0, {0.0, 0.0});
+        EXPECT_EQ(m_pFollower->numVerts(), nBefore);
+    }
+    EXPECT_EQ(m_pFollower->m_upgraded, Acad::eOk);
+    EXPECT_EQ(m_pFollower->numVerts(), nBefore + 1);
+    EXPECT_TRUE(m_pFollower->m_bSawOpen);
+    EXPECT_EQ(OpenStatus(m_idFollower, AcDb::kForWrite), Acad::eOk) << "nothing is left open";
+    EXPECT_EQ(m_database.TakeChangedEntities(), (std::vector<AcDbObjectId>{m_idFollower, m_idSource}));
+}
+
+TEST_F(PersistentReactor, IsNotToldWhenNothingWasSaidToChange) {
+    const unsigned int nBefore = m_pFollower->numVerts();
+    EXPECT_EQ(OpenStatus(m_idSource, AcDb::kForWrite), Acad::eOk);
+    EXPECT_EQ(OpenStatus(m_idSource, AcDb::kForRead), Acad::eOk);
+    EXPECT_EQ(m_pFollower->numVerts(), nBefore);
+}
+
+TEST_F(PersistentReactor, ThatSomebodyReadsCannotFollow) {
+    const unsigned int nBefore = m_pFollower->numVerts();
+    {
+        const CDbOpen<AcDbPolyline> reader(m_idFollower);
+        Change();
+    }
+    EXPECT_EQ(m_pFollower->m_upgraded, Acad::eWasOpenForRead);
+    EXPECT_EQ(m_pFollower->numVerts(), nBefore);
+}
+
+TEST_F(PersistentReactor, ThatIsOpenForWritingFollowsAndStaysOpen) {
+    CDbOpen<AcDbPolyline> writer(m_idFollower, AcDb::kForWrite);
+    const unsigned int nBefore = m_pFollower->numVerts();
+    Change();
+    EXPECT_EQ(m_pFollower->numVerts(), nBefore + 1);
+    EXPECT_TRUE(m_pFollower->isWriteEnabled());
+}
+
+TEST_F(PersistentReactor, IsToldOfErasureAndNotOnceItIsErasedItself) {
+    CDbOpen<AcDbPolyline>(m_idSource, AcDb::kForWrite)->erase();
+    EXPECT_EQ(m_pFollower->m_nErasures, 1);
+    CDbOpen<AcDbPolyline>(m_idFollower, AcDb::kForWrite)->erase();
+    AcDbObject* pSource = nullptr;
+    ASSERT_EQ(acdbOpenAcDbObject(pSource, m_idSource, AcDb::kForWrite, true), Acad::eOk);
+    pSource->erase(false);
+    pSource->close();
+    EXPECT_EQ(m_pFollower->m_nErasures, 1);
+}
+
+TEST_F(PersistentReactor, IsKnownOnceAndCanBeTakenAway) {
+    CDbOpen<AcDbPolyline> source(m_idSource, AcDb::kForWrite);
+    EXPECT_EQ(source->addPersistentReactor(m_idFollower), Acad::eOk);
+    EXPECT_EQ(source->PersistentReactors().size(), 1U);
+    EXPECT_EQ(source->addPersistentReactor(AcDbObjectId::kNull), Acad::eNullObjectId);
+    AcDbDatabase other;
+    EXPECT_EQ(source->addPersistentReactor(other.clayer()), Acad::eWrongDatabase);
+    EXPECT_EQ(source->removePersistentReactor(m_idFollower), Acad::eOk);
+    EXPECT_EQ(source->removePersistentReactor(m_idFollower), Acad::eKeyNotFound);
+    EXPECT_FALSE(source->hasPersistentReactor(m_idFollower));
+}
+
+TEST(OpenForNotify, IsNoStateFromWhichAClosedObjectIsUpgraded) {
+    AcDbDatabase database;
+    const AcDbObjectId id = Append(database, new AcDbPolyline);
+    AcDbObject* pObject = nullptr;
+    ASSERT_EQ(acdbOpenAcDbObject(pObject, id, AcDb::kForRead), Acad::eOk);
+    Adesk::Boolean bWasWritable = Adesk::kTrue;
+    EXPECT_EQ(pObject->upgradeFromNotify(bWasWritable), Acad::eNotOpenForNotify);
+    EXPECT_EQ(pObject->downgradeToNotify(Adesk::kFalse), Acad::eNotOpenForNotify);
+    pObject->close();
+}

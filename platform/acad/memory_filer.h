@@ -1,0 +1,143 @@
+#pragma once
+// Records kept in memory: for undo, for copies, and for what outlives its class.
+
+#include "platform/acad/db_filer.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// A record: its bytes, in which an id stands as its place in the list beside them.
+struct CDbRecord {
+    std::vector<std::byte> m_arBytes;
+    std::vector<AcDbObjectId> m_arIds;
+    bool operator==(const CDbRecord&) const = default;
+    bool IsEmpty() const { return m_arBytes.empty(); }
+};
+
+/// Writes a record.
+class CRecordWriter final : public AcDbDwgFiler {
+public:
+    explicit CRecordWriter(AcDb::FilerType type)
+        : m_type(type) {}
+    CDbRecord Take() { return std::move(m_record); }
+
+    AcDb::FilerType filerType() const override { return m_type; }
+    Acad::ErrorStatus filerStatus() const override { return m_status; }
+    void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
+    void resetFilerStatus() override { m_status = Acad::eOk; }
+
+    Acad::ErrorStatus writeBoolean(Adesk::Boolean value) override { return Put(value); }
+    Acad::ErrorStatus writeInt8(Adesk::Int8 value) override { return Put(value); }
+    Acad::ErrorStatus writeInt16(Adesk::Int16 value) override { return Put(value); }
+    Acad::ErrorStatus writeUInt16(Adesk::UInt16 value) override { return Put(value); }
+    Acad::ErrorStatus writeInt32(Adesk::Int32 value) override { return Put(value); }
+    Acad::ErrorStatus writeDouble(double value) override { return Put(value); }
+    Acad::ErrorStatus writePoint2d(const AcGePoint2d& value) override;
+    Acad::ErrorStatus writePoint3d(const AcGePoint3d& value) override;
+    Acad::ErrorStatus writeVector3d(const AcGeVector3d& value) override;
+    Acad::ErrorStatus writeString(const ACHAR* text) override;
+    Acad::ErrorStatus writeBytes(const void* pBytes, Adesk::UInt32 length) override;
+    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId& id) override { return PutId(id); }
+    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId& id) override { return PutId(id); }
+    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId& id) override { return PutId(id); }
+    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId& id) override { return PutId(id); }
+
+    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readDouble(double* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readPoint2d(AcGePoint2d* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readPoint3d(AcGePoint3d* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readVector3d(AcGeVector3d* pValue) override { return Refuse(pValue); }
+    Acad::ErrorStatus readString(ACHAR** pText) override;
+    Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
+    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return Refuse(pId); }
+    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return Refuse(pId); }
+    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return Refuse(pId); }
+    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return Refuse(pId); }
+
+private:
+    template <class T>
+    Acad::ErrorStatus Put(const T& value) {
+        return writeBytes(&value, sizeof value);
+    }
+    template <class T>
+    Acad::ErrorStatus Refuse(T* pValue) {
+        *pValue = T();
+        return m_status = Acad::eFilerError;
+    }
+    Acad::ErrorStatus PutId(const AcDbObjectId& id);
+
+    AcDb::FilerType m_type;
+    Acad::ErrorStatus m_status = Acad::eOk;
+    CDbRecord m_record;
+};
+
+/// Reads a record, whatever it holds: what is not there, or makes no sense, sets the status. The record must
+/// outlive the reader.
+class CRecordReader final : public AcDbDwgFiler {
+public:
+    CRecordReader(AcDb::FilerType type, const CDbRecord& record)
+        : m_type(type)
+        , m_record(record) {}
+    /// Bytes not read yet.
+    std::size_t Left() const { return m_record.m_arBytes.size() - m_nAt; }
+
+    AcDb::FilerType filerType() const override { return m_type; }
+    Acad::ErrorStatus filerStatus() const override { return m_status; }
+    void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
+    void resetFilerStatus() override { m_status = Acad::eOk; }
+
+    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readDouble(double* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readPoint2d(AcGePoint2d* pValue) override;
+    Acad::ErrorStatus readPoint3d(AcGePoint3d* pValue) override;
+    Acad::ErrorStatus readVector3d(AcGeVector3d* pValue) override;
+    Acad::ErrorStatus readString(ACHAR** pText) override;
+    Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
+    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return GetId(pId); }
+    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return GetId(pId); }
+    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return GetId(pId); }
+    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return GetId(pId); }
+
+    Acad::ErrorStatus writeBoolean(Adesk::Boolean) override { return Fail(); }
+    Acad::ErrorStatus writeInt8(Adesk::Int8) override { return Fail(); }
+    Acad::ErrorStatus writeInt16(Adesk::Int16) override { return Fail(); }
+    Acad::ErrorStatus writeUInt16(Adesk::UInt16) override { return Fail(); }
+    Acad::ErrorStatus writeInt32(Adesk::Int32) override { return Fail(); }
+    Acad::ErrorStatus writeDouble(double) override { return Fail(); }
+    Acad::ErrorStatus writePoint2d(const AcGePoint2d&) override { return Fail(); }
+    Acad::ErrorStatus writePoint3d(const AcGePoint3d&) override { return Fail(); }
+    Acad::ErrorStatus writeVector3d(const AcGeVector3d&) override { return Fail(); }
+    Acad::ErrorStatus writeString(const ACHAR*) override { return Fail(); }
+    Acad::ErrorStatus writeBytes(const void*, Adesk::UInt32) override { return Fail(); }
+    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId&) override { return Fail(); }
+    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId&) override { return Fail(); }
+    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId&) override { return Fail(); }
+    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId&) override { return Fail(); }
+
+private:
+    Acad::ErrorStatus Fail() { return m_status = Acad::eFilerError; }
+    template <class T>
+    Acad::ErrorStatus Get(T* pValue) {
+        *pValue = T();
+        return readBytes(pValue, sizeof *pValue);
+    }
+    Acad::ErrorStatus GetId(AcDbObjectId* pId);
+
+    AcDb::FilerType m_type;
+    Acad::ErrorStatus m_status = Acad::eOk;
+    const CDbRecord& m_record;
+    std::size_t m_nAt = 0;
+};
+
+/// The record that an object writes.
+CDbRecord RecordOf(const AcDbObject& object, AcDb::FilerType type);
