@@ -36,6 +36,7 @@ AcDbDatabase::AcDbDatabase() {
     auto* const pLayers = AddTable<AcDbLayerTable>(*this, m_idLayerTable);
     auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, m_idLinetypeTable);
     auto* const pStyles = AddTable<AcDbTextStyleTable>(*this, m_idTextStyleTable);
+    auto* const pApps = AddTable<AcDbRegAppTable>(*this, m_idRegAppTable);
     m_idModelSpace = AddNamed(*pBlocks, ACDB_MODEL_SPACE, new AcDbBlockTableRecord);
     AddNamed(*pBlocks, ACDB_PAPER_SPACE, new AcDbBlockTableRecord);
     AddNamed(*pLinetypes, L"ByLayer", new AcDbLinetypeTableRecord);
@@ -44,8 +45,10 @@ AcDbDatabase::AcDbDatabase() {
     m_variables.m_idClayer = AddNamed(*pLayers, L"0", new AcDbLayerTableRecord);
     auto* const pStandard = new AcDbTextStyleTableRecord;
     pStandard->setFileName(L"txt.shx");
+    AddNamed(*pApps, L"ACAD", new AcDbRegAppTableRecord);
     m_variables.m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
-    for (AcDbObject* pTable : std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles})
+    for (AcDbObject* pTable :
+         std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles, pApps})
         pTable->close();
     m_bModified = false;
 }
@@ -72,6 +75,10 @@ Acad::ErrorStatus AcDbDatabase::getLinetypeTable(AcDbLinetypeTable*& pTable, AcD
 
 Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& pTable, AcDb::OpenMode mode) {
     return acdbOpenObject(pTable, m_idTextStyleTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getRegAppTable(AcDbRegAppTable*& pTable, AcDb::OpenMode mode) {
+    return acdbOpenObject(pTable, m_idRegAppTable, mode);
 }
 
 Acad::ErrorStatus AcDbDatabase::setLtscale(double scale) {

@@ -15,7 +15,7 @@ public:
     AcRxClass* isA() const override { return AcDbDatabase::desc(); }
 
     /// A new drawing holds model and paper space, layer "0", the line types ByLayer, ByBlock and Continuous,
-    /// and the text style "Standard".
+    /// the text style "Standard" and the application "ACAD".
     AcDbDatabase();
     ~AcDbDatabase() override;
 
@@ -23,10 +23,12 @@ public:
     Acad::ErrorStatus getLayerTable(AcDbLayerTable*& pTable, AcDb::OpenMode mode);
     Acad::ErrorStatus getLinetypeTable(AcDbLinetypeTable*& pTable, AcDb::OpenMode mode);
     Acad::ErrorStatus getTextStyleTable(AcDbTextStyleTable*& pTable, AcDb::OpenMode mode);
+    Acad::ErrorStatus getRegAppTable(AcDbRegAppTable*& pTable, AcDb::OpenMode mode);
     AcDbObjectId blockTableId() const { return m_idBlockTable; }
     AcDbObjectId layerTableId() const { return m_idLayerTable; }
     AcDbObjectId linetypeTableId() const { return m_idLinetypeTable; }
     AcDbObjectId textStyleTableId() const { return m_idTextStyleTable; }
+    AcDbObjectId regAppTableId() const { return m_idRegAppTable; }
     AcDbObjectId ModelSpaceId() const { return m_idModelSpace; }
 
     double ltscale() const { return m_variables.m_dLtscale; }
@@ -67,7 +69,8 @@ private:
 
     std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
     Adesk::UInt64 m_nNextHandle = 1;
-    AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idModelSpace;
+    AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idRegAppTable;
+    AcDbObjectId m_idModelSpace;
     CDbVariables m_variables;
     CUndoLog m_undoLog{*this};
     std::wstring m_strFilename;

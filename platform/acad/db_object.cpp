@@ -197,11 +197,22 @@ bool AcDbObject::hasPersistentReactor(AcDbObjectId idReactor) const {
     return std::find(m_arReactors.begin(), m_arReactors.end(), idReactor) != m_arReactors.end();
 }
 
+resbuf* AcDbObject::xData(const ACHAR* appName) const {
+    assertReadEnabled();
+    return m_xdata.Chain(appName);
+}
+
+Acad::ErrorStatus AcDbObject::setXData(const resbuf* pChain) {
+    assertWriteEnabled();
+    return m_xdata.Put(pChain, database());
+}
+
 Acad::ErrorStatus AcDbObject::dwgOutFields(AcDbDwgFiler* pFiler) const {
     assertReadEnabled();
     pFiler->writeInt32(static_cast<Adesk::Int32>(m_arReactors.size()));
     for (const AcDbObjectId& idReactor : m_arReactors)
         pFiler->writeSoftPointerId(idReactor);
+    m_xdata.Write(pFiler);
     return pFiler->filerStatus();
 }
 
@@ -215,6 +226,7 @@ Acad::ErrorStatus AcDbObject::dwgInFields(AcDbDwgFiler* pFiler) {
         if (pFiler->readSoftPointerId(&idReactor) != Acad::eOk) break;
         if (!idReactor.isNull()) m_arReactors.push_back(idReactor);
     }
+    m_xdata.Read(pFiler);
     return pFiler->filerStatus();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/acad/db_object_id.h"
+#include "platform/acad/db_xdata.h"
 #include "platform/acad/error_status.h"
 #include "platform/acad/rx_class.h"
 
@@ -54,6 +55,11 @@ public:
     bool hasPersistentReactor(AcDbObjectId idReactor) const;
     const std::vector<AcDbObjectId>& PersistentReactors() const { return m_arReactors; }
 
+    /// The extended data of one application, or of all for null: see CXData::Chain.
+    resbuf* xData(const ACHAR* appName = nullptr) const;
+    Acad::ErrorStatus setXData(const resbuf* pChain); ///< see CXData::Put
+    const CXData& XData() const { return m_xdata; }
+
     // What a persistent reactor is told, opened for notify; the notifier is open for reading then.
     virtual void modified(const AcDbObject*) {}                           ///< it was closed after a change
     virtual void erased(const AcDbObject*, Adesk::Boolean /*bErased*/) {} ///< or brought back
@@ -80,6 +86,7 @@ private:
 
     AcDbObjectId m_id, m_idOwner;
     std::vector<AcDbObjectId> m_arReactors;
+    CXData m_xdata;
 };
 
 /// Opens a stored object. eNullObjectId, eWasErased (unless asked for erased ones), eWasOpenFor...,

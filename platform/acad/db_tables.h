@@ -1,5 +1,6 @@
 #pragma once
-// The tables of a drawing and their records: blocks, layers, line types, text styles.
+// The tables of a drawing and their records: blocks, layers, line types, text styles,
+// registered applications.
 
 #include "platform/acad/db_entity.h"
 #include "platform/acad/db_symbol_table.h"
@@ -91,6 +92,12 @@ private:
     double m_dTextSize = 0.0, m_dXScale = 1.0, m_dObliquingAngle = 0.0;
 };
 
+/// A registered application: its name is all there is.
+class AcDbRegAppTableRecord : public AcDbSymbolTableRecord {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbRegAppTableRecord)
+};
+
 class AcDbBlockTable : public AcDbSymbolTable {
 public:
     ACRX_DECLARE_MEMBERS(AcDbBlockTable)
@@ -106,4 +113,8 @@ public:
 class AcDbTextStyleTable : public AcDbSymbolTable {
 public:
     ACRX_DECLARE_MEMBERS(AcDbTextStyleTable)
+};
+class AcDbRegAppTable : public AcDbSymbolTable {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbRegAppTable)
 };

@@ -50,17 +50,6 @@ int acedFindFile(const ACHAR* name, ACHAR* result) {
     return RTNORM;
 }
 
-ACHAR* acutNewString(const ACHAR* text) {
-    if (!text) return nullptr;
-    const std::size_t size = std::wcslen(text) + 1;
-    return std::wmemcpy(new ACHAR[size], text, size);
-}
-
-void acutDelString(ACHAR*& text) {
-    delete[] text;
-    text = nullptr;
-}
-
 void* adsw_acadMainWnd() {
     return EditorHost();
 }

@@ -36,8 +36,9 @@ constexpr const char* g_arStatusNames[] = {
     "eNotInBlock",
     "eIsWriteProtected",
     "eNotOpenForNotify",
+    "eRegappIdNotFound",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eNotOpenForNotify + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eRegappIdNotFound + 1, "every status has its name");
 
 } // namespace
 

@@ -35,6 +35,7 @@ enum ErrorStatus {
     eNotInBlock = 27,
     eIsWriteProtected = 28,
     eNotOpenForNotify = 29,
+    eRegappIdNotFound = 30, ///< extended data under a name that the drawing has not registered
 };
 
 /// The status's name, for messages ("eWasErased").

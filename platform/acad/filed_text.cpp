@@ -1,6 +1,6 @@
 #include "platform/acad/filed_text.h"
 
-#include "platform/acad/editor.h"
+#include "platform/acad/result_buffer.h"
 
 Acad::ErrorStatus ReadText(AcDbDwgFiler* pFiler, std::wstring& strText) {
     ACHAR* text = nullptr;

@@ -1,7 +1,7 @@
 #include "platform/acad/memory_filer.h"
 
 #include "platform/acad/db_object.h"
-#include "platform/acad/editor.h"
+#include "platform/acad/result_buffer.h"
 
 #include <cstring>
 #include <cwchar>
