@@ -30,6 +30,11 @@ public:
     /// Takes the class out of the registry.
     static void rxExit();
 
+    /// The record in a drawing file: one flat sequence after the entity's own, without version or length.
+    /// What the filer says of it is its status; the result is eOk once the entity's own record is there.
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
+    /// In place of what the chart held, but for the four lists of circle values, which grow by what is read.
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color, Adesk::Boolean doSubents = Adesk::kTrue) override;
 
     /// Reads the sample's readings (m_nGCSY, m_strZKBH, m_strQYBH, m_strSYFF), reduces them, searches the

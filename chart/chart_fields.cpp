@@ -6,8 +6,8 @@
 namespace {
 using CRow = CFieldRow<CBRENChart>;
 
-// In the order of the drawing file's record; the number is the place in the class. The last rows are not
-// filed: a reloaded chart starts with these flags off.
+// In the order of the drawing file's record; the number is the place in the class. The greatest stress stands
+// in it twice. The last rows are not filed: a reloaded chart starts with these flags off.
 const CRow g_chartRows[] = {
     {"m_ptBase", 0, &CBRENChart::m_ptBase},
     {"m_ptCurveOrigin", 1, &CBRENChart::m_ptCurveOrigin},
@@ -40,10 +40,10 @@ const CRow g_chartRows[] = {
     {"m_arEffective", 21, &CBRENChart::m_arEffective},
     {"m_arStrainSeries", 36, &CBRENChart::m_arStrainSeries},
     {"m_arStressSeries", 37, &CBRENChart::m_arStressSeries},
-    {"m_arSigma3", 23, &CBRENChart::m_arSigma3},
-    {"m_arDeviator", 24, &CBRENChart::m_arDeviator},
-    {"m_arSigma3Eff", 25, &CBRENChart::m_arSigma3Eff},
-    {"m_arDeviatorEff", 26, &CBRENChart::m_arDeviatorEff},
+    {"m_arSigma3", 23, &CBRENChart::m_arSigma3, CFiling::Appended},
+    {"m_arDeviator", 24, &CBRENChart::m_arDeviator, CFiling::Appended},
+    {"m_arSigma3Eff", 25, &CBRENChart::m_arSigma3Eff, CFiling::Appended},
+    {"m_arDeviatorEff", 26, &CBRENChart::m_arDeviatorEff, CFiling::Appended},
     {"m_strGCBH", 28, &CBRENChart::m_strGCBH},
     {"m_strZKBH", 29, &CBRENChart::m_strZKBH},
     {"m_strQYBH", 30, &CBRENChart::m_strQYBH},
@@ -66,12 +66,17 @@ const CRow g_chartRows[] = {
     {"m_dAdoptC", 43, &CBRENChart::m_dAdoptC},
     {"m_dAdoptPhiEff", 48, &CBRENChart::m_dAdoptPhiEff},
     {"m_dAdoptCEff", 49, &CBRENChart::m_dAdoptCEff},
+    {"m_dMaxSigma1", 55, &CBRENChart::m_dMaxSigma1, CFiling::Again},
     {"m_bSingleSpecimen", 56, CFlagMember<CBRENChart>{&CBRENChart::m_bSingleSpecimen}},
     {"m_idTextStyle", 59, &CBRENChart::m_idTextStyle},
-    {"m_bNoEnvelope", 57, CFlagMember<CBRENChart>{&CBRENChart::m_bNoEnvelope}, false},
-    {"m_bColorChanging", 58, CFlagMember<CBRENChart>{&CBRENChart::m_bColorChanging}, false},
+    {"m_bNoEnvelope", 57, CFlagMember<CBRENChart>{&CBRENChart::m_bNoEnvelope}, CFiling::None},
+    {"m_bColorChanging", 58, CFlagMember<CBRENChart>{&CBRENChart::m_bColorChanging}, CFiling::None},
 };
 } // namespace
+
+std::span<const CFieldRow<CBRENChart>> ChartRows() {
+    return g_chartRows;
+}
 
 CFieldTable* ChartFields() {
     static CFieldTableOf<CBRENChart> table(g_chartRows);

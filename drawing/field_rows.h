@@ -15,8 +15,16 @@ struct CFlagMember {
     Adesk::Int32 T::*m_pMember;
 };
 
-/// One row: a field's name, its place in the class's declaration, its member, and whether the file's record
-/// has it. A member of another type does not compile.
+/// How a field stands in the file's record.
+enum class CFiling {
+    Plain,
+    None,     ///< not at all
+    Appended, ///< a list with a count of 16 bits, to which a reading adds what it reads
+    Again,    ///< once more: its field has a row already
+};
+
+/// One row: a field's name, its place in the class's declaration, its member, and how the file's record has
+/// it. A member of another type does not compile.
 template <class T>
 struct CFieldRow {
     using CMember =
@@ -26,7 +34,7 @@ struct CFieldRow {
     const char* m_pName;
     int m_nDeclared;
     CMember m_member;
-    bool m_bFiled = true;
+    CFiling m_filing = CFiling::Plain;
 };
 
 /// Fields as plain values, for those who know the class by its table only.
@@ -82,13 +90,15 @@ void Into(CStringArray& field, const std::vector<std::string>& value);
 template <class T>
 class CFieldTableOf final : public CFieldTable {
 public:
-    explicit CFieldTableOf(std::span<const CFieldRow<T>> rows)
-        : m_rows(rows) {}
+    explicit CFieldTableOf(std::span<const CFieldRow<T>> rows) {
+        for (const CFieldRow<T>& row : rows)
+            if (row.m_filing != CFiling::Again) m_arRows.push_back(&row);
+    }
 
-    int Count() const override { return static_cast<int>(m_rows.size()); }
+    int Count() const override { return static_cast<int>(m_arRows.size()); }
     CFieldInfo Info(int index) const override {
         const CFieldRow<T>& row = Row(index);
-        return {row.m_pName, row.m_nDeclared, row.m_bFiled};
+        return {row.m_pName, row.m_nDeclared, row.m_filing != CFiling::None};
     }
     CFieldValue Get(const AcDbObject& object, int index) const override {
         const T& source = static_cast<const T&>(object);
@@ -100,7 +110,7 @@ public:
     }
 
 private:
-    const CFieldRow<T>& Row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
+    const CFieldRow<T>& Row(int index) const { return *m_arRows[static_cast<std::size_t>(index)]; }
 
     template <class M>
     static CFieldValue Read(const T& object, M T::*pMember) {
@@ -130,5 +140,5 @@ private:
         return 1;
     }
 
-    std::span<const CFieldRow<T>> m_rows;
+    std::vector<const CFieldRow<T>*> m_arRows; ///< each field once
 };

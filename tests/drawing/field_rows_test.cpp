@@ -15,7 +15,7 @@ public:
 const CFieldRow<CRowsObject> g_rows[] = {
     {"m_bFlag", 1, CFlagMember<CRowsObject>{&CRowsObject::m_bFlag}},
     {"m_nShort", 0, &CRowsObject::m_nShort},
-    {"m_arLists", 2, &CRowsObject::m_arLists, false},
+    {"m_arLists", 2, &CRowsObject::m_arLists, CFiling::None},
 };
 } // namespace
 
