@@ -3,6 +3,7 @@
 #include "analysis/numbers.h"
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
 #include "platform/windows/profile.h"
@@ -58,6 +59,20 @@ void Apply(const CStyleSettings& settings, int nPitchAndFamily, AcDbTextStyleTab
     record.setTextSize(settings.m_fHeight);
     record.setXScale(settings.m_fWidthFactor);
 }
+/// The line type's id if the drawing has it; else it is loaded, and the id stays as it was.
+Acad::ErrorStatus FindOrLoadLinetype(const CString& strName, AcDbDatabase& database,
+                                     AcDbObjectId& idLinetype) {
+    AcDbLinetypeTable* pTable = nullptr;
+    if (const Acad::ErrorStatus status = database.getLinetypeTable(pTable, AcDb::kForRead);
+        status != Acad::eOk)
+        return status;
+    const Acad::ErrorStatus found = pTable->getAt(ToWide(strName), idLinetype);
+    pTable->close();
+    if (found == Acad::eOk) return found;
+    const Acad::ErrorStatus loaded = database.loadLineTypeFile(ToWide(strName), L"acad.lin");
+    if (loaded != Acad::eOk) acutPrintf(L"未找到线型");
+    return loaded;
+}
 } // namespace
 
 void SetupChartTextStyle(AcGiTextStyle& style) {
@@ -66,6 +81,10 @@ void SetupChartTextStyle(AcGiTextStyle& style) {
     style.setTextSize(2.5);
     style.setXScale(1.0);
     style.setTrackingPercent(80.0);
+}
+
+void SetupHeadingTextStyle(AcGiTextStyle& style) {
+    SetupChartTextStyle(style);
 }
 
 int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDatabase* pDatabase) {
@@ -93,15 +112,66 @@ int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDa
 
 int LoadLinetypeId(const CString& strName, AcDbDatabase* pDatabase, AcDbObjectId& idLinetype) {
     pDatabase = OrWorking(pDatabase);
-    if (!pDatabase) return 0;
-    AcDbLinetypeTable* pTable = nullptr;
-    if (pDatabase->getLinetypeTable(pTable, AcDb::kForRead) != Acad::eOk) return 0;
-    const Acad::ErrorStatus status = pTable->getAt(ToWide(strName), idLinetype);
-    pTable->close();
-    if (status != Acad::eOk && pDatabase->loadLineTypeFile(ToWide(strName), L"acad.lin") != Acad::eOk) {
-        acutPrintf(L"未找到线型");
-        return 0;
-    }
+    if (!pDatabase || FindOrLoadLinetype(strName, *pDatabase, idLinetype) != Acad::eOk) return 0;
     if (strName == "Dashed2") pDatabase->setLtscale(g_dDashedScale);
     return 1;
+}
+
+int SetCurrentLinetype(const CString& strName, AcDbDatabase* pDatabase) {
+    pDatabase = OrWorking(pDatabase);
+    AcDbObjectId idLinetype;
+    if (!pDatabase || FindOrLoadLinetype(strName, *pDatabase, idLinetype) != Acad::eOk) return 0;
+    if (idLinetype.isNull()) { // loaded just now
+        const CDbOpen<AcDbLinetypeTable> pTable(pDatabase->linetypeTableId());
+        if (!pTable || pTable->getAt(ToWide(strName), idLinetype) != Acad::eOk) return 0;
+    }
+    pDatabase->setCeltype(idLinetype);
+    return 1;
+}
+
+int CreateShxTextStyle(const CString& strName, const CString& strFontFile, const CString& strBigFontFile,
+                       AcDbDatabase* pDatabase, AcDbObjectId& idStyle) {
+    for (const CString& strFile : {strFontFile, strBigFontFile}) {
+        std::array<ACHAR, 1024> path{};
+        if (acedFindFile(ToWide(strFile), path.data()) == RTNORM) continue;
+        CString strMessage;
+        strMessage.Format("未找到形文件%s", strFile.GetString());
+        ShowMessage(strMessage);
+        return 0;
+    }
+    pDatabase = OrWorking(pDatabase);
+    if (!pDatabase) return 0;
+    const CDbOpen<AcDbTextStyleTable> pTable(pDatabase->textStyleTableId(), AcDb::kForWrite);
+    if (!pTable) return 0;
+    if (pTable->getAt(ToWide(strName), idStyle) != Acad::eOk) {
+        auto* pRecord = new AcDbTextStyleTableRecord;
+        pRecord->setName(ToWide(strName));
+        pRecord->setFileName(ToWide(strFontFile));
+        pRecord->setBigFontFileName(ToWide(strBigFontFile));
+        pTable->add(idStyle, pRecord);
+        pRecord->close();
+    }
+    pDatabase->setTextstyle(idStyle);
+    return 1;
+}
+
+Acad::ErrorStatus LayerIdByName(const CString& strName, AcDbObjectId& idLayer, AcDbDatabase* pDatabase) {
+    pDatabase = OrWorking(pDatabase);
+    if (!pDatabase) return Acad::eNoDatabase;
+    const CDbOpen<AcDbLayerTable> pTable(pDatabase->layerTableId());
+    return pTable ? pTable->getAt(ToWide(strName), idLayer) : pTable.Status();
+}
+
+int SetLayerZeroLinetype(const CString& strName) {
+    AcDbDatabase* const pDatabase = OrWorking(nullptr);
+    AcDbObjectId idLayer;
+    if (!pDatabase || LayerIdByName("0", idLayer, pDatabase) != Acad::eOk) return 0;
+    AcDbObjectId idLinetype;
+    const CDbOpen<AcDbLinetypeTable> pLinetypes(pDatabase->linetypeTableId());
+    if (pLinetypes && pLinetypes->getAt(ToWide(strName), idLinetype) != Acad::eOk) {
+        acutPrintf(L"\nUnable to find DASHED linetype. Using CONTINUOUS");
+        pLinetypes->getAt(L"CONTINUOUS", idLinetype);
+    }
+    const CDbOpen<AcDbLayerTableRecord> pLayer(idLayer, AcDb::kForWrite);
+    return pLayer && pLayer->setLinetypeObjectId(idLinetype) == Acad::eOk;
 }

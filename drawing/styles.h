@@ -11,6 +11,8 @@ extern AcGiTextStyle g_ChartTextStyle;
 
 /// The look of the chart's texts: upright "仿宋_GB2312", size 2.5, set with 80 percent of its advance widths.
 void SetupChartTextStyle(AcGiTextStyle& style);
+/// The same look for the heading of a sheet, which has a style of its own.
+void SetupHeadingTextStyle(AcGiTextStyle& style);
 
 /// Makes the text style of that name in the drawing's table from the section of that name in the settings
 /// ini, or brings an existing one up to date, and makes it current. A null database is the working one.
@@ -21,3 +23,19 @@ int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDa
 /// until the next lookup. A lookup of "Dashed2" also sets the drawing's line type scale to 10. A null
 /// database is the working one. 1, or 0 when it could not be loaded.
 int LoadLinetypeId(const CString& strName, AcDbDatabase* pDatabase, AcDbObjectId& idLinetype);
+
+/// Makes a line type the current one, loaded first when the drawing lacks it; the scale stays. 1, or 0 when
+/// it could not be loaded.
+int SetCurrentLinetype(const CString& strName, AcDbDatabase* pDatabase);
+
+/// Makes the text style of that name from two shape-font files, unless the drawing has one of the name, and
+/// makes it current. 1, or 0 after a message when the host finds one of the files nowhere.
+int CreateShxTextStyle(const CString& strName, const CString& strFontFile, const CString& strBigFontFile,
+                       AcDbDatabase* pDatabase, AcDbObjectId& idStyle);
+
+/// The id of a layer; what the lookup answers comes back.
+Acad::ErrorStatus LayerIdByName(const CString& strName, AcDbObjectId& idLayer, AcDbDatabase* pDatabase);
+
+/// Gives layer "0" of the working drawing a line type by name; one that the drawing lacks is told and
+/// replaced by CONTINUOUS. 1 when the layer could be changed.
+int SetLayerZeroLinetype(const CString& strName);

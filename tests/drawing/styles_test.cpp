@@ -120,3 +120,60 @@ TEST_F(Styles, AMissingLineTypeIsToldAndLeavesTheId) {
     EXPECT_TRUE(id.isNull());
     EXPECT_EQ(m_drawing.m_strPrinted, "未找到线型");
 }
+
+TEST_F(Styles, HeadingStyleLooksLikeTheChartsOwn) {
+    AcGiTextStyle style;
+    SetupHeadingTextStyle(style);
+    EXPECT_STREQ(style.fileName(), L"仿宋_GB2312");
+    EXPECT_EQ(style.textSize(), 2.5);
+    EXPECT_EQ(style.trackingPercent(), 80.0);
+}
+
+TEST_F(Styles, CurrentLineTypeIsLoadedAndLeavesTheScale) {
+    EXPECT_EQ(SetCurrentLinetype("Dashed2", nullptr), 1);
+    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Dashed2");
+    EXPECT_EQ(m_drawing.Database().ltscale(), 1.0);
+    EXPECT_EQ(SetCurrentLinetype("Continuous", nullptr), 1);
+    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Continuous");
+    EXPECT_EQ(SetCurrentLinetype("Zigzag", nullptr), 0);
+    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Continuous");
+    EXPECT_EQ(m_drawing.m_strPrinted, "未找到线型");
+}
+
+TEST_F(Styles, ShapeFontStyleNeedsBothFiles) {
+    AcDbObjectId id;
+    EXPECT_EQ(CreateShxTextStyle("SHX", "acad.lin", "nowhere.shx", nullptr, id), 0);
+    EXPECT_EQ(m_project.Boxes(), std::vector<std::string>{"未找到形文件nowhere.shx"});
+    EXPECT_TRUE(id.isNull());
+    // Whatever the host finds will do as a file.
+    EXPECT_EQ(CreateShxTextStyle("SHX", "acad.lin", "acad.lin", nullptr, id), 1);
+    EXPECT_EQ(m_drawing.Database().textstyle(), id);
+    {
+        const CDbOpen<AcDbTextStyleTableRecord> pRecord(id);
+        EXPECT_EQ(pRecord->FileName(), L"acad.lin");
+    }
+    AcDbObjectId idAgain;
+    EXPECT_EQ(CreateShxTextStyle("shx", "acad.lin", "acad.lin", nullptr, idAgain), 1);
+    EXPECT_EQ(idAgain, id);
+}
+
+TEST_F(Styles, LayersAreFoundByName) {
+    AcDbObjectId id;
+    EXPECT_EQ(LayerIdByName("0", id, nullptr), Acad::eOk);
+    EXPECT_EQ(id, m_drawing.Database().clayer());
+    EXPECT_EQ(LayerIdByName("探孔", id, nullptr), Acad::eKeyNotFound);
+}
+
+TEST_F(Styles, LayerZeroTakesALineTypeOrGoesContinuous) {
+    AcDbObjectId idDashed;
+    LoadLinetypeId("Dashed2", nullptr, idDashed);
+    const auto linetype = [&] {
+        const CDbOpen<AcDbLayerTableRecord> pLayer(m_drawing.Database().clayer());
+        return SymbolName(pLayer->linetypeObjectId());
+    };
+    EXPECT_EQ(SetLayerZeroLinetype("Dashed2"), 1);
+    EXPECT_EQ(linetype(), "Dashed2");
+    EXPECT_EQ(SetLayerZeroLinetype("DASHED"), 1);
+    EXPECT_EQ(linetype(), "Continuous");
+    EXPECT_EQ(m_drawing.m_strPrinted, "\nUnable to find DASHED linetype. Using CONTINUOUS");
+}
