@@ -1,0 +1,100 @@
+#include "platform/acad/db_arc.h"
+
+#include "platform/acad/db_filer.h"
+#include "platform/acad/plane_transform.h"
+#include "platform/acad/rx_class.h"
+
+#include <cmath>
+#include <numbers>
+
+ACRX_DEFINE_MEMBERS(AcDbArc, AcDbEntity, L"ARC")
+
+namespace {
+constexpr double g_dTurn = 2.0 * std::numbers::pi;
+}
+
+AcDbArc::AcDbArc(const AcGePoint3d& center, double radius, double startAngle, double endAngle)
+    : m_ptCenter(center)
+    , m_dRadius(radius)
+    , m_dStartAngle(startAngle)
+    , m_dEndAngle(endAngle) {}
+
+Acad::ErrorStatus AcDbArc::setCenter(const AcGePoint3d& center) {
+    assertWriteEnabled();
+    m_ptCenter = center;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setRadius(double radius) {
+    assertWriteEnabled();
+    if (!std::isfinite(radius) || radius <= 0.0) return Acad::eInvalidInput;
+    m_dRadius = radius;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setStartAngle(double radians) {
+    assertWriteEnabled();
+    if (!std::isfinite(radians)) return Acad::eInvalidInput;
+    m_dStartAngle = radians;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::setEndAngle(double radians) {
+    assertWriteEnabled();
+    if (!std::isfinite(radians)) return Acad::eInvalidInput;
+    m_dEndAngle = radians;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgOutFields(pFiler); status != Acad::eOk) return status;
+    pFiler->writePoint3d(m_ptCenter);
+    for (const double value : {m_dRadius, m_dStartAngle, m_dEndAngle})
+        pFiler->writeDouble(value);
+    return pFiler->filerStatus();
+}
+
+Acad::ErrorStatus AcDbArc::dwgInFields(AcDbDwgFiler* pFiler) {
+    if (const Acad::ErrorStatus status = AcDbEntity::dwgInFields(pFiler); status != Acad::eOk) return status;
+    pFiler->readPoint3d(&m_ptCenter);
+    for (double* pValue : {&m_dRadius, &m_dStartAngle, &m_dEndAngle})
+        pFiler->readDouble(pValue);
+    return pFiler->filerStatus();
+}
+
+double AcDbArc::Sweep() const {
+    const double dSweep = std::fmod(m_dEndAngle - m_dStartAngle, g_dTurn);
+    return dSweep > 0.0 ? dSweep : dSweep + g_dTurn;
+}
+
+Adesk::Boolean AcDbArc::subWorldDraw(AcGiWorldDraw* pMode) {
+    assertReadEnabled();
+    pMode->rawGeometry()->circularArc(m_ptCenter, m_dRadius, normal(),
+                                      {std::cos(m_dStartAngle), std::sin(m_dStartAngle), 0.0}, Sweep());
+    return Adesk::kTrue;
+}
+
+Acad::ErrorStatus AcDbArc::subGetGeomExtents(AcDbExtents& extents) const {
+    assertReadEnabled();
+    CPrimitive primitive;
+    primitive.m_shape = CArcPrimitive{
+        m_ptCenter, m_dRadius, normal(), {std::cos(m_dStartAngle), std::sin(m_dStartAngle), 0.0}, Sweep()};
+    const AcDbExtents box = ExtentsOf({primitive});
+    if (box.isEmpty()) return Acad::eInvalidExtents;
+    extents = box;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::subTransformBy(const AcGeMatrix3d& xform) {
+    assertWriteEnabled();
+    const std::optional<CPlaneTransform> plane = PlaneTransform(xform);
+    if (!plane) return Acad::eNotApplicable;
+    m_ptCenter.transformBy(xform);
+    m_dRadius *= plane->m_dScale;
+    const double dSweep = Sweep();
+    // A mirror image runs the other way round, from the image of the end.
+    const double dFirst = plane->m_bMirrored ? -(m_dStartAngle + dSweep) : m_dStartAngle;
+    m_dStartAngle = dFirst + plane->m_dTurn;
+    m_dEndAngle = m_dStartAngle + dSweep;
+    return Acad::eOk;
+}
