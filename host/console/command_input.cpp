@@ -63,6 +63,21 @@ double CCommandInput::Number(const std::string& strPrompt) {
     return value;
 }
 
+AcGePoint3d CCommandInput::Point(const std::string& strPrompt) {
+    const std::optional<AcGePoint3d> point = PointOrWord(strPrompt, {});
+    return *point; // no answer is the empty word
+}
+
+std::optional<AcGePoint3d> CCommandInput::PointOrWord(const std::string& strPrompt,
+                                                      const std::string& strWord) {
+    const std::string text = Text(strPrompt);
+    if (text == strWord) return std::nullopt;
+    AcGePoint3d point;
+    if (!ParsePoint(text, m_ptLast, &point)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + text);
+    m_ptLast = point;
+    return point;
+}
+
 AcDbObjectId CCommandInput::Entity(AcDbDatabase& drawing, const std::string& strPrompt) {
     const std::string pick = WithoutBlanksAround(WholeText(strPrompt));
     if (pick.empty()) return AcDbObjectId::kNull;

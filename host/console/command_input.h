@@ -30,6 +30,9 @@ public:
     std::string WholeText(const std::string& strPrompt); ///< as it stands, may be empty
     std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
     double Number(const std::string& strPrompt);
+    AcGePoint3d Point(const std::string& strPrompt);
+    /// None when the answer is the word instead.
+    std::optional<AcGePoint3d> PointOrWord(const std::string& strPrompt, const std::string& strWord);
     AcDbObjectId Entity(AcDbDatabase& drawing, const std::string& strPrompt); ///< null when nothing is picked
     std::vector<AcDbObjectId> Selection(AcDbDatabase& drawing, const std::string& strPrompt);
 

@@ -68,6 +68,7 @@ void RunLine(CHost& host, const std::string& strLine) {
     acedEditor->FireCommandWillStart(command.m_strGlobalName.c_str());
     if (host.m_answers.HasFailed()) return;
     host.m_input.Begin(std::move(words));
+    host.Drawing().UndoLog().BeginStep();
     if (Execute(host, command))
         acedEditor->FireCommandEnded(command.m_strGlobalName.c_str());
     else

@@ -2,6 +2,9 @@
 
 #include "host/console/dump_primitives.h"
 #include "host/console/texts.h"
+#include "platform/acad/db_arc.h"
+#include "platform/acad/db_database.h"
+#include "platform/acad/db_line.h"
 #include "platform/acad/db_polyline.h"
 #include "platform/acad/db_spline.h"
 #include "platform/acad/db_text.h"
@@ -47,6 +50,44 @@ void AddSpline(const AcDbSpline& spline, CJson* json) {
     (*json)["knots"] = CJson::array();
 }
 
+void AddLine(const AcDbLine& line, CJson* json) {
+    (*json)["start"] = JsonPoint(line.startPoint());
+    (*json)["end"] = JsonPoint(line.endPoint());
+}
+
+void AddArc(const AcDbArc& arc, CJson* json) {
+    (*json)["center"] = JsonPoint(arc.center());
+    (*json)["radius"] = JsonNumber(arc.radius());
+    (*json)["startAngle"] = JsonNumber(arc.startAngle());
+    (*json)["endAngle"] = JsonNumber(arc.endAngle());
+    const AcGeVector3d normal = arc.normal();
+    (*json)["normal"] = JsonPoint(AcGePoint3d(normal.x, normal.y, normal.z));
+}
+
+struct CJsonOfItem {
+    CJson operator()(const std::wstring& text) const { return Utf8FromWide(text); }
+    CJson operator()(double value) const { return JsonNumber(value); }
+    CJson operator()(const AcGePoint3d& point) const { return JsonPoint(point); }
+    CJson operator()(Adesk::Int16 value) const { return value; }
+    CJson operator()(Adesk::Int32 value) const { return value; }
+};
+
+/// One value stands for itself; a chain of another shape is a list of codes with their values.
+CJson JsonItems(const std::vector<CXDataItem>& arItems) {
+    if (arItems.size() == 1) return std::visit(CJsonOfItem(), arItems[0].m_value);
+    CJson list = CJson::array();
+    for (const CXDataItem& item : arItems)
+        list.push_back(CJson::array({item.m_nCode, std::visit(CJsonOfItem(), item.m_value)}));
+    return list;
+}
+
+CJson JsonXData(const AcDbEntity& entity) {
+    CJson apps = CJson::object();
+    for (const CXDataOfApp& app : entity.XData().Apps())
+        apps[JsonText(SymbolName(app.m_idApp)).get<std::string>()] = JsonItems(app.m_arItems);
+    return apps;
+}
+
 const CFieldTable* FieldsOf(const AcDbEntity& entity) {
     return static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
 }
@@ -69,6 +110,8 @@ void AddClass(const AcDbEntity& entity, CJson* json) {
     if (const auto* const pText = AcDbText::cast(&entity)) AddText(*pText, json);
     if (const auto* const pPolyline = AcDbPolyline::cast(&entity)) AddPolyline(*pPolyline, json);
     if (const auto* const pSpline = AcDbSpline::cast(&entity)) AddSpline(*pSpline, json);
+    if (const auto* const pLine = AcDbLine::cast(&entity)) AddLine(*pLine, json);
+    if (const auto* const pArc = AcDbArc::cast(&entity)) AddArc(*pArc, json);
     if (const CFieldTable* const pFields = FieldsOf(entity)) AddFields(entity, *pFields, json);
 }
 
@@ -78,7 +121,7 @@ void AddCommon(const AcDbEntity& entity, CJson* json) {
     (*json)["layer"] = JsonText(entity.LayerName());
     (*json)["color"] = entity.colorIndex();
     (*json)["linetype"] = JsonText(entity.LinetypeName());
-    (*json)["xdata"] = CJson::object(); // no object of this platform carries any
+    (*json)["xdata"] = JsonXData(entity);
 }
 
 // The parts belong to the caller of explode, also when it fails after making some.

@@ -22,6 +22,19 @@ void CommandNew(CHost& host);
 void CommandQuit(CHost& host);
 void CommandErase(CHost& host);
 void CommandList(CHost& host);
+// making_commands.cpp
+void CommandLine(CHost& host);
+void CommandPline(CHost& host);
+void CommandArc(CHost& host);
+void CommandText(CHost& host);
+// editing_commands.cpp
+void CommandMove(CHost& host);
+void CommandCopy(CHost& host);
+void CommandRotate(CHost& host);
+void CommandScale(CHost& host);
+void CommandMirror(CHost& host);
+void CommandUndo(CHost& host);
+void CommandRedo(CHost& host);
 // view_commands.cpp
 void CommandRegen(CHost& host);
 void CommandSetVar(CHost& host);

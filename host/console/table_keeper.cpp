@@ -16,10 +16,12 @@ std::array<AcDbObjectId, 4> TablesOf(const AcDbDatabase& drawing) {
 CTableKeeper::CTableKeeper(AcDbDatabase& drawing)
     : m_drawing(drawing)
     , m_bModified(drawing.IsModified())
+    , m_bRecording(drawing.UndoLog().IsRecording())
     , m_dLtscale(drawing.ltscale())
     , m_idCeltype(drawing.celtype())
     , m_idClayer(drawing.clayer())
     , m_idTextstyle(drawing.textstyle()) {
+    m_drawing.UndoLog().SetRecording(false);
     KeepTables();
 }
 
@@ -36,6 +38,7 @@ CTableKeeper::~CTableKeeper() {
         PutBack(layer);
     EraseNewRecords();
     m_drawing.SetModified(m_bModified);
+    m_drawing.UndoLog().SetRecording(m_bRecording);
 }
 
 void CTableKeeper::KeepTables() {

@@ -5,7 +5,7 @@
 #include <set>
 
 /// Keeps a drawing's variables and tables as they are when it is made, and puts them back when it goes: what
-/// a look at the drawing changes is no change of the drawing.
+/// a look at the drawing changes is no change of the drawing, and nothing to undo.
 class CTableKeeper {
 public:
     explicit CTableKeeper(AcDbDatabase& drawing);
@@ -40,7 +40,7 @@ private:
     void EraseNewRecords() const;
 
     AcDbDatabase& m_drawing;
-    bool m_bModified;
+    bool m_bModified, m_bRecording;
     double m_dLtscale;
     AcDbObjectId m_idCeltype, m_idClayer, m_idTextstyle;
     std::set<AcDbHandle> m_setRecords; // of all tables

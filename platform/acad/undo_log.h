@@ -28,6 +28,9 @@ public:
     int Undo(int nSteps) { return Replay(m_arDone, m_arUndone, nSteps); }
     int Redo(int nSteps) { return Replay(m_arUndone, m_arDone, nSteps); }
 
+    /// Whether changes are recorded; what happens meanwhile cannot be undone.
+    void SetRecording(bool bRecording) { m_bRecording = bRecording; }
+
     // For the drawing database: called before an erasure and a variable, after the rest.
     void NoteAppended(CDbStub& stub);
     void NoteErasure(CDbStub& stub);

@@ -1,0 +1,132 @@
+// Commands that change entities whatever their class: moves, copies, undo.
+
+#include "host/console/host_commands.h"
+#include "host/console/numbers.h"
+#include "host/console/texts.h"
+#include "platform/acad/memory_filer.h"
+#include "platform/acad/rx_class.h"
+
+#include <memory>
+#include <numbers>
+
+namespace {
+
+constexpr const char* SELECT = "Select entities: ";
+
+void Tell(const CHost& host, const std::string& strWhat, AcDbObjectId id, Acad::ErrorStatus status) {
+    host.Print("cannot " + strWhat + " #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
+}
+
+/// A class may refuse: the entity stays as it was, and the user is told.
+bool Transform(const CHost& host, AcDbObjectId id, const AcGeMatrix3d& matrix, const std::string& strWhat) {
+    const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
+    const Acad::ErrorStatus status = entity ? entity->transformBy(matrix) : entity.Status();
+    if (status != Acad::eOk) Tell(host, strWhat, id, status);
+    return status == Acad::eOk;
+}
+
+/// A copy in the same block, made by the entity's own record; null, after a word to the user, where there can
+/// be none.
+AcDbObjectId Copy(const CHost& host, AcDbObjectId id) {
+    AcDbObjectId idCopy, idBlock;
+    std::unique_ptr<AcDbEntity> pCopy;
+    {
+        const CDbOpen<AcDbEntity> source(id);
+        if (source) {
+            const CDbRecord record = RecordOf(*source.Get(), AcDb::kCopyFiler);
+            pCopy.reset(static_cast<AcDbEntity*>(source->isA()->create()));
+            CRecordReader reader(AcDb::kCopyFiler, record);
+            if (pCopy && pCopy->dwgIn(&reader) != Acad::eOk) pCopy.reset();
+            idBlock = source->ownerId();
+        }
+    }
+    const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
+    if (!pCopy || !block || block->appendAcDbEntity(idCopy, pCopy.get()) != Acad::eOk) {
+        Tell(host, "copy", id, Acad::eNotApplicable);
+        return AcDbObjectId::kNull;
+    }
+    pCopy.release()->close();
+    return idCopy;
+}
+
+void Erase(AcDbObjectId id) {
+    const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
+    if (entity) entity->erase();
+}
+
+int Steps(CHost& host) {
+    const double dSteps = host.m_input.Number("Number of commands: ");
+    host.m_input.End();
+    if (dSteps < 1.0 || dSteps > 1e6 || dSteps != static_cast<int>(dSteps))
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a number of commands is whole and above 0");
+    return static_cast<int>(dSteps);
+}
+
+} // namespace
+
+void CommandMove(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const AcGePoint3d base = host.m_input.Point("Base point: ");
+    const AcGePoint3d to = host.m_input.Point("To point: ");
+    host.m_input.End();
+    for (const AcDbObjectId& id : ids)
+        Transform(host, id, AcGeMatrix3d::translation(to - base), "move");
+}
+
+void CommandCopy(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const AcGePoint3d base = host.m_input.Point("Base point: ");
+    const AcGePoint3d to = host.m_input.Point("To point: ");
+    host.m_input.End();
+    for (const AcDbObjectId& id : ids)
+        if (const AcDbObjectId idCopy = Copy(host, id); !idCopy.isNull())
+            Transform(host, idCopy, AcGeMatrix3d::translation(to - base), "move");
+}
+
+void CommandRotate(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const AcGePoint3d base = host.m_input.Point("Base point: ");
+    const double dDegrees = host.m_input.Number("Angle: ");
+    host.m_input.End();
+    for (const AcDbObjectId& id : ids)
+        Transform(host, id,
+                  AcGeMatrix3d::rotation(dDegrees * std::numbers::pi / 180.0, AcGeVector3d::kZAxis, base),
+                  "rotate");
+}
+
+void CommandScale(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const AcGePoint3d base = host.m_input.Point("Base point: ");
+    const double dFactor = host.m_input.Number("Factor: ");
+    host.m_input.End();
+    if (dFactor <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a factor is above 0");
+    for (const AcDbObjectId& id : ids)
+        Transform(host, id, AcGeMatrix3d::scaling(dFactor, base), "scale");
+}
+
+void CommandMirror(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const AcGePoint3d first = host.m_input.Point("First point of the mirror line: ");
+    const AcGePoint3d second = host.m_input.Point("Second point: ");
+    const std::string strKeep = host.m_input.Text("keep or drop the originals: ");
+    host.m_input.End();
+    if (strKeep != "keep" && strKeep != "drop")
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither keep nor drop: " + strKeep);
+    const AcGeVector3d along = second - first;
+    if (along.isZeroLength()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a mirror line has two points");
+    const AcGeMatrix3d mirror = AcGeMatrix3d::mirroring(first, AcGeVector3d(-along.y, along.x, 0.0).normal());
+    for (const AcDbObjectId& id : ids) {
+        const AcDbObjectId idImage = strKeep == "keep" ? Copy(host, id) : id;
+        if (!idImage.isNull() && !Transform(host, idImage, mirror, "mirror") && idImage != id) Erase(idImage);
+    }
+}
+
+void CommandUndo(CHost& host) {
+    const int nSteps = Steps(host);
+    host.Print("undone: " + std::to_string(host.Drawing().UndoLog().Undo(nSteps)));
+}
+
+void CommandRedo(CHost& host) {
+    host.m_input.End();
+    host.Print("redone: " + std::to_string(host.Drawing().UndoLog().Redo(1)));
+}

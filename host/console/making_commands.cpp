@@ -1,0 +1,66 @@
+// Commands that make ordinary entities in model space.
+
+#include "host/console/host_commands.h"
+#include "host/console/texts.h"
+#include "platform/acad/db_arc.h"
+#include "platform/acad/db_line.h"
+#include "platform/acad/db_polyline.h"
+#include "platform/acad/db_text.h"
+
+#include <memory>
+#include <numbers>
+
+namespace {
+
+void AppendToModelSpace(CHost& host, std::unique_ptr<AcDbEntity> pEntity) {
+    const CDbOpen<AcDbBlockTableRecord> space(host.Drawing().ModelSpaceId(), AcDb::kForWrite);
+    if (!space || space->appendAcDbEntity(pEntity.get()) != Acad::eOk)
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "model space takes no entity now");
+    pEntity.release()->close();
+}
+
+double PositiveNumber(CHost& host, const std::string& strPrompt, const std::string& strWhat) {
+    const double value = host.m_input.Number(strPrompt);
+    if (value <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat + " is above 0");
+    return value;
+}
+
+double Radians(double dDegrees) {
+    return dDegrees * std::numbers::pi / 180.0;
+}
+
+} // namespace
+
+void CommandLine(CHost& host) {
+    const AcGePoint3d start = host.m_input.Point("From point: ");
+    const AcGePoint3d end = host.m_input.Point("To point: ");
+    host.m_input.End();
+    AppendToModelSpace(host, std::make_unique<AcDbLine>(start, end));
+}
+
+void CommandPline(CHost& host) {
+    auto pPolyline = std::make_unique<AcDbPolyline>();
+    while (const std::optional<AcGePoint3d> point = host.m_input.PointOrWord("Next point or end: ", "end"))
+        pPolyline->addVertexAt(pPolyline->numVerts(), {point->x, point->y});
+    host.m_input.End();
+    if (pPolyline->numVerts() == 0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a polyline has a point at least");
+    AppendToModelSpace(host, std::move(pPolyline));
+}
+
+void CommandArc(CHost& host) {
+    const AcGePoint3d center = host.m_input.Point("Center: ");
+    const double dRadius = PositiveNumber(host, "Radius: ", "a radius");
+    const double dStart = host.m_input.Number("Start angle: ");
+    const double dEnd = host.m_input.Number("End angle: ");
+    host.m_input.End();
+    AppendToModelSpace(host, std::make_unique<AcDbArc>(center, dRadius, Radians(dStart), Radians(dEnd)));
+}
+
+void CommandText(CHost& host) {
+    const AcGePoint3d position = host.m_input.Point("Position: ");
+    const double dHeight = PositiveNumber(host, "Height: ", "a height");
+    const std::string strText = host.m_input.WholeText("Text: ");
+    host.m_input.End();
+    AppendToModelSpace(host, std::make_unique<AcDbText>(position, WideAnswer(strText).c_str(),
+                                                        host.Drawing().textstyle(), dHeight));
+}
