@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr const char* SELECT = "Select entities: ";
-
 void Tell(const CHost& host, const std::string& strWhat, AcDbObjectId id, Acad::ErrorStatus status) {
     host.Print("cannot " + strWhat + " #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
 }
@@ -54,6 +52,23 @@ void Erase(AcDbObjectId id) {
     if (entity) entity->erase();
 }
 
+/// What most of these commands ask for first.
+struct CSelection {
+    std::vector<AcDbObjectId> m_arIds;
+    AcGePoint3d m_ptBase;
+
+    explicit CSelection(CHost& host)
+        : m_arIds(host.m_input.Selection(host.Drawing(), "Select entities: "))
+        , m_ptBase(host.m_input.Point("Base point: ")) {}
+};
+
+/// The way from the base point to a point asked for, which is the last answer.
+AcGeMatrix3d AskShift(CHost& host, const AcGePoint3d& base) {
+    const AcGePoint3d to = host.m_input.Point("To point: ");
+    host.m_input.End();
+    return AcGeMatrix3d::translation(to - base);
+}
+
 int Steps(CHost& host) {
     const double dSteps = host.m_input.Number("Number of commands: ");
     host.m_input.End();
@@ -65,47 +80,40 @@ int Steps(CHost& host) {
 } // namespace
 
 void CommandMove(CHost& host) {
-    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
-    const AcGePoint3d base = host.m_input.Point("Base point: ");
-    const AcGePoint3d to = host.m_input.Point("To point: ");
-    host.m_input.End();
-    for (const AcDbObjectId& id : ids)
-        Transform(host, id, AcGeMatrix3d::translation(to - base), "move");
+    const CSelection selection(host);
+    const AcGeMatrix3d shift = AskShift(host, selection.m_ptBase);
+    for (const AcDbObjectId& id : selection.m_arIds)
+        Transform(host, id, shift, "move");
 }
 
 void CommandCopy(CHost& host) {
-    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
-    const AcGePoint3d base = host.m_input.Point("Base point: ");
-    const AcGePoint3d to = host.m_input.Point("To point: ");
-    host.m_input.End();
-    for (const AcDbObjectId& id : ids)
+    const CSelection selection(host);
+    const AcGeMatrix3d shift = AskShift(host, selection.m_ptBase);
+    for (const AcDbObjectId& id : selection.m_arIds)
         if (const AcDbObjectId idCopy = Copy(host, id); !idCopy.isNull())
-            Transform(host, idCopy, AcGeMatrix3d::translation(to - base), "move");
+            Transform(host, idCopy, shift, "move");
 }
 
 void CommandRotate(CHost& host) {
-    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
-    const AcGePoint3d base = host.m_input.Point("Base point: ");
-    const double dDegrees = host.m_input.Number("Angle: ");
+    const CSelection selection(host);
+    const double dAngle = host.m_input.Number("Angle: ") * std::numbers::pi / 180.0;
     host.m_input.End();
-    for (const AcDbObjectId& id : ids)
-        Transform(host, id,
-                  AcGeMatrix3d::rotation(dDegrees * std::numbers::pi / 180.0, AcGeVector3d::kZAxis, base),
+    for (const AcDbObjectId& id : selection.m_arIds)
+        Transform(host, id, AcGeMatrix3d::rotation(dAngle, AcGeVector3d::kZAxis, selection.m_ptBase),
                   "rotate");
 }
 
 void CommandScale(CHost& host) {
-    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
-    const AcGePoint3d base = host.m_input.Point("Base point: ");
+    const CSelection selection(host);
     const double dFactor = host.m_input.Number("Factor: ");
     host.m_input.End();
     if (dFactor <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a factor is above 0");
-    for (const AcDbObjectId& id : ids)
-        Transform(host, id, AcGeMatrix3d::scaling(dFactor, base), "scale");
+    for (const AcDbObjectId& id : selection.m_arIds)
+        Transform(host, id, AcGeMatrix3d::scaling(dFactor, selection.m_ptBase), "scale");
 }
 
 void CommandMirror(CHost& host) {
-    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), SELECT);
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), "Select entities: ");
     const AcGePoint3d first = host.m_input.Point("First point of the mirror line: ");
     const AcGePoint3d second = host.m_input.Point("Second point: ");
     const std::string strKeep = host.m_input.Text("keep or drop the originals: ");
