@@ -5,6 +5,8 @@
 #include "platform/acad/error_status.h"
 #include "platform/acad/geometry.h"
 
+struct CDbRecord;
+
 namespace AcDb {
 /// What a record is written or read for.
 enum FilerType {
@@ -56,6 +58,9 @@ public:
     /// length bytes as they are.
     virtual Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) = 0;
     virtual Acad::ErrorStatus writeBytes(const void* pBytes, Adesk::UInt32 length) = 0;
+    /// All that follows in the record, for an object whose class is not known at present.
+    virtual Acad::ErrorStatus readRest(CDbRecord* pRest) = 0;
+    virtual Acad::ErrorStatus writeRest(const CDbRecord& rest) = 0;
 
     // References: a hard one keeps what it refers to in the drawing, a soft one does not; an owner's are
     // apart.

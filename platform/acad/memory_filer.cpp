@@ -5,6 +5,8 @@
 
 #include <cstring>
 #include <cwchar>
+#include <type_traits>
+#include <utility>
 
 Acad::ErrorStatus CRecordWriter::writeBytes(const void* pBytes, Adesk::UInt32 length) {
     const auto* const pFirst = static_cast<const std::byte*>(pBytes);
@@ -35,10 +37,15 @@ Acad::ErrorStatus CRecordWriter::writeString(const ACHAR* text) {
     return writeBytes(text, nLength * static_cast<Adesk::UInt32>(sizeof(ACHAR)));
 }
 
-Acad::ErrorStatus CRecordWriter::PutId(const AcDbObjectId& id) {
-    const auto nPlace = static_cast<Adesk::UInt32>(m_record.m_arIds.size());
-    m_record.m_arIds.push_back(id);
-    return Put(nPlace);
+Acad::ErrorStatus CRecordWriter::PutId(CFiledId::CKind kind, const AcDbObjectId& id) {
+    m_record.m_arIds.push_back({kind, id});
+    return m_status;
+}
+
+Acad::ErrorStatus CRecordWriter::writeRest(const CDbRecord& rest) {
+    m_record.m_arBytes.insert(m_record.m_arBytes.end(), rest.m_arBytes.begin(), rest.m_arBytes.end());
+    m_record.m_arIds.insert(m_record.m_arIds.end(), rest.m_arIds.begin(), rest.m_arIds.end());
+    return m_status;
 }
 
 Acad::ErrorStatus CRecordWriter::readString(ACHAR** pText) {
@@ -93,12 +100,20 @@ Acad::ErrorStatus CRecordReader::readString(ACHAR** pText) {
 }
 
 Acad::ErrorStatus CRecordReader::GetId(AcDbObjectId* pId) {
-    Adesk::UInt32 nPlace = 0;
     pId->setNull();
-    if (Get(&nPlace) != Acad::eOk) return m_status;
-    if (nPlace >= m_record.m_arIds.size()) return Fail();
-    *pId = m_record.m_arIds[nPlace];
+    if (m_status != Acad::eOk || m_nNextId >= m_record.m_arIds.size()) return Fail();
+    *pId = m_record.m_arIds[m_nNextId++].m_id;
     return Acad::eOk;
+}
+
+Acad::ErrorStatus CRecordReader::readRest(CDbRecord* pRest) {
+    *pRest = CDbRecord();
+    if (m_status != Acad::eOk) return m_status;
+    const auto after = [](const auto& list, std::size_t& nAt) {
+        return std::decay_t<decltype(list)>(list.begin() + std::exchange(nAt, list.size()), list.end());
+    };
+    *pRest = {after(m_record.m_arBytes, m_nAt), after(m_record.m_arIds, m_nNextId)};
+    return m_status;
 }
 
 CDbRecord RecordOf(const AcDbObject& object, AcDb::FilerType type) {

@@ -4,16 +4,21 @@
 #include "platform/acad/db_filer.h"
 
 #include <cstddef>
-#include <functional>
-#include <string>
 #include <vector>
 
-/// A record: its bytes, in which an id stands as its place in the list beside them.
+/// A reference as it stands in a record.
+struct CFiledId {
+    enum class CKind : unsigned char { HardPointer, SoftPointer, HardOwnership, SoftOwnership };
+    CKind m_kind;
+    AcDbObjectId m_id;
+    bool operator==(const CFiledId&) const = default;
+};
+
+/// A record: its bytes, and beside them its references in the order in which they were written.
 struct CDbRecord {
     std::vector<std::byte> m_arBytes;
-    std::vector<AcDbObjectId> m_arIds;
+    std::vector<CFiledId> m_arIds;
     bool operator==(const CDbRecord&) const = default;
-    bool IsEmpty() const { return m_arBytes.empty(); }
 };
 
 /// Writes a record.
@@ -39,10 +44,19 @@ public:
     Acad::ErrorStatus writeVector3d(const AcGeVector3d& value) override;
     Acad::ErrorStatus writeString(const ACHAR* text) override;
     Acad::ErrorStatus writeBytes(const void* pBytes, Adesk::UInt32 length) override;
-    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId& id) override { return PutId(id); }
-    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId& id) override { return PutId(id); }
-    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId& id) override { return PutId(id); }
-    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId& id) override { return PutId(id); }
+    Acad::ErrorStatus writeRest(const CDbRecord& rest) override;
+    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId& id) override {
+        return PutId(CFiledId::CKind::HardPointer, id);
+    }
+    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId& id) override {
+        return PutId(CFiledId::CKind::SoftPointer, id);
+    }
+    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId& id) override {
+        return PutId(CFiledId::CKind::HardOwnership, id);
+    }
+    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId& id) override {
+        return PutId(CFiledId::CKind::SoftOwnership, id);
+    }
 
     Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Refuse(pValue); }
     Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Refuse(pValue); }
@@ -55,6 +69,7 @@ public:
     Acad::ErrorStatus readVector3d(AcGeVector3d* pValue) override { return Refuse(pValue); }
     Acad::ErrorStatus readString(ACHAR** pText) override;
     Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
+    Acad::ErrorStatus readRest(CDbRecord* pRest) override { return Refuse(pRest); }
     Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return Refuse(pId); }
     Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return Refuse(pId); }
     Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return Refuse(pId); }
@@ -70,7 +85,7 @@ private:
         *pValue = T();
         return m_status = Acad::eFilerError;
     }
-    Acad::ErrorStatus PutId(const AcDbObjectId& id);
+    Acad::ErrorStatus PutId(CFiledId::CKind kind, const AcDbObjectId& id);
 
     AcDb::FilerType m_type;
     Acad::ErrorStatus m_status = Acad::eOk;
@@ -103,6 +118,7 @@ public:
     Acad::ErrorStatus readVector3d(AcGeVector3d* pValue) override;
     Acad::ErrorStatus readString(ACHAR** pText) override;
     Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
+    Acad::ErrorStatus readRest(CDbRecord* pRest) override;
     Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return GetId(pId); }
     Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return GetId(pId); }
     Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return GetId(pId); }
@@ -119,6 +135,7 @@ public:
     Acad::ErrorStatus writeVector3d(const AcGeVector3d&) override { return Fail(); }
     Acad::ErrorStatus writeString(const ACHAR*) override { return Fail(); }
     Acad::ErrorStatus writeBytes(const void*, Adesk::UInt32) override { return Fail(); }
+    Acad::ErrorStatus writeRest(const CDbRecord&) override { return Fail(); }
     Acad::ErrorStatus writeHardPointerId(const AcDbObjectId&) override { return Fail(); }
     Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId&) override { return Fail(); }
     Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId&) override { return Fail(); }
@@ -136,7 +153,7 @@ private:
     AcDb::FilerType m_type;
     Acad::ErrorStatus m_status = Acad::eOk;
     const CDbRecord& m_record;
-    std::size_t m_nAt = 0;
+    std::size_t m_nAt = 0, m_nNextId = 0;
 };
 
 /// The record that an object writes.

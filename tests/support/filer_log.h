@@ -27,6 +27,7 @@ public:
     Acad::ErrorStatus writeVector3d(const AcGeVector3d& value) override { return Note("Vector3d", value.x); }
     Acad::ErrorStatus writeString(const ACHAR* text) override;
     Acad::ErrorStatus writeBytes(const void*, Adesk::UInt32 length) override { return Note("Bytes", length); }
+    Acad::ErrorStatus writeRest(const CDbRecord&) override { return Note("Rest"); }
     Acad::ErrorStatus writeHardPointerId(const AcDbObjectId&) override { return Note("HardPointer"); }
     Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId&) override { return Note("SoftPointer"); }
     Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId&) override { return Note("HardOwnership"); }
@@ -44,6 +45,7 @@ public:
     Acad::ErrorStatus readVector3d(AcGeVector3d*) override { return Acad::eFilerError; }
     Acad::ErrorStatus readString(ACHAR** pText) override;
     Acad::ErrorStatus readBytes(void*, Adesk::UInt32) override { return Acad::eFilerError; }
+    Acad::ErrorStatus readRest(CDbRecord*) override { return Acad::eFilerError; }
     Acad::ErrorStatus readHardPointerId(AcDbObjectId*) override { return Acad::eFilerError; }
     Acad::ErrorStatus readSoftPointerId(AcDbObjectId*) override { return Acad::eFilerError; }
     Acad::ErrorStatus readHardOwnershipId(AcDbObjectId*) override { return Acad::eFilerError; }

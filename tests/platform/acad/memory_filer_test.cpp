@@ -124,6 +124,64 @@ TEST(RecordFiler, RefusesAnIdThatTheRecordDoesNotList) {
     EXPECT_TRUE(id.isNull());
 }
 
+TEST(RecordFiler, KeepsTheKindOfEachReference) {
+    AcDbDatabase database;
+    const AcDbObjectId id = database.clayer();
+    const CDbRecord record = Written([&](AcDbDwgFiler& filer) {
+        filer.writeHardPointerId(id);
+        filer.writeSoftPointerId(id);
+        filer.writeHardOwnershipId(id);
+        filer.writeSoftOwnershipId(id);
+    });
+    using enum CFiledId::CKind;
+    const std::vector<CFiledId> expected{
+        {HardPointer, id}, {SoftPointer, id}, {HardOwnership, id}, {SoftOwnership, id}};
+    EXPECT_EQ(record.m_arIds, expected);
+    EXPECT_TRUE(record.m_arBytes.empty());
+}
+
+TEST(RecordFiler, TakesTheRestAsItStandsAndPutsItBehindAnotherBeginning) {
+    AcDbDatabase database;
+    const CDbRecord record = Written([&](AcDbDwgFiler& filer) {
+        filer.writeInt16(1);
+        filer.writeHardPointerId(database.clayer());
+        filer.writeDouble(2.5);
+        filer.writeHardPointerId(database.textstyle());
+    });
+    CRecordReader reader(AcDb::kCopyFiler, record);
+    Adesk::Int16 n16 = 0;
+    AcDbObjectId id;
+    reader.readInt16(&n16);
+    reader.readHardPointerId(&id);
+    CDbRecord rest;
+    EXPECT_EQ(reader.readRest(&rest), Acad::eOk);
+    EXPECT_EQ(reader.Left(), 0U);
+
+    const CDbRecord joined = Written([&](AcDbDwgFiler& filer) {
+        filer.writeString(L"another");
+        filer.writeRest(rest);
+    });
+    CRecordReader second(AcDb::kCopyFiler, joined);
+    std::wstring text;
+    double dValue = 0.0;
+    ReadText(&second, text);
+    second.readDouble(&dValue);
+    second.readHardPointerId(&id);
+    EXPECT_EQ(second.filerStatus(), Acad::eOk);
+    EXPECT_EQ(dValue, 2.5);
+    EXPECT_EQ(id, database.textstyle());
+}
+
+TEST(RecordFiler, GivesNoRestAfterAFailure) {
+    const CDbRecord record = Written([](AcDbDwgFiler& filer) { filer.writeInt16(5); });
+    CRecordReader reader(AcDb::kCopyFiler, record);
+    double dValue = 0.0;
+    reader.readDouble(&dValue);
+    CDbRecord rest{{std::byte{1}}, {}};
+    EXPECT_EQ(reader.readRest(&rest), Acad::eFilerError);
+    EXPECT_EQ(rest, CDbRecord());
+}
+
 TEST(RecordFiler, GoesOneWayOnly) {
     CRecordWriter writer(AcDb::kCopyFiler);
     double dValue = 3.0;
@@ -181,5 +239,12 @@ TEST(ObjectRecord, OfAnyLengthIsReadToItsEndOrRefused) {
         AcDbText copy;
         CRecordReader reader(AcDb::kCopyFiler, part);
         EXPECT_EQ(copy.dwgIn(&reader), Acad::eFilerError) << nBytes;
+    }
+    for (std::size_t nIds = 0; nIds < whole.m_arIds.size(); ++nIds) {
+        CDbRecord part = whole;
+        part.m_arIds.resize(nIds);
+        AcDbText copy;
+        CRecordReader reader(AcDb::kCopyFiler, part);
+        EXPECT_EQ(copy.dwgIn(&reader), Acad::eFilerError) << nIds;
     }
 }
