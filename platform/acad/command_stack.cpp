@@ -28,6 +28,12 @@ Acad::ErrorStatus AcEdCommandStack::removeGroup(const ACHAR* group) {
     return removed ? Acad::eOk : Acad::eKeyNotFound;
 }
 
+void AcEdCommandStack::RemoveCodeIn(const std::function<bool(const void*)>& isInside) {
+    std::erase_if(m_arCommands, [&](const CRegisteredCommand& known) {
+        return isInside(reinterpret_cast<const void*>(known.m_pFunction));
+    });
+}
+
 const CRegisteredCommand* AcEdCommandStack::lookup(const ACHAR* name) const {
     if (!name || !*name) return nullptr;
     const auto found =

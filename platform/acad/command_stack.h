@@ -6,6 +6,7 @@
 #include "platform/acad/rx_object.h"
 #include "platform/acad/rx_registry.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,8 @@ public:
     Acad::ErrorStatus removeGroup(const ACHAR* group);
     /// The command of that global or local name, in any case; null if none. Valid until the next change.
     const CRegisteredCommand* lookup(const ACHAR* name) const;
+    /// Removes the commands whose function is code that goes.
+    void RemoveCodeIn(const std::function<bool(const void*)>& isInside);
     const std::vector<CRegisteredCommand>& Commands() const { return m_arCommands; } ///< in order of adding
 
 private:

@@ -1,5 +1,8 @@
 #include "platform/acad/dynamic_linker.h"
 
+#include "platform/acad/command_stack.h"
+#include "platform/acad/editor_reactor.h"
+#include "platform/acad/host_application.h"
 #include "platform/acad/rx_class.h"
 
 #include <algorithm>
@@ -26,6 +29,12 @@ bool Refuse(std::string* pReason, const std::string& strReason) {
 std::string LoaderError() {
     const char* const pText = dlerror();
     return pText ? pText : "unknown error of the loader";
+}
+
+/// Whether an address lies in the library that the other one lies in.
+bool InSameLibrary(const void* pAddress, const void* pOther) {
+    Dl_info mine, its;
+    return dladdr(pAddress, &mine) && dladdr(pOther, &its) && mine.dli_fbase == its.dli_fbase;
 }
 
 } // namespace
@@ -88,10 +97,12 @@ bool AcRxDynamicLinker::loadModule(const std::string& utf8Path, std::string* pRe
     }
     CModule* const pPackage = pModule.get();
     m_arModules.push_back(std::move(pModule)); // known before the module hands its package pointer back
-    if (pPackage->m_pEntry(AcRx::kInitAppMsg, pPackage) == AcRx::kRetOK) return true;
-    void* const pLibrary = pPackage->m_pLibrary;
+    if (pPackage->m_pEntry(AcRx::kInitAppMsg, pPackage) == AcRx::kRetOK) {
+        if (acdbHostApplicationServices()->workingDatabase()) pPackage->m_pEntry(AcRx::kLoadDwgMsg, pPackage);
+        return true;
+    }
+    Close(*pPackage);
     std::erase_if(m_arModules, [&](const auto& pOther) { return pOther.get() == pPackage; });
-    dlclose(pLibrary);
     return Refuse(pReason, utf8Path + ": the module refused to start");
 }
 
@@ -106,6 +117,24 @@ bool AcRxDynamicLinker::unloadModule(const std::string& utf8Path, std::string* p
     const std::unique_ptr<CModule> pModule = std::move(*place);
     m_arModules.erase(place);
     pModule->m_pEntry(AcRx::kUnloadAppMsg, pModule.get());
-    dlclose(pModule->m_pLibrary);
+    Close(*pModule);
     return true;
+}
+
+void AcRxDynamicLinker::Close(CModule& module) {
+    const auto isInside = [&module](const void* pAddress) {
+        return InSameLibrary(pAddress, reinterpret_cast<const void*>(module.m_pEntry));
+    };
+    acedRegCmds->RemoveCodeIn(isInside);
+    acedEditor->RemoveReactorsOf(isInside);
+    DeleteClassesOf(isInside);
+    dlclose(module.m_pLibrary);
+}
+
+void AcRxDynamicLinker::SendToAll(AcRx::AppMsgCode message) {
+    std::vector<CModule*> modules; // one that is told may load or unload another
+    for (const std::unique_ptr<CModule>& pModule : m_arModules)
+        modules.push_back(pModule.get());
+    for (CModule* const pModule : modules)
+        if (Find(pModule)) pModule->m_pEntry(message, pModule);
 }

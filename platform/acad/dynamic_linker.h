@@ -45,12 +45,15 @@ public:
     bool isApplicationLocked(void* pPackage) const;
     bool isAppMDIAware(void* pPackage) const;
 
-    /// Opens the module's file and sends kInitAppMsg. False with a reason in *pReason (UTF-8) when the file
-    /// can't be opened, lacks the two entry functions, reports another API version, refuses the message, or
-    /// is loaded already.
+    /// Opens the module's file and sends kInitAppMsg, and kLoadDwgMsg when a drawing is open. False with a
+    /// reason in *pReason (UTF-8) when the file can't be opened, lacks the two entry functions, reports
+    /// another API version, refuses the message, or is loaded already.
     bool loadModule(const std::string& utf8Path, std::string* pReason);
-    /// Sends kUnloadAppMsg and closes the file. False when it isn't loaded or is locked.
+    /// Sends kUnloadAppMsg and closes the file. False when it isn't loaded or is locked. Commands, reactors
+    /// and classes that it leaves behind are withdrawn, since their code goes.
     bool unloadModule(const std::string& utf8Path, std::string* pReason);
+    /// Sends a message to every module, in order of loading; what they answer does not matter.
+    void SendToAll(AcRx::AppMsgCode message);
 
 private:
     struct CModule {
@@ -61,6 +64,7 @@ private:
     };
     CModule* Find(const void* pPackage) const;
     bool Open(CModule& module, std::string* pReason) const;
+    static void Close(CModule& module);
 
     std::vector<std::unique_ptr<CModule>> m_arModules; // the address of each is its package pointer
 };

@@ -18,6 +18,12 @@ void AcEditor::removeReactor(AcEditorReactor* pReactor) {
     std::erase(m_arReactors, pReactor);
 }
 
+void AcEditor::RemoveReactorsOf(const std::function<bool(const void*)>& isInside) {
+    std::erase_if(m_arReactors, [&](const AcEditorReactor* pReactor) {
+        return isInside(*reinterpret_cast<const void* const*>(pReactor)); // its table of virtual functions
+    });
+}
+
 void AcEditor::Fire(const ACHAR* globalName, void (AcEditorReactor::*pEvent)(const ACHAR*)) {
     const std::wstring strName = UpperName(globalName ? globalName : L"");
     // A reactor may remove itself or another (and destroy it) while it is told: only those that still stand

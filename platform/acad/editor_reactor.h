@@ -5,6 +5,7 @@
 #include "platform/acad/rx_object.h"
 #include "platform/acad/rx_registry.h"
 
+#include <functional>
 #include <vector>
 
 class AcRxEventReactor : public AcRxObject {
@@ -32,6 +33,8 @@ public:
     void removeReactor(AcEditorReactor* pReactor);
 
     // Host side.
+    /// Takes away the reactors whose class is code that goes.
+    void RemoveReactorsOf(const std::function<bool(const void*)>& isInside);
     void FireCommandWillStart(const ACHAR* globalName);
     void FireCommandEnded(const ACHAR* globalName);
     void FireCommandCancelled(const ACHAR* globalName);

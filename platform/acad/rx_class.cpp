@@ -2,6 +2,7 @@
 
 #include "platform/acad/rx_registry.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -114,6 +115,13 @@ void deleteAcRxClass(AcRxClass* pClass) {
         classes.erase(place);
         return;
     }
+}
+
+void DeleteClassesOf(const std::function<bool(const void*)>& isInside) {
+    std::vector<AcRxClass*> going;
+    for (const std::unique_ptr<AcRxClass>& pClass : ModuleClasses())
+        if (pClass->HasConstructorIn(isInside)) going.push_back(pClass.get());
+    std::for_each(going.rbegin(), going.rend(), deleteAcRxClass);
 }
 
 CPlatformClass* CPlatformClass::s_pFirst = nullptr;

@@ -3,6 +3,7 @@
 #include "platform/acad/adesk.h"
 #include "platform/acad/rx_object.h"
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -31,6 +32,10 @@ public:
     /// A new default object, or null when the class has no pseudo-constructor.
     AcRxObject* create() const { return m_pConstructor ? m_pConstructor() : nullptr; }
 
+    bool HasConstructorIn(const std::function<bool(const void*)>& isInside) const {
+        return m_pConstructor && isInside(reinterpret_cast<const void*>(m_pConstructor));
+    }
+
     /// Hangs an extension on this class for pProtocol; the caller keeps it alive until delX. Returns the
     /// former one.
     AcRxObject* addX(AcRxClass* pProtocol, AcRxObject* pExtension);
@@ -55,8 +60,12 @@ AcRxClass* newAcRxClass(const ACHAR* className, const ACHAR* parentClassName, in
                         AcRxPseudoConstructor pConstructor = nullptr, const ACHAR* dxfName = nullptr,
                         const ACHAR* appName = nullptr);
 
-/// Takes the class out of the dictionary and destroys the descriptor.
+/// Takes the class out of the dictionary and destroys the descriptor. Its objects in the open drawings become
+/// proxies first.
 void deleteAcRxClass(AcRxClass* pClass);
+
+/// Deletes the classes whose pseudo-constructor is code that goes, the last one made first.
+void DeleteClassesOf(const std::function<bool(const void*)>& isInside);
 
 /// One platform class that the class dictionary takes up before anyone looks something up in it. Static
 /// objects only; ACRX_DEFINE_DESC makes them.

@@ -1,6 +1,9 @@
 #include "platform/acad/dynamic_linker.h"
 
-#include "platform/acad/rx_registry.h"
+#include "platform/acad/command_stack.h"
+#include "platform/acad/editor_reactor.h"
+#include "platform/acad/host_application.h"
+#include "platform/acad/rx_class.h"
 
 #include <gtest/gtest.h>
 
@@ -24,16 +27,59 @@ std::string ReasonOfFailedLoad(const std::string& strPath) {
     return strReason;
 }
 
+/// The value of a variable of a loaded sample; the type's default when it is not loaded.
+template <class T>
+T ValueIn(const std::string& strPath, const char* name) {
+    void* const pLibrary = dlopen(strPath.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (!pLibrary) return T();
+    const T value = *static_cast<T*>(dlsym(pLibrary, name));
+    dlclose(pLibrary);
+    return value;
+}
+
 /// The package pointer that a loaded sample was handed.
 void* PackageOf(const std::string& strPath) {
-    void* const pLibrary = dlopen(strPath.c_str(), RTLD_NOW | RTLD_NOLOAD);
-    if (!pLibrary) return nullptr;
-    void* const pPackage = *static_cast<void**>(dlsym(pLibrary, "g_pSamplePackage"));
-    dlclose(pLibrary);
-    return pPackage;
+    return ValueIn<void*>(strPath, "g_pSamplePackage");
+}
+
+void ExpectNothingLeftBehind() {
+    EXPECT_EQ(acedRegCmds->lookup(L"UNTIDY"), nullptr);
+    EXPECT_FALSE(IsKnown(L"CSampleUntidy"));
+    acedEditor->FireCommandWillStart(L"LINE"); // a reactor that is left would be code that is gone
 }
 
 } // namespace
+
+TEST(AcRxDynamicLinker, WithdrawsWhatAModuleLeavesBehind) {
+    const std::string strPath = g_strFolder + "/acad_sample_untidy.so";
+    ASSERT_TRUE(acrxDynamicLinker()->loadModule(strPath, nullptr));
+    EXPECT_NE(acedRegCmds->lookup(L"UNTIDY"), nullptr);
+    EXPECT_TRUE(IsKnown(L"CSampleUntidy"));
+    ASSERT_TRUE(acrxDynamicLinker()->unloadModule(strPath, nullptr));
+    ExpectNothingLeftBehind();
+}
+
+TEST(AcRxDynamicLinker, WithdrawsWhatAModuleAddedThatThenRefusedToStart) {
+    EXPECT_FALSE(acrxDynamicLinker()->loadModule(g_strFolder + "/acad_sample_untidy_refuses.so", nullptr));
+    ExpectNothingLeftBehind();
+}
+
+TEST(AcRxDynamicLinker, TellsModulesOfTheDrawingThatIsOpenAndOfLaterOnes) {
+    const std::string strPath = g_strFolder + "/acad_sample.so";
+    AcDbDatabase drawing;
+    acdbHostApplicationServices()->setWorkingDatabase(&drawing);
+    ASSERT_TRUE(acrxDynamicLinker()->loadModule(strPath, nullptr));
+    EXPECT_EQ(ValueIn<int>(strPath, "g_nSampleDrawingsTold"), 1);
+    acrxDynamicLinker()->SendToAll(AcRx::kLoadDwgMsg);
+    EXPECT_EQ(ValueIn<int>(strPath, "g_nSampleDrawingsTold"), 2);
+    acrxDynamicLinker()->SendToAll(AcRx::kSaveMsg);
+    EXPECT_EQ(ValueIn<int>(strPath, "g_nSampleDrawingsTold"), 2);
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    ASSERT_TRUE(acrxDynamicLinker()->unloadModule(strPath, nullptr));
+    ASSERT_TRUE(acrxDynamicLinker()->loadModule(strPath, nullptr));
+    EXPECT_EQ(ValueIn<int>(strPath, "g_nSampleDrawingsTold"), 0) << "no drawing is open";
+    ASSERT_TRUE(acrxDynamicLinker()->unloadModule(strPath, nullptr));
+}
 
 TEST(AcRxDynamicLinker, LoadsAModuleOnceAndUnloadsItAsOftenAsItIsLoaded) {
     const std::string strPath = g_strFolder + "/acad_sample.so";
