@@ -3,6 +3,7 @@
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/host_assert.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,9 +30,15 @@ T* AddTable(AcDbDatabase& database, AcDbObjectId& idTable) {
     return pTable;
 }
 
+std::vector<AcDbDatabase*>& OpenDrawings() {
+    static auto* const pDrawings = new std::vector<AcDbDatabase*>; // a static drawing may outlive any other
+    return *pDrawings;
+}
+
 } // namespace
 
 AcDbDatabase::AcDbDatabase() {
+    OpenDrawings().push_back(this);
     auto* const pBlocks = AddTable<AcDbBlockTable>(*this, m_idBlockTable);
     auto* const pLayers = AddTable<AcDbLayerTable>(*this, m_idLayerTable);
     auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, m_idLinetypeTable);
@@ -54,6 +61,7 @@ AcDbDatabase::AcDbDatabase() {
 }
 
 AcDbDatabase::~AcDbDatabase() {
+    std::erase(OpenDrawings(), this);
     AcDbHostApplicationServices* const pServices = acdbHostApplicationServices();
     if (pServices->workingDatabase() == this) pServices->setWorkingDatabase(nullptr);
     // All objects go before the first stub does: an id held by one of them stays good until the last is gone.
@@ -152,6 +160,22 @@ Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject,
     m_undoLog.NoteAppended(*pStub);
     m_mapStubs.emplace(pStub->m_handle, std::move(pStub));
     return Acad::eOk;
+}
+
+void AcDbDatabase::ReplaceObjects(const std::function<std::unique_ptr<AcDbObject>(AcDbObject&)>& replace) {
+    for (const AcDbDatabase* const pDrawing : OpenDrawings()) {
+        for (const auto& [handle, pStub] : pDrawing->m_mapStubs) {
+            const bool bWasOpen = pStub->IsOpen();
+            ++pStub->m_nReaders; // it may be looked at
+            std::unique_ptr<AcDbObject> pOther = replace(*pStub->m_pObject);
+            --pStub->m_nReaders;
+            if (!pOther) continue;
+            HOST_ASSERT(!bWasOpen, "an object that is replaced is not open");
+            pOther->m_id = pStub->m_pObject->m_id;
+            pOther->m_idOwner = pStub->m_pObject->m_idOwner;
+            pStub->m_pObject = std::move(pOther);
+        }
+    }
 }
 
 void AcDbDatabase::NoteChanged(CDbStub& stub) {

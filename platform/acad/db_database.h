@@ -3,6 +3,7 @@
 #include "platform/acad/db_tables.h"
 #include "platform/acad/undo_log.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -52,6 +53,10 @@ public:
 
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
+
+    /// Goes through the objects of all open drawings, erased ones too; an object that replace gives another
+    /// for is destroyed, and the other takes its place. None of those replaced may be open.
+    static void ReplaceObjects(const std::function<std::unique_ptr<AcDbObject>(AcDbObject&)>& replace);
 
     CUndoLog& UndoLog() { return m_undoLog; }
 

@@ -72,14 +72,14 @@ void AcDbObject::EndWriting() {
     // An entity is drawn anew after every opening for writing, since its class may have changed fields
     // without a word; a table or a record counts as changed only when it said so.
     if (stub.m_bModified || isKindOf(AcDbEntity::desc())) stub.m_pDatabase->NoteChanged(stub);
-    TellReactors(stub);
+    TellReactors();
     stub.m_bModified = stub.m_bErasureChanged = false;
 }
 
-void AcDbObject::TellReactors(const CDbStub& stub) {
+void AcDbObject::TellReactors() {
+    CDbStub& stub = *m_id.Stub();
     if (m_arReactors.empty() || !(stub.m_bModified || stub.m_bErasureChanged)) return;
-    CDbStub& mine = *m_id.Stub();
-    ++mine.m_nReaders; // those told may look at it
+    ++stub.m_nReaders; // those told may look at it
     for (const AcDbObjectId& idReactor : std::vector<AcDbObjectId>(m_arReactors)) {
         AcDbObject* pReactor = nullptr;
         if (acdbOpenAcDbObject(pReactor, idReactor, AcDb::kForNotify) != Acad::eOk) continue;
@@ -87,7 +87,7 @@ void AcDbObject::TellReactors(const CDbStub& stub) {
         if (stub.m_bModified) pReactor->modified(this);
         pReactor->close();
     }
-    --mine.m_nReaders;
+    --stub.m_nReaders;
 }
 
 Acad::ErrorStatus AcDbObject::close() {

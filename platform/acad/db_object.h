@@ -82,7 +82,7 @@ private:
     friend class AcDbDatabase;
     friend class CUndoLog;
     void EndWriting();
-    void TellReactors(const CDbStub& stub);
+    void TellReactors();
 
     AcDbObjectId m_id, m_idOwner;
     std::vector<AcDbObjectId> m_arReactors;

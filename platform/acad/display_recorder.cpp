@@ -72,6 +72,11 @@ Adesk::Boolean CDisplayRecorder::spline(const AcDbSpline& spline) {
     return Add(CSplinePrimitive{spline.FitPoints(), spline.Order(), spline.FitTolerance()});
 }
 
+Adesk::Boolean CDisplayRecorder::Picture(const CDisplayList& list) {
+    m_list.insert(m_list.end(), list.begin(), list.end());
+    return Adesk::kFalse;
+}
+
 void CDisplayRecorder::setLineType(AcDbObjectId idLinetype) {
     // The name at once: the id may belong to a temporary drawing that is gone when the list is read.
     m_traits.m_strLinetype = SymbolName(idLinetype);

@@ -25,6 +25,7 @@ private:
                         const AcGeVector3d& direction, const ACHAR* text, Adesk::Int32 length,
                         Adesk::Boolean raw, const AcGiTextStyle& textStyle) override;
     Adesk::Boolean spline(const AcDbSpline& spline) override;
+    Adesk::Boolean Picture(const CDisplayList& list) override;
     void setColor(Adesk::UInt16 colorIndex) override { m_traits.m_nColor = colorIndex; }
     void setLineType(AcDbObjectId idLinetype) override;
     void setSelectionMarker(Adesk::GsMarker marker) override { m_traits.m_nMarker = marker; }

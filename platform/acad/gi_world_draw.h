@@ -2,6 +2,7 @@
 // What an entity draws into: geometry primitives and the traits they carry.
 
 #include "platform/acad/db_object_id.h"
+#include "platform/acad/display_list.h"
 #include "platform/acad/geometry.h"
 #include "platform/acad/gi_text_style.h"
 #include "platform/acad/rx_object.h"
@@ -40,6 +41,8 @@ public:
                                 Adesk::Boolean raw, const AcGiTextStyle& textStyle) = 0;
     /// A spline through its fit points.
     virtual Adesk::Boolean spline(const AcDbSpline& spline) = 0;
+    /// What was drawn before, with the traits that it had; those set now stay as they are.
+    virtual Adesk::Boolean Picture(const CDisplayList& list) = 0;
 };
 
 /// The context of one drawing of one entity.

@@ -99,8 +99,10 @@ public:
     CRecordReader(AcDb::FilerType type, const CDbRecord& record)
         : m_type(type)
         , m_record(record) {}
-    /// Bytes not read yet.
-    std::size_t Left() const { return m_record.m_arBytes.size() - m_nAt; }
+    /// Whether all was read, and nothing asked for that is not there.
+    bool IsAtEnd() const {
+        return m_status == Acad::eOk && Left() == 0 && m_nNextId == m_record.m_arIds.size();
+    }
 
     AcDb::FilerType filerType() const override { return m_type; }
     Acad::ErrorStatus filerStatus() const override { return m_status; }
@@ -142,6 +144,7 @@ public:
     Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId&) override { return Fail(); }
 
 private:
+    std::size_t Left() const { return m_record.m_arBytes.size() - m_nAt; } ///< bytes not read yet
     Acad::ErrorStatus Fail() { return m_status = Acad::eFilerError; }
     template <class T>
     Acad::ErrorStatus Get(T* pValue) {

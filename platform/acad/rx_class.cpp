@@ -1,5 +1,6 @@
 #include "platform/acad/rx_class.h"
 
+#include "platform/acad/db_proxy.h"
 #include "platform/acad/rx_registry.h"
 
 #include <algorithm>
@@ -102,6 +103,7 @@ AcRxClass* newAcRxClass(const ACHAR* className, const ACHAR* parentClassName, in
                                                           pConstructor, dxfName, appName));
     AcRxClass* const pClass = ModuleClasses().back().get();
     dictionary.atPut(className, pClass);
+    ReviveProxies(*pClass);
     return pClass;
 }
 
@@ -109,6 +111,7 @@ void deleteAcRxClass(AcRxClass* pClass) {
     std::vector<std::unique_ptr<AcRxClass>>& classes = ModuleClasses();
     for (auto place = classes.begin(); place != classes.end(); ++place) {
         if (place->get() != pClass) continue;
+        MakeProxies(*pClass);
         ClassDictionary().remove(pClass->name());
         for (const auto& [name, pOther] : ClassDictionary().Entries())
             static_cast<AcRxClass*>(pOther)->delX(pClass); // nobody can ask by this protocol any more

@@ -53,8 +53,9 @@ private:
     std::map<const AcRxClass*, AcRxObject*> m_mapExtensions;
 };
 
-/// Makes a class known in "ClassDictionary" and returns its descriptor. A name that is known already is
-/// refused (null), and so is a parent that isn't known.
+/// Makes a class known in "ClassDictionary" and returns its descriptor; proxies of its objects in the open
+/// drawings become objects again. A name that is known already is refused (null), and so is a parent that
+/// isn't known.
 AcRxClass* newAcRxClass(const ACHAR* className, const ACHAR* parentClassName, int dwgVersion = 0,
                         int maintenanceVersion = 0, int proxyFlags = 0,
                         AcRxPseudoConstructor pConstructor = nullptr, const ACHAR* dxfName = nullptr,

@@ -74,8 +74,7 @@ TEST(RecordFiler, ReadsEveryValueAsItWasWritten) {
     reader.readSoftPointerId(&ids[1]);
     reader.readHardOwnershipId(&ids[2]);
     reader.readSoftOwnershipId(&ids[3]);
-    EXPECT_EQ(reader.filerStatus(), Acad::eOk);
-    EXPECT_EQ(reader.Left(), 0U);
+    EXPECT_TRUE(reader.IsAtEnd());
     EXPECT_EQ(flag, Adesk::kTrue);
     EXPECT_EQ(n8, -128);
     EXPECT_EQ(n16, -32768);
@@ -155,7 +154,7 @@ TEST(RecordFiler, TakesTheRestAsItStandsAndPutsItBehindAnotherBeginning) {
     reader.readHardPointerId(&id);
     CDbRecord rest;
     EXPECT_EQ(reader.readRest(&rest), Acad::eOk);
-    EXPECT_EQ(reader.Left(), 0U);
+    EXPECT_TRUE(reader.IsAtEnd());
 
     const CDbRecord joined = Written([&](AcDbDwgFiler& filer) {
         filer.writeString(L"another");
@@ -208,7 +207,7 @@ TEST(ObjectRecord, MakesAnEqualObject) {
     AcDbPolyline copy;
     CRecordReader reader(AcDb::kCopyFiler, record);
     EXPECT_EQ(copy.dwgIn(&reader), Acad::eOk);
-    EXPECT_EQ(reader.Left(), 0U);
+    EXPECT_TRUE(reader.IsAtEnd());
     EXPECT_EQ(RecordOf(copy, AcDb::kCopyFiler), record);
     ASSERT_EQ(copy.numVerts(), 2U);
     EXPECT_EQ(copy.Vertices()[1].m_dStartWidth, -1.0);

@@ -1,0 +1,71 @@
+#include "platform/acad/db_proxy.h"
+
+#include "platform/acad/db_database.h"
+#include "platform/acad/display_recorder.h"
+#include "platform/windows/host_assert.h"
+
+#include <cwchar>
+
+ACRX_DEFINE_MEMBERS(AcDbProxyObject, AcDbObject, L"ACAD_PROXY_OBJECT")
+ACRX_DEFINE_MEMBERS(AcDbProxyEntity, AcDbEntity, L"ACAD_PROXY_ENTITY")
+
+namespace {
+
+/// Fills target, a free object, with source's record and picture. False unless it reads all of the record.
+bool TakeOver(AcDbObject& target, const AcDbObject& source) {
+    const CDbRecord record = RecordOf(source, AcDb::kFileFiler);
+    CRecordReader reader(AcDb::kFileFiler, record);
+    if (target.dwgIn(&reader) != Acad::eOk || !reader.IsAtEnd()) return false;
+    if (auto* const pEntity = dynamic_cast<AcDbEntity*>(&target))
+        pEntity->SetPicture(dynamic_cast<const AcDbEntity&>(source).Picture());
+    return true;
+}
+
+std::unique_ptr<AcDbObject> ProxyOf(AcDbObject& object) {
+    std::unique_ptr<AcDbObject> pProxy;
+    if (auto* const pEntity = AcDbEntity::cast(&object)) {
+        if (!pEntity->Picture()) DrawEntity(*pEntity); // its class can for the last time
+        pProxy = std::make_unique<AcDbProxyEntity>(*object.isA());
+    } else {
+        pProxy = std::make_unique<AcDbProxyObject>(*object.isA());
+    }
+    const bool bTaken = TakeOver(*pProxy, object);
+    HOST_ASSERT(bTaken, "a proxy reads any record");
+    return pProxy;
+}
+
+/// The object that a proxy stands for; null when its class cannot make it. The class is on its way to its
+/// module, whose objects cannot be asked for it yet.
+std::unique_ptr<AcDbObject> OriginalOf(const AcDbObject& proxy, const AcRxClass& come) {
+    const AcRxClass* const pKind =
+        proxy.isKindOf(AcDbEntity::desc()) ? AcDbEntity::desc() : AcDbObject::desc();
+    if (!come.isDerivedFrom(pKind)) return nullptr;
+    std::unique_ptr<AcDbObject> pObject(static_cast<AcDbObject*>(come.create()));
+    return pObject && TakeOver(*pObject, proxy) ? std::move(pObject) : nullptr;
+}
+
+} // namespace
+
+CProxyOrigin::CProxyOrigin(const AcRxClass& original)
+    : m_strClassName(original.name())
+    , m_strDxfName(original.dxfName())
+    , m_strAppName(original.appName()) {}
+
+Adesk::Boolean AcDbProxyEntity::subWorldDraw(AcGiWorldDraw* pMode) {
+    assertReadEnabled();
+    if (Picture()) pMode->rawGeometry()->Picture(*Picture());
+    return Adesk::kTrue;
+}
+
+void MakeProxies(const AcRxClass& going) {
+    AcDbDatabase::ReplaceObjects(
+        [&going](AcDbObject& object) { return object.isA() == &going ? ProxyOf(object) : nullptr; });
+}
+
+void ReviveProxies(const AcRxClass& come) {
+    AcDbDatabase::ReplaceObjects([&come](AcDbObject& object) -> std::unique_ptr<AcDbObject> {
+        const auto* const pOrigin = dynamic_cast<const CProxyOrigin*>(&object);
+        if (!pOrigin || std::wcscmp(pOrigin->originalClassName(), come.name()) != 0) return nullptr;
+        return OriginalOf(object, come);
+    });
+}

@@ -1,0 +1,62 @@
+#pragma once
+// What stands in a drawing for an object whose class is not known at present: the class's name, the object's
+// record and, for an entity, its picture.
+
+#include "platform/acad/db_entity.h"
+#include "platform/acad/memory_filer.h"
+
+/// The class that a proxy's object has when its module is there.
+class CProxyOrigin {
+public:
+    CProxyOrigin() = default;
+    explicit CProxyOrigin(const AcRxClass& original);
+    virtual ~CProxyOrigin() = default;
+    const ACHAR* originalClassName() const { return m_strClassName.c_str(); }
+    const ACHAR* originalDxfName() const { return m_strDxfName.c_str(); }
+    const ACHAR* applicationDescription() const { return m_strAppName.c_str(); }
+
+private:
+    std::wstring m_strClassName, m_strDxfName, m_strAppName;
+};
+
+/// A proxy with the platform's part of the record read as such, so that layer, colour, reactors and extended
+/// data can be seen and changed, and its class's part kept as it stands. Its own record is the original's.
+template <class Base>
+class CProxyOf : public Base, public CProxyOrigin {
+public:
+    using CProxyOrigin::CProxyOrigin;
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override {
+        const Acad::ErrorStatus status = Base::dwgOutFields(pFiler);
+        return status == Acad::eOk ? pFiler->writeRest(m_rest) : status;
+    }
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override {
+        const Acad::ErrorStatus status = Base::dwgInFields(pFiler);
+        return status == Acad::eOk ? pFiler->readRest(&m_rest) : status;
+    }
+
+private:
+    CDbRecord m_rest;
+};
+
+class AcDbProxyObject : public CProxyOf<AcDbObject> {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbProxyObject)
+    using CProxyOf::CProxyOf;
+};
+
+/// It shows the picture that its entity drew last. Only its class could move it or take it apart.
+class AcDbProxyEntity : public CProxyOf<AcDbEntity> {
+public:
+    ACRX_DECLARE_MEMBERS(AcDbProxyEntity)
+    using CProxyOf::CProxyOf;
+
+protected:
+    Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
+};
+
+/// Puts proxies for the objects of a class that goes, in all open drawings; none of them may be open.
+void MakeProxies(const AcRxClass& going);
+
+/// Puts objects of a class that has come for their proxies, in all open drawings. A proxy stays when its
+/// class does not read the whole record.
+void ReviveProxies(const AcRxClass& come);
