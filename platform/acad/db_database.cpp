@@ -22,7 +22,7 @@ AcDbObjectId AddNamed(AcDbSymbolTable& table, const ACHAR* name, T* pRecord) {
     return id;
 }
 
-/// A new table, open for writing.
+/// A new table or dictionary, open for writing.
 template <class T>
 T* AddTable(AcDbDatabase& database, AcDbObjectId& idTable) {
     T* const pTable = new T;
@@ -54,8 +54,9 @@ AcDbDatabase::AcDbDatabase() {
     pStandard->setFileName(L"txt.shx");
     AddNamed(*pApps, L"ACAD", new AcDbRegAppTableRecord);
     m_variables.m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
+    auto* const pNamedObjects = AddTable<AcDbDictionary>(*this, m_idNamedObjects);
     for (AcDbObject* pTable :
-         std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles, pApps})
+         std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles, pApps, pNamedObjects})
         pTable->close();
     m_bModified = false;
 }
@@ -87,6 +88,10 @@ Acad::ErrorStatus AcDbDatabase::getTextStyleTable(AcDbTextStyleTable*& pTable, A
 
 Acad::ErrorStatus AcDbDatabase::getRegAppTable(AcDbRegAppTable*& pTable, AcDb::OpenMode mode) {
     return acdbOpenObject(pTable, m_idRegAppTable, mode);
+}
+
+Acad::ErrorStatus AcDbDatabase::getNamedObjectsDictionary(AcDbDictionary*& pDictionary, AcDb::OpenMode mode) {
+    return acdbOpenObject(pDictionary, m_idNamedObjects, mode);
 }
 
 Acad::ErrorStatus AcDbDatabase::setLtscale(double scale) {

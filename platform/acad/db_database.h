@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/acad/db_dictionary.h"
 #include "platform/acad/db_tables.h"
 #include "platform/acad/undo_log.h"
 
@@ -16,7 +17,7 @@ public:
     AcRxClass* isA() const override { return AcDbDatabase::desc(); }
 
     /// A new drawing holds model and paper space, layer "0", the line types ByLayer, ByBlock and Continuous,
-    /// the text style "Standard" and the application "ACAD".
+    /// the text style "Standard", the application "ACAD" and an empty dictionary of named objects.
     AcDbDatabase();
     ~AcDbDatabase() override;
 
@@ -25,11 +26,13 @@ public:
     Acad::ErrorStatus getLinetypeTable(AcDbLinetypeTable*& pTable, AcDb::OpenMode mode);
     Acad::ErrorStatus getTextStyleTable(AcDbTextStyleTable*& pTable, AcDb::OpenMode mode);
     Acad::ErrorStatus getRegAppTable(AcDbRegAppTable*& pTable, AcDb::OpenMode mode);
+    Acad::ErrorStatus getNamedObjectsDictionary(AcDbDictionary*& pDictionary, AcDb::OpenMode mode);
     AcDbObjectId blockTableId() const { return m_idBlockTable; }
     AcDbObjectId layerTableId() const { return m_idLayerTable; }
     AcDbObjectId linetypeTableId() const { return m_idLinetypeTable; }
     AcDbObjectId textStyleTableId() const { return m_idTextStyleTable; }
     AcDbObjectId regAppTableId() const { return m_idRegAppTable; }
+    AcDbObjectId namedObjectsDictionaryId() const { return m_idNamedObjects; }
     AcDbObjectId ModelSpaceId() const { return m_idModelSpace; }
 
     double ltscale() const { return m_variables.m_dLtscale; }
@@ -75,7 +78,7 @@ private:
     std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
     Adesk::UInt64 m_nNextHandle = 1;
     AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idRegAppTable;
-    AcDbObjectId m_idModelSpace;
+    AcDbObjectId m_idModelSpace, m_idNamedObjects;
     CDbVariables m_variables;
     CUndoLog m_undoLog{*this};
     std::wstring m_strFilename;
