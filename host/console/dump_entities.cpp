@@ -6,6 +6,7 @@
 #include "platform/acad/db_database.h"
 #include "platform/acad/db_line.h"
 #include "platform/acad/db_polyline.h"
+#include "platform/acad/db_proxy.h"
 #include "platform/acad/db_spline.h"
 #include "platform/acad/db_text.h"
 #include "platform/acad/rx_class.h"
@@ -64,6 +65,12 @@ void AddArc(const AcDbArc& arc, CJson* json) {
     (*json)["normal"] = JsonPoint(AcGePoint3d(normal.x, normal.y, normal.z));
 }
 
+void AddProxy(const AcDbProxyEntity& proxy, CJson* json) {
+    (*json)["originalClass"] = Utf8FromWide(proxy.originalClassName());
+    (*json)["originalDxfName"] = Utf8FromWide(proxy.originalDxfName());
+    (*json)["graphics"] = proxy.Picture() ? JsonDisplayList(*proxy.Picture()) : CJson::array();
+}
+
 struct CJsonOfItem {
     CJson operator()(const std::wstring& text) const { return Utf8FromWide(text); }
     CJson operator()(double value) const { return JsonNumber(value); }
@@ -112,6 +119,7 @@ void AddClass(const AcDbEntity& entity, CJson* json) {
     if (const auto* const pSpline = AcDbSpline::cast(&entity)) AddSpline(*pSpline, json);
     if (const auto* const pLine = AcDbLine::cast(&entity)) AddLine(*pLine, json);
     if (const auto* const pArc = AcDbArc::cast(&entity)) AddArc(*pArc, json);
+    if (const auto* const pProxy = AcDbProxyEntity::cast(&entity)) AddProxy(*pProxy, json);
     if (const CFieldTable* const pFields = FieldsOf(entity)) AddFields(entity, *pFields, json);
 }
 

@@ -32,7 +32,7 @@ AcDbObjectId Copy(const CHost& host, AcDbObjectId id) {
         const CDbOpen<AcDbEntity> source(id);
         if (source) {
             const CDbRecord record = RecordOf(*source.Get(), AcDb::kCopyFiler);
-            pCopy.reset(static_cast<AcDbEntity*>(source->isA()->create()));
+            pCopy.reset(static_cast<AcDbEntity*>(source->NewOfSameClass().release()));
             CRecordReader reader(AcDb::kCopyFiler, record);
             if (pCopy && pCopy->dwgIn(&reader) != Acad::eOk) pCopy.reset();
             idBlock = source->ownerId();

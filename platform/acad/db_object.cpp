@@ -230,6 +230,10 @@ Acad::ErrorStatus AcDbObject::dwgInFields(AcDbDwgFiler* pFiler) {
     return pFiler->filerStatus();
 }
 
+std::unique_ptr<AcDbObject> AcDbObject::NewOfSameClass() const {
+    return std::unique_ptr<AcDbObject>(static_cast<AcDbObject*>(isA()->create()));
+}
+
 void AcDbObject::assertReadEnabled() const {
     HOST_ASSERT(isReadEnabled(), "an object that is read is free or open");
 }

@@ -5,6 +5,7 @@
 #include "platform/acad/error_status.h"
 #include "platform/acad/rx_class.h"
 
+#include <memory>
 #include <vector>
 
 class AcDbDwgFiler;
@@ -59,6 +60,9 @@ public:
     resbuf* xData(const ACHAR* appName = nullptr) const;
     Acad::ErrorStatus setXData(const resbuf* pChain); ///< see CXData::Put
     const CXData& XData() const { return m_xdata; }
+
+    /// A free object of the same class, for a copy; null when the class makes none.
+    virtual std::unique_ptr<AcDbObject> NewOfSameClass() const;
 
     // What a persistent reactor is told, opened for notify; the notifier is open for reading then.
     virtual void modified(const AcDbObject*) {}                           ///< it was closed after a change

@@ -21,17 +21,22 @@ bool TakeOver(AcDbObject& target, const AcDbObject& source) {
     return true;
 }
 
-std::unique_ptr<AcDbObject> ProxyOf(AcDbObject& object) {
-    std::unique_ptr<AcDbObject> pProxy;
-    if (auto* const pEntity = AcDbEntity::cast(&object)) {
-        if (!pEntity->Picture()) DrawEntity(*pEntity); // its class can for the last time
-        pProxy = std::make_unique<AcDbProxyEntity>(*object.isA());
-    } else {
-        pProxy = std::make_unique<AcDbProxyObject>(*object.isA());
-    }
+/// A proxy of either kind for an object.
+template <class Proxy>
+std::unique_ptr<AcDbObject> MakeProxy(const AcDbObject& object) {
+    auto pProxy = std::make_unique<Proxy>();
+    const AcRxClass& original = *object.isA();
+    pProxy->SetOrigin({original.name(), original.dxfName(), original.appName()});
     const bool bTaken = TakeOver(*pProxy, object);
     HOST_ASSERT(bTaken, "a proxy reads any record");
     return pProxy;
+}
+
+std::unique_ptr<AcDbObject> ProxyOf(AcDbObject& object) {
+    auto* const pEntity = AcDbEntity::cast(&object);
+    if (!pEntity) return MakeProxy<AcDbProxyObject>(object);
+    if (!pEntity->Picture()) DrawEntity(*pEntity); // its class can for the last time
+    return MakeProxy<AcDbProxyEntity>(object);
 }
 
 /// The object that a proxy stands for; null when its class cannot make it. The class is on its way to its
@@ -46,11 +51,6 @@ std::unique_ptr<AcDbObject> OriginalOf(const AcDbObject& proxy, const AcRxClass&
 
 } // namespace
 
-CProxyOrigin::CProxyOrigin(const AcRxClass& original)
-    : m_strClassName(original.name())
-    , m_strDxfName(original.dxfName())
-    , m_strAppName(original.appName()) {}
-
 Adesk::Boolean AcDbProxyEntity::subWorldDraw(AcGiWorldDraw* pMode) {
     assertReadEnabled();
     if (Picture()) pMode->rawGeometry()->Picture(*Picture());
@@ -64,8 +64,8 @@ void MakeProxies(const AcRxClass& going) {
 
 void ReviveProxies(const AcRxClass& come) {
     AcDbDatabase::ReplaceObjects([&come](AcDbObject& object) -> std::unique_ptr<AcDbObject> {
-        const auto* const pOrigin = dynamic_cast<const CProxyOrigin*>(&object);
-        if (!pOrigin || std::wcscmp(pOrigin->originalClassName(), come.name()) != 0) return nullptr;
+        const auto* const pProxy = dynamic_cast<const CProxy*>(&object);
+        if (!pProxy || std::wcscmp(pProxy->originalClassName(), come.name()) != 0) return nullptr;
         return OriginalOf(object, come);
     });
 }

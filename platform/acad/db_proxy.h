@@ -5,26 +5,33 @@
 #include "platform/acad/db_entity.h"
 #include "platform/acad/memory_filer.h"
 
-/// The class that a proxy's object has when its module is there.
-class CProxyOrigin {
-public:
-    CProxyOrigin() = default;
-    explicit CProxyOrigin(const AcRxClass& original);
-    virtual ~CProxyOrigin() = default;
-    const ACHAR* originalClassName() const { return m_strClassName.c_str(); }
-    const ACHAR* originalDxfName() const { return m_strDxfName.c_str(); }
-    const ACHAR* applicationDescription() const { return m_strAppName.c_str(); }
+#include <memory>
+#include <string>
+#include <type_traits>
 
-private:
+/// What a class is called in drawings and by its users.
+struct CProxyOrigin {
     std::wstring m_strClassName, m_strDxfName, m_strAppName;
+};
+
+/// What both kinds of proxy know of the class that their object has when its module is there.
+class CProxy {
+public:
+    virtual ~CProxy() = default;
+    const ACHAR* originalClassName() const { return m_origin.m_strClassName.c_str(); }
+    const ACHAR* originalDxfName() const { return m_origin.m_strDxfName.c_str(); }
+    const ACHAR* applicationDescription() const { return m_origin.m_strAppName.c_str(); }
+    void SetOrigin(CProxyOrigin origin) { m_origin = std::move(origin); }
+
+protected:
+    CProxyOrigin m_origin;
 };
 
 /// A proxy with the platform's part of the record read as such, so that layer, colour, reactors and extended
 /// data can be seen and changed, and its class's part kept as it stands. Its own record is the original's.
-template <class Base>
-class CProxyOf : public Base, public CProxyOrigin {
+template <class Self, class Base>
+class CProxyOf : public Base, public CProxy {
 public:
-    using CProxyOrigin::CProxyOrigin;
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override {
         const Acad::ErrorStatus status = Base::dwgOutFields(pFiler);
         return status == Acad::eOk ? pFiler->writeRest(m_rest) : status;
@@ -33,22 +40,27 @@ public:
         const Acad::ErrorStatus status = Base::dwgInFields(pFiler);
         return status == Acad::eOk ? pFiler->readRest(&m_rest) : status;
     }
+    std::unique_ptr<AcDbObject> NewOfSameClass() const override {
+        auto pOther = std::make_unique<Self>();
+        pOther->SetOrigin(m_origin);
+        if constexpr (std::is_base_of_v<AcDbEntity, Base>)
+            pOther->SetPicture(Base::Picture()); // which no record holds
+        return pOther;
+    }
 
 private:
     CDbRecord m_rest;
 };
 
-class AcDbProxyObject : public CProxyOf<AcDbObject> {
+class AcDbProxyObject : public CProxyOf<AcDbProxyObject, AcDbObject> {
 public:
     ACRX_DECLARE_MEMBERS(AcDbProxyObject)
-    using CProxyOf::CProxyOf;
 };
 
 /// It shows the picture that its entity drew last. Only its class could move it or take it apart.
-class AcDbProxyEntity : public CProxyOf<AcDbEntity> {
+class AcDbProxyEntity : public CProxyOf<AcDbProxyEntity, AcDbEntity> {
 public:
     ACRX_DECLARE_MEMBERS(AcDbProxyEntity)
-    using CProxyOf::CProxyOf;
 
 protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;

@@ -1,5 +1,7 @@
 // LOADMODULE, UNLOADMODULE and COMMANDS in real runs.
 
+#include <nlohmann/json.hpp>
+
 #include "tests/host/console/program_run.h"
 
 using ModuleCommands = CProgramRun;
@@ -22,6 +24,31 @@ TEST_F(ModuleCommands, AModuleIsLoadedAndUnloadedByItsPath) {
     const CProgramResult result = RunProgram("-q -s script --load none");
     EXPECT_EQ(result.m_nStatus, 0);
     EXPECT_EQ(result.m_strOut, std::string(SAMPLE_COMMANDS) + "\npoint 0 0 0\n");
+}
+
+TEST_F(ModuleCommands, EntitiesOfAnUnloadedModuleAreProxiesUntilItIsLoadedAgain) {
+    const std::string unload = "UNLOADMODULE \"" SAMPLE_MODULE "\"\n",
+                      load = "LOADMODULE \"" SAMPLE_MODULE "\"\n";
+    const CProgramResult result = RunScript(
+        "SHEET 1,2,3\nDUMP a.json\n" + unload +
+            "DUMP b.json\nMOVE all 0,0 1,1\nCOPY all 0,0 0,0\nDUMP c.json\n" + load + "DUMP d.json\n",
+        "-q");
+    EXPECT_EQ(result.m_nStatus, 0) << result.m_strErr;
+    const auto entity = [this](const char* name, size_t index) {
+        return nlohmann::ordered_json::parse(ReadFile(m_folder / name))["modelSpace"].at(index);
+    };
+    const auto original = entity("a.json", 0), proxy = entity("b.json", 0);
+    EXPECT_EQ(proxy["class"], "AcDbProxyEntity");
+    EXPECT_EQ(proxy["handle"], original["handle"]);
+    EXPECT_EQ(proxy["originalClass"], "CSampleSheet");
+    EXPECT_EQ(proxy["originalDxfName"], "SAMPLESHEET");
+    EXPECT_EQ(proxy["graphics"], original["world"]);
+    EXPECT_FALSE(proxy.contains("fields"));
+    EXPECT_NE(result.m_strOut.find("cannot move"), std::string::npos) << result.m_strOut;
+    EXPECT_EQ(entity("c.json", 1)["graphics"], original["world"]);
+    EXPECT_EQ(entity("d.json", 0)["fields"]["m_ptOrigin"], original["fields"]["m_ptOrigin"]);
+    EXPECT_EQ(entity("d.json", 0)["world"], original["world"]);
+    EXPECT_EQ(entity("d.json", 1)["fields"]["m_nCount"], -7);
 }
 
 TEST_F(ModuleCommands, AModuleThatDoesNotLoadLetsTheRunGoOnAndEndWithFour) {

@@ -1,6 +1,7 @@
 #include "tests/host/console/sample_entity.h"
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_filer.h"
 #include "platform/acad/db_polyline.h"
 #include "platform/acad/db_spline.h"
 #include "platform/acad/db_text.h"
@@ -48,7 +49,41 @@ public:
             return sheet.m_strName;
         }
     }
-    int Set(AcDbObject&, int, const CFieldValue&) const override { return 0; }
+    int Set(AcDbObject& object, int index, const CFieldValue& value) const override {
+        auto& sheet = static_cast<CSampleSheet&>(object);
+        switch (index) {
+        case 0:
+            return Take(value, sheet.m_ptOrigin);
+        case 1: {
+            const int nTaken = Take(value, sheet.m_nCount);
+            sheet.m_nCount = static_cast<Adesk::Int16>(sheet.m_nCount); // as a field of 16 bits does
+            return nTaken;
+        }
+        case 2:
+            return Take(value, sheet.m_flag);
+        case 3:
+            return Take(value, sheet.m_dValue);
+        case 4:
+            return Take(value, sheet.m_dNone);
+        case 5:
+            return Take(value, sheet.m_idStyle);
+        case 6:
+            return Take(value, sheet.m_arNumbers);
+        case 7:
+            return Take(value, sheet.m_arTexts);
+        case 8:
+            return Take(value, sheet.m_arLists);
+        default:
+            return Take(value, sheet.m_strName);
+        }
+    }
+
+private:
+    template <class T>
+    static int Take(const CFieldValue& value, T& field) {
+        if (const T* const pGiven = std::get_if<T>(&value)) return field = *pGiven, 1;
+        return 0;
+    }
 };
 
 CSampleFields g_fields;
@@ -98,6 +133,24 @@ Adesk::Boolean CSampleSheet::subWorldDraw(AcGiWorldDraw* pMode) {
     fit.append(AcGePoint3d(10.0, 70.0, 0.0));
     geometry.spline(AcDbSpline(fit));
     return Adesk::kTrue;
+}
+
+void CSampleSheet::modified(const AcDbObject* pObject) {
+    if (g_bTellDraws)
+        acutPrintf(L"\n%ls heard of %ls", WideFromGbk(handle().Hex()).c_str(),
+                   WideFromGbk(pObject->handle().Hex()).c_str());
+}
+
+Acad::ErrorStatus CSampleSheet::dwgOutFields(AcDbDwgFiler* pFiler) const {
+    AcDbEntity::dwgOutFields(pFiler);
+    pFiler->writePoint3d(m_ptOrigin);
+    return pFiler->writeInt32(m_nCount);
+}
+
+Acad::ErrorStatus CSampleSheet::dwgInFields(AcDbDwgFiler* pFiler) {
+    AcDbEntity::dwgInFields(pFiler);
+    pFiler->readPoint3d(&m_ptOrigin);
+    return pFiler->readInt32(&m_nCount);
 }
 
 Acad::ErrorStatus CSampleSheet::subExplode(AcDbVoidPtrArray& entitySet) const {

@@ -21,6 +21,10 @@ public:
     std::vector<std::string> m_arTexts = {"甲", ""};
     std::vector<std::vector<double>> m_arLists = {{1.5}, {}};
 
+    void modified(const AcDbObject* pObject) override;                   ///< told while g_bTellDraws is set
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override; ///< origin and count
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
+
 protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
     Acad::ErrorStatus subExplode(AcDbVoidPtrArray& entitySet) const override;
@@ -32,5 +36,5 @@ protected:
 void RegisterSampleSheet();
 void UnregisterSampleSheet();
 
-/// Each drawing of a sheet is told by acutPrintf while this is set.
+/// Each drawing of a sheet, and what it hears as a reactor, is told by acutPrintf while this is set.
 extern bool g_bTellDraws;

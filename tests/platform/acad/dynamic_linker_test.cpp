@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include <dlfcn.h>
 
@@ -57,6 +58,19 @@ TEST(AcRxDynamicLinker, WithdrawsWhatAModuleLeavesBehind) {
     EXPECT_TRUE(IsKnown(L"CSampleUntidy"));
     ASSERT_TRUE(acrxDynamicLinker()->unloadModule(strPath, nullptr));
     ExpectNothingLeftBehind();
+}
+
+TEST(AcRxDynamicLinker, TakesTheCodeOutOfMemory) {
+    const auto isMapped = [](const std::string& strPath) {
+        std::ifstream maps("/proc/self/maps");
+        const std::string text(std::istreambuf_iterator<char>(maps), {});
+        return text.find(strPath) != std::string::npos;
+    };
+    const std::string strPath = std::filesystem::canonical(g_strFolder + "/acad_sample.so").string();
+    ASSERT_TRUE(acrxDynamicLinker()->loadModule(strPath, nullptr));
+    EXPECT_TRUE(isMapped(strPath));
+    ASSERT_TRUE(acrxDynamicLinker()->unloadModule(strPath, nullptr));
+    EXPECT_FALSE(isMapped(strPath));
 }
 
 TEST(AcRxDynamicLinker, WithdrawsWhatAModuleAddedThatThenRefusedToStart) {
