@@ -14,6 +14,7 @@ constexpr std::array g_arCommands = {
     CHostCommand{"PLINE", CommandPline, "points and end: makes a polyline"},
     CHostCommand{"ARC", CommandArc, "center radius start end: makes an arc, angles in degrees"},
     CHostCommand{"TEXT", CommandText, "point height text: makes a text"},
+    CHostCommand{"ADDENTITY", CommandAddEntity, "path: makes an entity of a registered class from JSON"},
     CHostCommand{"MOVE", CommandMove, "selection base to: moves the entities"},
     CHostCommand{"COPY", CommandCopy, "selection base to: makes moved copies"},
     CHostCommand{"ROTATE", CommandRotate, "selection base degrees: turns the entities"},

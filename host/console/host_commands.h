@@ -27,6 +27,8 @@ void CommandLine(CHost& host);
 void CommandPline(CHost& host);
 void CommandArc(CHost& host);
 void CommandText(CHost& host);
+// add_entity_command.cpp
+void CommandAddEntity(CHost& host);
 // editing_commands.cpp
 void CommandMove(CHost& host);
 void CommandCopy(CHost& host);

@@ -1,5 +1,6 @@
 // Commands that make ordinary entities in model space.
 
+#include "host/console/append_entity.h"
 #include "host/console/host_commands.h"
 #include "host/console/texts.h"
 #include "platform/acad/db_arc.h"
@@ -11,13 +12,6 @@
 #include <numbers>
 
 namespace {
-
-void AppendToModelSpace(CHost& host, std::unique_ptr<AcDbEntity> pEntity) {
-    const CDbOpen<AcDbBlockTableRecord> space(host.Drawing().ModelSpaceId(), AcDb::kForWrite);
-    if (!space || space->appendAcDbEntity(pEntity.get()) != Acad::eOk)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "model space takes no entity now");
-    pEntity.release()->close();
-}
 
 double PositiveNumber(CHost& host, const std::string& strPrompt, const std::string& strWhat) {
     const double value = host.m_input.Number(strPrompt);
