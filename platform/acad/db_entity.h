@@ -74,3 +74,9 @@ private:
     AcDbObjectId m_idLinetype, m_idLayer;
     std::shared_ptr<const CDisplayList> m_pPicture;
 };
+
+/// Opens a stored entity, as acdbOpenObject does.
+inline Acad::ErrorStatus acdbOpenAcDbEntity(AcDbEntity*& pEntity, AcDbObjectId id, AcDb::OpenMode mode,
+                                            bool bOpenErased = false) {
+    return acdbOpenObject(pEntity, id, mode, bOpenErased);
+}

@@ -72,3 +72,9 @@ AcDbExtents ExtentsOf(const CDisplayList& list);
 /// True when the picture passes within distance (drawing units) of the point, seen from above. A wide line
 /// fills its width, a text its rectangle.
 bool PassesNear(const CDisplayList& list, const AcGePoint3d& point, double distance);
+
+/// True when some of the picture lies in the box of two corners, edges included, seen from above. Line widths
+/// don't count; a text fills its rectangle.
+bool PassesThrough(const CDisplayList& list, const AcGePoint3d& corner, const AcGePoint3d& opposite);
+/// True when the picture shows something and all of it lies in the box, edges included, seen from above.
+bool LiesWithin(const CDisplayList& list, const AcGePoint3d& corner, const AcGePoint3d& opposite);

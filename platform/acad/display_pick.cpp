@@ -1,9 +1,7 @@
 // Whether a picture passes near a point, seen from above.
 
 #include "platform/acad/bulge_arc.h"
-#include "platform/acad/display_list.h"
-#include "platform/acad/spline_curve.h"
-#include "platform/acad/text_box.h"
+#include "platform/acad/display_segments.h"
 
 #include <algorithm>
 
@@ -42,22 +40,22 @@ private:
     }
 };
 
-AcGePoint2d Flat(const AcGePoint3d& point) {
-    return {point.x, point.y};
-}
-
 double Half(double width) {
     return width > 0.0 ? width / 2.0 : 0.0;
 }
 
-bool IsNear(const CPick& pick, const CPolylinePrimitive& shape) {
-    const std::vector<AcGePoint3d>& points = shape.m_arPoints;
-    if (points.size() == 1) return pick.Near(Flat(points[0]), Flat(points[0]));
-    for (std::size_t i = 1; i < points.size(); ++i)
-        if (pick.Near(Flat(points[i - 1]), Flat(points[i]))) return true;
-    return false;
+bool IsNear(const CPick& pick, const std::vector<CSegment>& segments) {
+    return std::any_of(segments.begin(), segments.end(), [&pick](const CSegment& segment) {
+        return pick.Near(segment.m_ptFrom, segment.m_ptTo);
+    });
 }
 
+template <class Shape>
+bool IsNear(const CPick& pick, const Shape& shape) {
+    return IsNear(pick, Segments(shape));
+}
+
+/// Here widths count, and arcs are taken as what they are.
 bool IsNear(const CPick& pick, const CPlinePrimitive& shape) {
     const std::size_t count = shape.m_arVertices.size();
     if (count == 1) return pick.Near(shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt);
@@ -70,39 +68,10 @@ bool IsNear(const CPick& pick, const CPlinePrimitive& shape) {
     return false;
 }
 
-bool IsNear(const CPick& pick, const CArcPrimitive& shape) {
-    constexpr int steps = 128; // the arc may lie slanted: chords serve every case
-    const CArcFrame frame(shape);
-    for (int step = 0; step < steps; ++step) {
-        const double from = shape.m_dSweep * step / steps, to = shape.m_dSweep * (step + 1) / steps;
-        if (pick.Near(Flat(frame.At(from)), Flat(frame.At(to)))) return true;
-    }
-    return false;
-}
-
 /// A text is near when the point lies in its rectangle or near an edge of it.
 bool IsNear(const CPick& pick, const CTextPrimitive& shape) {
-    const auto corners = TextBox(shape);
-    if (!corners) return false;
-    int left = 0, right = 0;
-    for (std::size_t i = 0; i < corners->size(); ++i) {
-        const AcGePoint2d from = Flat((*corners)[i]), to = Flat((*corners)[(i + 1) % corners->size()]);
-        if (pick.Near(from, to)) return true;
-        const double side =
-            (to.x - from.x) * (pick.m_pt.y - from.y) - (to.y - from.y) * (pick.m_pt.x - from.x);
-        ++(side > 0.0 ? left : right);
-    }
-    return left == 0 || right == 0;
-}
-
-bool IsNear(const CPick& pick, const CSplinePrimitive& shape) {
-    constexpr int steps = 32;
-    for (const CBezier& piece : NaturalSpline(shape.m_arFitPoints))
-        for (int step = 0; step < steps; ++step)
-            if (pick.Near(piece.At(static_cast<double>(step) / steps),
-                          piece.At(static_cast<double>(step + 1) / steps)))
-                return true;
-    return false;
+    const std::vector<CSegment> edges = Segments(shape);
+    return IsInside(edges, pick.m_pt) || IsNear(pick, edges);
 }
 
 } // namespace

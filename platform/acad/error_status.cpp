@@ -37,8 +37,14 @@ constexpr const char* g_arStatusNames[] = {
     "eIsWriteProtected",
     "eNotOpenForNotify",
     "eRegappIdNotFound",
+    "eInvalidAdsName",
+    "eNoDocument",
+    "eNotFromThisDocument",
+    "eInvalidContext",
+    "eLockViolation",
+    "eUserBreak",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eRegappIdNotFound + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eUserBreak + 1, "every status has its name");
 
 } // namespace
 

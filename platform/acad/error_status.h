@@ -36,6 +36,12 @@ enum ErrorStatus {
     eIsWriteProtected = 28,
     eNotOpenForNotify = 29,
     eRegappIdNotFound = 30, ///< extended data under a name that the drawing has not registered
+    eInvalidAdsName = 31,   ///< a name that stands for no entity
+    eNoDocument = 32,
+    eNotFromThisDocument = 33, ///< the document is none of the program's
+    eInvalidContext = 34, ///< asked for in a document's context, but for the application's; or the reverse
+    eLockViolation = 35,  ///< the document is locked, or isn't, against what was asked for
+    eUserBreak = 36,      ///< the user gave it up
 };
 
 /// The status's name, for messages ("eWasErased").

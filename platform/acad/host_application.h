@@ -26,6 +26,17 @@ public:
     virtual ~CEditorHost() = default;
     virtual void Print(const std::string& strText) = 0;
     virtual CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) = 0;
+    // The rest is for hosts with a user: where there is none, these are cancelled.
+    /// One entity of the working drawing; the point is the origin for a pick without one.
+    virtual CPromptResult AskEntity(const std::string& /*strPrompt*/, AcDbObjectId* /*pId*/,
+                                    AcGePoint3d* /*pPoint*/) {
+        return CPromptResult::Cancel;
+    }
+    /// Several, each once.
+    virtual CPromptResult AskSelection(const std::string& /*strPrompt*/,
+                                       std::vector<AcDbObjectId>* /*pIds*/) {
+        return CPromptResult::Cancel;
+    }
     /// Full path of a file by the host's search order, GBK; empty when there is none.
     virtual std::string FindFile(const std::string& strName) = 0;
 };

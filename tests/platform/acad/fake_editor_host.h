@@ -4,7 +4,8 @@
 
 #include <map>
 
-/// Plays the user: prints into a text, answers points as told, knows some files. Registered while it lives.
+/// Plays the user: prints into a text, answers points and picks as told, knows some files. Registered while
+/// it lives.
 class CFakeEditorHost : public CEditorHost {
 public:
     CFakeEditorHost() { SetEditorHost(this); }
@@ -18,6 +19,15 @@ public:
         if (m_answer == CPromptResult::Value) *pPoint = m_ptAnswer;
         return m_answer;
     }
+    CPromptResult AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) override {
+        if (m_answer == CPromptResult::Value) *pId = m_arPicked.at(0);
+        return AskPoint(strPrompt, pPoint);
+    }
+    CPromptResult AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) override {
+        m_strPrompt = strPrompt;
+        *pIds = m_arPicked;
+        return m_answer;
+    }
     std::string FindFile(const std::string& strName) override {
         const auto found = m_mapFiles.find(strName);
         return found == m_mapFiles.end() ? std::string() : found->second;
@@ -26,5 +36,6 @@ public:
     std::string m_strPrinted, m_strPrompt;
     CPromptResult m_answer = CPromptResult::Value;
     AcGePoint3d m_ptAnswer;
+    std::vector<AcDbObjectId> m_arPicked;
     std::map<std::string, std::string> m_mapFiles;
 };

@@ -1,0 +1,198 @@
+#include "platform/acad/selection.h"
+
+#include "platform/acad/db_stub.h"
+#include "platform/acad/host_application.h"
+#include "platform/acad/selection_filter.h"
+#include "platform/windows/code_page.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+namespace {
+
+using CIds = std::vector<AcDbObjectId>;
+
+struct CSelectionSet {
+    const AcDbDatabase* m_pDrawing;
+    CIds m_arIds;
+};
+
+constexpr std::intptr_t g_nSetMark = 1; // second part of a set's name
+
+std::map<std::intptr_t, CSelectionSet> g_mapSets;
+std::intptr_t g_nLastSet = 0;
+std::map<const AcDbDatabase*, CIds> g_mapPrevious;
+
+CSelectionSet* Find(const ads_name ss) {
+    if (!ss || ss[1] != g_nSetMark) return nullptr;
+    const auto found = g_mapSets.find(ss[0]);
+    return found == g_mapSets.end() ? nullptr : &found->second;
+}
+
+void NewSet(const AcDbDatabase& drawing, CIds ids, ads_name ss) {
+    g_mapSets[++g_nLastSet] = {&drawing, std::move(ids)};
+    ss[0] = g_nLastSet;
+    ss[1] = g_nSetMark;
+}
+
+void PutName(AcDbObjectId id, ads_name name) {
+    ads_name made = {};
+    acdbGetAdsName(made, id);
+    std::copy_n(made, 2, name);
+}
+
+void AddOnce(AcDbObjectId id, CIds& ids) {
+    if (std::find(ids.begin(), ids.end(), id) == ids.end()) ids.push_back(id);
+}
+
+/// The living entities of a block in database order.
+CIds EntitiesOf(AcDbObjectId idBlock) {
+    const CDbOpen<AcDbBlockTableRecord> block(idBlock);
+    CIds ids = block ? block->EntityIds() : CIds();
+    std::sort(ids.begin(), ids.end(),
+              [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
+    return ids;
+}
+
+CIds ModelAndPaperSpace(AcDbDatabase& drawing) {
+    CIds ids = EntitiesOf(drawing.ModelSpaceId());
+    AcDbObjectId idPaper;
+    if (const CDbOpen<AcDbBlockTable> blocks(drawing.blockTableId()); blocks)
+        blocks->getAt(ACDB_PAPER_SPACE, idPaper);
+    for (const AcDbObjectId& id : EntitiesOf(idPaper))
+        ids.push_back(id);
+    return ids;
+}
+
+CIds LastOf(CIds ids) {
+    if (ids.size() > 1) ids.erase(ids.begin(), ids.end() - 1);
+    return ids;
+}
+
+CIds Previous(const AcDbDatabase& drawing) {
+    CIds ids = g_mapPrevious[&drawing];
+    std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
+    return ids;
+}
+
+/// What of model space the picture drawn last puts in the box of two corners.
+CIds InBox(AcDbDatabase& drawing, bool bWhole, const void* pt1, const void* pt2) {
+    const auto* const pCorner = static_cast<const ads_real*>(pt1);
+    const auto* const pOpposite = static_cast<const ads_real*>(pt2);
+    const AcGePoint3d corner(pCorner[0], pCorner[1], 0.0), opposite(pOpposite[0], pOpposite[1], 0.0);
+    CIds ids = EntitiesOf(drawing.ModelSpaceId());
+    std::erase_if(ids, [&](const AcDbObjectId& id) {
+        const auto pPicture = PeekObject<AcDbEntity>(id)->Picture();
+        return !pPicture || !(bWhole ? LiesWithin : PassesThrough)(*pPicture, corner, opposite);
+    });
+    return ids;
+}
+
+/// What the mode stands for, before the filter; nothing for an unknown mode.
+std::optional<CIds> Gather(AcDbDatabase& drawing, const std::wstring& strMode, const void* pt1,
+                           const void* pt2) {
+    if (strMode == L"X") return ModelAndPaperSpace(drawing);
+    if (strMode == L"L") return LastOf(EntitiesOf(drawing.ModelSpaceId()));
+    if (strMode == L"P") return Previous(drawing);
+    if ((strMode == L"C" || strMode == L"W") && pt1 && pt2) return InBox(drawing, strMode == L"W", pt1, pt2);
+    return std::nullopt;
+}
+
+/// The user's picks.
+int Pick(CIds* pIds) {
+    CEditorHost* const pHost = EditorHost();
+    if (!pHost) return RTERROR;
+    const bool bPicked = pHost->AskSelection("Select objects: ", pIds) != CPromptResult::Cancel;
+    return bPicked ? RTNORM : RTCAN;
+}
+
+} // namespace
+
+int acedEntSel(const ACHAR* prompt, ads_name name, ads_point point) {
+    CEditorHost* const pHost = EditorHost();
+    if (!pHost || !name || !point) return RTERROR;
+    AcDbObjectId id;
+    AcGePoint3d picked;
+    const std::string strPrompt = GbkFromWide(prompt ? prompt : L"Select object: ");
+    const CPromptResult result = pHost->AskEntity(strPrompt, &id, &picked);
+    if (result == CPromptResult::Cancel) return RTCAN;
+    if (result == CPromptResult::None) return RTERROR;
+    PutName(id, name);
+    point[0] = picked.x;
+    point[1] = picked.y;
+    point[2] = picked.z;
+    return RTNORM;
+}
+
+int acedSSGet(const ACHAR* mode, const void* pt1, const void* pt2, const resbuf* pFilter, ads_name ss) {
+    AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    if (!pDrawing || !ss || !IsSelectionFilter(pFilter)) return RTERROR;
+    const std::wstring strMode = mode ? mode : L"";
+    CIds picked;
+    if (const int status = mode ? RTNORM : Pick(&picked); status != RTNORM) return status;
+    std::optional<CIds> ids = mode ? Gather(*pDrawing, strMode, pt1, pt2) : std::move(picked);
+    if (!ids) return RTERROR;
+    std::erase_if(*ids, [pFilter](const AcDbObjectId& id) {
+        return !PassesFilter(*PeekObject<AcDbEntity>(id), pFilter);
+    });
+    if (ids->empty()) return RTERROR;
+    if (strMode != L"X") g_mapPrevious[pDrawing] = *ids;
+    NewSet(*pDrawing, std::move(*ids), ss);
+    return RTNORM;
+}
+
+int acedSSFree(const ads_name ss) {
+    if (!Find(ss)) return RTERROR;
+    g_mapSets.erase(ss[0]);
+    return RTNORM;
+}
+
+int acedSSLength(const ads_name ss, Adesk::Int32* pLength) {
+    const CSelectionSet* const pSet = Find(ss);
+    if (!pSet || !pLength) return RTERROR;
+    *pLength = static_cast<Adesk::Int32>(pSet->m_arIds.size());
+    return RTNORM;
+}
+
+int acedSSName(const ads_name ss, Adesk::Int32 index, ads_name entity) {
+    const CSelectionSet* const pSet = Find(ss);
+    if (!pSet || !entity || index < 0 || static_cast<std::size_t>(index) >= pSet->m_arIds.size())
+        return RTERROR;
+    PutName(pSet->m_arIds[static_cast<std::size_t>(index)], entity);
+    return RTNORM;
+}
+
+int acedSSAdd(const ads_name entity, const ads_name ss, ads_name result) {
+    AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    AcDbObjectId id;
+    if (!pDrawing || !result || (entity && acdbGetObjectId(id, entity) != Acad::eOk) || (ss && !Find(ss)))
+        return RTERROR;
+    if (ss) {
+        std::copy_n(ss, 2, result);
+    } else {
+        NewSet(*pDrawing, {}, result);
+    }
+    if (entity) AddOnce(id, Find(result)->m_arIds);
+    return RTNORM;
+}
+
+int acedSSDel(const ads_name entity, const ads_name ss) {
+    if (acedSSMemb(entity, ss) != RTNORM) return RTERROR;
+    AcDbObjectId id;
+    acdbGetObjectId(id, entity);
+    std::erase(Find(ss)->m_arIds, id);
+    return RTNORM;
+}
+
+int acedSSMemb(const ads_name entity, const ads_name ss) {
+    const CSelectionSet* const pSet = Find(ss);
+    AcDbObjectId id;
+    if (!pSet || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
+    return std::count(pSet->m_arIds.begin(), pSet->m_arIds.end(), id) ? RTNORM : RTERROR;
+}
+
+void ForgetSelections(const AcDbDatabase& drawing) {
+    std::erase_if(g_mapSets, [&drawing](const auto& set) { return set.second.m_pDrawing == &drawing; });
+    g_mapPrevious.erase(&drawing);
+}
