@@ -1,16 +1,14 @@
 #include "chart/chart_entity.h"
 
 #include "chart/chart_fields.h"
-#include "platform/acad/field_table.h"
-#include "platform/acad/rx_registry.h"
+#include "drawing/module_class.h"
 
 #include <new>
 
 Adesk::Int32 g_bChartDataChanged = 0;
 
 namespace {
-constexpr const ACHAR* g_pClassName = L"CBRENChart";
-AcRxClass* g_pChartClass = nullptr;
+constinit CModuleClass g_chartClass(L"CBRENChart", L"CBRENCHART");
 
 AcRxObject* MakeChart() {
     return new (std::nothrow) CBRENChart;
@@ -18,11 +16,7 @@ AcRxObject* MakeChart() {
 } // namespace
 
 AcRxClass* CBRENChart::desc() {
-    if (!g_pChartClass) {
-        auto* pDictionary = static_cast<AcRxDictionary*>(acrxSysRegistry()->at(ACDB_CLASS_DICTIONARY));
-        g_pChartClass = static_cast<AcRxClass*>(pDictionary->at(g_pClassName));
-    }
-    return g_pChartClass;
+    return g_chartClass.Desc();
 }
 
 CBRENChart* CBRENChart::cast(const AcRxObject* pObject) {
@@ -31,17 +25,11 @@ CBRENChart* CBRENChart::cast(const AcRxObject* pObject) {
 }
 
 void CBRENChart::rxInit() {
-    if (desc()) return;
-    g_pChartClass =
-        newAcRxClass(g_pClassName, L"AcDbEntity", 31, 55, 255, &MakeChart, L"CBRENCHART", L"CBRENCHART");
-    if (g_pChartClass) g_pChartClass->addX(CFieldTable::desc(), ChartFields());
+    g_chartClass.Register(&MakeChart, ChartFields());
 }
 
 void CBRENChart::rxExit() {
-    if (!desc()) return;
-    desc()->delX(CFieldTable::desc());
-    deleteAcRxClass(g_pChartClass);
-    g_pChartClass = nullptr;
+    g_chartClass.Unregister();
 }
 
 Acad::ErrorStatus CBRENChart::setColorIndex(Adesk::UInt16 color, Adesk::Boolean) {
@@ -49,4 +37,10 @@ Acad::ErrorStatus CBRENChart::setColorIndex(Adesk::UInt16 color, Adesk::Boolean)
     m_nColor = color;
     m_bColorChanging = 1;
     return AcDbEntity::setColorIndex(color, 1);
+}
+
+void CBRENChart::saveAs(AcGiWorldDraw* pMode, AcDb::SaveType saveType) {
+    m_nPolylineMode = 1;
+    AcDbEntity::saveAs(pMode, saveType);
+    m_nPolylineMode = 0;
 }

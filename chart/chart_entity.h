@@ -36,6 +36,8 @@ public:
     /// In place of what the chart held, but for the four lists of circle values, which grow by what is read.
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color, Adesk::Boolean doSubents = Adesk::kTrue) override;
+    /// The picture for a file is drawn in bare lines, without widths and bulges.
+    void saveAs(AcGiWorldDraw* pMode, AcDb::SaveType saveType) override;
 
     /// Reads the sample's readings (m_nGCSY, m_strZKBH, m_strQYBH, m_strSYFF), reduces them, searches the
     /// envelopes and chooses the scales. 1 on success; 0 on any failure, which it has reported, and then the

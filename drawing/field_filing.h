@@ -16,6 +16,7 @@ public:
         , m_nLongestText(nLongestText) {}
 
     void operator()(const AcGePoint3d& value, CFiling) const { m_pFiler->writePoint3d(value); }
+    void operator()(const AcGeVector3d& value, CFiling) const { m_pFiler->writeVector3d(value); }
     void operator()(Adesk::Int16 value, CFiling) const { m_pFiler->writeInt16(value); }
     void operator()(Adesk::UInt16 value, CFiling) const { m_pFiler->writeUInt16(value); }
     void operator()(Adesk::Int32 value, CFiling) const { m_pFiler->writeInt32(value); }
@@ -40,6 +41,7 @@ public:
         : m_pFiler(pFiler) {}
 
     void operator()(AcGePoint3d& field, CFiling) const { m_pFiler->readPoint3d(&field); }
+    void operator()(AcGeVector3d& field, CFiling) const { m_pFiler->readVector3d(&field); }
     void operator()(Adesk::Int16& field, CFiling) const { m_pFiler->readInt16(&field); }
     void operator()(Adesk::UInt16& field, CFiling) const { m_pFiler->readUInt16(&field); }
     void operator()(Adesk::Int32& field, CFiling) const { m_pFiler->readInt32(&field); }

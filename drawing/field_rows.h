@@ -28,8 +28,8 @@ enum class CFiling {
 template <class T>
 struct CFieldRow {
     using CMember =
-        std::variant<AcGePoint3d T::*, Adesk::Int16 T::*, Adesk::UInt16 T::*, Adesk::Int32 T::*,
-                     CFlagMember<T>, double T::*, CString T::*, AcArray<double> T::*,
+        std::variant<AcGePoint3d T::*, AcGeVector3d T::*, Adesk::Int16 T::*, Adesk::UInt16 T::*,
+                     Adesk::Int32 T::*, CFlagMember<T>, double T::*, CString T::*, AcArray<double> T::*,
                      CArray<AcArray<double>, AcArray<double>> T::*, CStringArray T::*, AcDbObjectId T::*>;
     const char* m_pName;
     int m_nDeclared;
@@ -41,6 +41,9 @@ struct CFieldRow {
 namespace FieldValue {
 inline CFieldValue From(const AcGePoint3d& value) {
     return value;
+}
+inline CFieldValue From(const AcGeVector3d& value) {
+    return AcGePoint3d(value.x, value.y, value.z);
 }
 inline CFieldValue From(Adesk::Int32 value) {
     return value;
@@ -62,6 +65,9 @@ CFieldValue From(const CStringArray& value);
 
 inline void Into(AcGePoint3d& field, const AcGePoint3d& value) {
     field = value;
+}
+inline void Into(AcGeVector3d& field, const AcGePoint3d& value) {
+    field = value.asVector();
 }
 inline void Into(Adesk::Int32& field, Adesk::Int32 value) {
     field = value;

@@ -53,6 +53,9 @@ public:
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
+    /// Draws the picture that a file keeps beside the record, for programs that don't know the class.
+    virtual void saveAs(AcGiWorldDraw* pWorldDraw, AcDb::SaveType) { worldDraw(pWorldDraw); }
+
     /// What was drawn last; null before the first drawing.
     std::shared_ptr<const CDisplayList> Picture() const { return m_pPicture; }
     void SetPicture(std::shared_ptr<const CDisplayList> pPicture) { m_pPicture = std::move(pPicture); }

@@ -1,5 +1,6 @@
 #include "chart/chart_entity.h"
 
+#include "platform/acad/display_recorder.h"
 #include "platform/acad/field_table.h"
 #include "platform/acad/rx_registry.h"
 #include "tests/support/drawing.h"
@@ -76,4 +77,18 @@ TEST(Chart, KeepsItsColourIndexAndMarksTheChange) {
     EXPECT_EQ(chart.m_nColor, 3);
     EXPECT_EQ(chart.colorIndex(), 3);
     EXPECT_EQ(chart.m_bColorChanging, 1);
+}
+
+TEST(Chart, ShowsItsPictureInAFileByBareLines) {
+    CTestDrawing drawing;
+    CBRENChart chart;
+    CDisplayRecorder forFile(chart);
+    chart.saveAs(&forFile, AcDb::kR14Save);
+    const CDisplayList saved = forFile.Take();
+    EXPECT_TRUE(Shapes<CPlinePrimitive>(saved).empty());
+    const auto nLines = Shapes<CPolylinePrimitive>(saved).size();
+    EXPECT_EQ(chart.m_nPolylineMode, 0);
+    const CDisplayList shown = DrawEntity(chart);
+    EXPECT_TRUE(Shapes<CPolylinePrimitive>(shown).empty());
+    EXPECT_EQ(Shapes<CPlinePrimitive>(shown).size(), nLines);
 }

@@ -64,6 +64,14 @@ TEST(AcDbEntity, OfACustomClassLeavesWhatItDoesNotKnow) {
     EXPECT_EQ(entity.moveGripPointsAt(geomIds, AcGeVector3d::kXAxis), Acad::eNotApplicable);
 }
 
+TEST(AcDbEntity, DrawsItselfForTheFileThatKeepsItsPicture) {
+    CSampleEntity entity;
+    CDisplayRecorder recorder(entity);
+    entity.saveAs(&recorder, AcDb::kR14Save);
+    EXPECT_EQ(recorder.Take().size(), 1U);
+    EXPECT_EQ(entity.Picture(), nullptr) << "what the host shows stays";
+}
+
 TEST(AcDbEntity, IsAParentThatModulesDeriveTheirClassesFrom) {
     AcRxClass* const pClass = newAcRxClass(L"CEntityOfModule", L"AcDbEntity", 31, 55, 255);
     ASSERT_NE(pClass, nullptr);
