@@ -1,13 +1,14 @@
 #include "commands/bren_command.h"
 
+#include "commands/module_library.h"
 #include "commands/sheet_maker.h"
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
+#include "platform/mfc/resources.h"
 #include "platform/windows/profile.h"
 #include "ui/bren_dlg.h"
-#include "ui/resources.h"
 
 #include <array>
 
@@ -57,7 +58,7 @@ void BrenCommand() {
     const CString strGCBH = ProjectNumber();
     const Adesk::Int32 nGCBZ = ProjectStandard();
 
-    const CTemporaryResourceOverride resources(ModuleResources());
+    const CTemporaryResourceOverride resources(g_hModuleResources);
     CBRENDlg dialog("生成三轴剪切试验成果图", adsw_acadMainWnd());
     dialog.m_nGCSY = nGCSY;
     dialog.m_nGCBZ = nGCBZ;

@@ -4,6 +4,7 @@
 #include "commands/br_editor_reactor.h"
 #include "commands/bren_command.h"
 #include "data/project_context.h"
+#include "frame/frame_entity.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/dynamic_linker.h"
 #include "platform/acad/rx_registry.h"
@@ -34,12 +35,14 @@ void Load() {
     g_pEdReactor = new CEdBRReactor;
     acedEditor->addReactor(g_pEdReactor);
     CBRENChart::rxInit();
+    CBRENFrame::rxInit();
     AddCommand(L"BREN", &BrenCommand);
 }
 
 void Unload() {
     acedRegCmds->removeGroup(g_pGroup);
     CBRENChart::rxExit();
+    CBRENFrame::rxExit();
     acedEditor->removeReactor(g_pEdReactor);
     delete g_pEdReactor;
     g_pEdReactor = nullptr;

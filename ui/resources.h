@@ -13,5 +13,5 @@ inline constexpr UINT IDD_ZS_PAGE = 13;
 inline constexpr UINT IDC_STATIC = 65535; ///< every label
 inline constexpr UINT IDI_TERVO = 1006;
 
-/// The module's own resources, for CTemporaryResourceOverride.
+/// The module's own resources.
 HINSTANCE ModuleResources();

@@ -1,8 +1,10 @@
 #include "chart/chart_entity.h"
 #include "commands/br_editor_reactor.h"
 #include "data/project_context.h"
+#include "frame/frame_entity.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/dynamic_linker.h"
+#include "platform/acad/rx_class.h"
 #include "platform/acad/rx_registry.h"
 #include "tests/support/project.h"
 
@@ -28,7 +30,7 @@ TEST_F(ModuleEntry, ReportsTheApiVersion) {
     EXPECT_EQ(acrxGetApiVersion(), 0x130000);
 }
 
-TEST_F(ModuleEntry, RegistersPathsReactorClassAndCommand) {
+TEST_F(ModuleEntry, RegistersPathsReactorClassesAndCommand) {
     g_strProjectIni.Empty();
     Load();
     EXPECT_TRUE(g_strProjectIni == (m_project.Root() + "/Project.ini").c_str());
@@ -36,6 +38,7 @@ TEST_F(ModuleEntry, RegistersPathsReactorClassAndCommand) {
     EXPECT_TRUE(g_strMarksIni == (m_project.Root() + "/Marks.ini").c_str());
     EXPECT_NE(g_pEdReactor, nullptr);
     EXPECT_NE(CBRENChart::desc(), nullptr);
+    EXPECT_NE(CBRENFrame::desc(), nullptr);
     const CRegisteredCommand* pCommand = acedRegCmds->lookup(L"BREN");
     ASSERT_NE(pCommand, nullptr);
     EXPECT_EQ(pCommand->m_strGroup, L"BREN");
@@ -48,8 +51,10 @@ TEST_F(ModuleEntry, TakesEverythingBackWhenUnloaded) {
     Load();
     Unload();
     EXPECT_EQ(g_pEdReactor, nullptr);
-    EXPECT_EQ(acedRegCmds->lookup(L"BREN"), nullptr);
+    for (const ACHAR* pName : {L"BREN", L"BRCF", L"BROPEN"})
+        EXPECT_EQ(acedRegCmds->lookup(pName), nullptr);
     EXPECT_EQ(CBRENChart::desc(), nullptr);
+    EXPECT_EQ(CBRENFrame::desc(), nullptr);
 }
 
 TEST_F(ModuleEntry, AnswersOtherMessagesWithoutAnyChange) {
@@ -58,4 +63,18 @@ TEST_F(ModuleEntry, AnswersOtherMessagesWithoutAnyChange) {
         EXPECT_EQ(g_pEdReactor, nullptr);
         EXPECT_EQ(acedRegCmds->lookup(L"BREN"), nullptr);
     }
+    Load();
+    const CEdBRReactor* const pReactor = g_pEdReactor;
+    const AcRxClass* const pChart = CBRENChart::desc();
+    EXPECT_EQ(acrxEntryPoint(AcRx::kLoadDwgMsg, &m_nPackage), 0);
+    EXPECT_EQ(g_pEdReactor, pReactor);
+    EXPECT_EQ(CBRENChart::desc(), pChart);
+    Unload();
+}
+
+TEST_F(ModuleEntry, LeavesAClassThatIsKnownAlreadyAsItIs) {
+    const AcRxClass* const pKnown = newAcRxClass(L"CBRENFrame", L"AcDbEntity", 1);
+    Load();
+    EXPECT_EQ(CBRENFrame::desc(), pKnown);
+    Unload();
 }

@@ -47,8 +47,7 @@ std::vector<std::string> Words(const CBRENFrame& frame) {
 void Read(CBRENFrame& frame, const CDbRecord& record) {
     CRecordReader reader(AcDb::kCopyFiler, record);
     EXPECT_EQ(frame.dwgIn(&reader), Acad::eOk);
-    EXPECT_EQ(reader.filerStatus(), Acad::eOk);
-    EXPECT_EQ(reader.Left(), 0U);
+    EXPECT_TRUE(reader.IsAtEnd());
 }
 
 } // namespace

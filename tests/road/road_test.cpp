@@ -285,3 +285,15 @@ TEST(Road, LeavesNothingWhenThePointIsCancelled) {
     EXPECT_TRUE(road.Dump()["modelSpace"].empty());
     EXPECT_TRUE(road.Results().at(0)["SYRQ"].is_null());
 }
+
+TEST(Road, LosesTheModulesCommandsWhileItIsAway) {
+    const CProgram program;
+    const std::string strModule = "\"" TERVO_BIN "/tervo-bren.so\"\n";
+    const CRun run = program.Tvcad("COMMANDS\nUNLOADMODULE " + strModule + "COMMANDS\nLOADMODULE " +
+                                   strModule + "COMMANDS\n");
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    EXPECT_EQ(run.m_strOut, "BREN BREN 0\nBREN BREN 0\n") << "none between the two";
+    const CRun without = program.Tvcad("UNLOADMODULE " + strModule + "BREN\n");
+    EXPECT_EQ(without.m_nStatus, 5);
+    EXPECT_NE(without.m_strErrors.find("unknown command: BREN"), std::string::npos) << without.m_strErrors;
+}
