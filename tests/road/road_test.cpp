@@ -174,6 +174,29 @@ TEST(Road, KeepsTheValuesOfTangentsInTheChart) {
     EXPECT_NEAR(fields["m_dCalcPhi"].get<double>(), 17.352, 0.001);
 }
 
+TEST(Road, ASheetSurvivesItsModule) {
+    CRoad road("mafra-ciu");
+    std::string strReloads;
+    for (int i = 0; i < 100; i++)
+        strReloads += "UNLOADMODULE tervo-bren.so\nLOADMODULE tervo-bren.so\n";
+    const CRun run = road.Generate("REGEN\nDUMP " + road.File("before.json") +
+                                   "\nUNLOADMODULE tervo-bren.so\nDUMP " + road.File("without.json") +
+                                   "\nPLOT " + road.File("without.svg") + "\nLOADMODULE tervo-bren.so\n" +
+                                   strReloads + "REGEN\nDUMP " + road.File("sheet.json") + "\nCOMMANDS\n");
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    EXPECT_NE(run.m_strOut.find("BREN BREN 0\n"), std::string::npos) << run.m_strOut;
+    CJson before = CJson::parse(ReadFile(road.File("before.json")));
+    const CJson without = CJson::parse(ReadFile(road.File("without.json")));
+    const CJson chart = before["modelSpace"][0];
+    const CJson& proxy = without["modelSpace"][0];
+    EXPECT_EQ(proxy["class"], "AcDbProxyEntity");
+    EXPECT_EQ(proxy["originalClass"], "CBRENChart");
+    EXPECT_EQ(proxy["graphics"], chart["world"]);
+    EXPECT_NE(ReadFile(road.File("without.svg")).find(Utf8(u8"轴向应变ε (%)")), std::string::npos);
+    before["modelSpace"][0]["fields"]["m_bColorChanging"] = 0; // which no record holds
+    EXPECT_EQ(road.Dump(), before);
+}
+
 TEST(Road, PrintsTitlesAsTextOnOneSheetOfA4) {
     CRoad road("mafra-ciu");
     EXPECT_EQ(road.Generate("PLOT " + road.File("sheet.pdf") + "\nPLOT " + road.File("sheet.svg") +
