@@ -1,5 +1,6 @@
 #include "platform/acad/editor.h"
 
+#include "platform/acad/ads_point.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/wide_format.h"
 #include "platform/windows/code_page.h"
@@ -28,9 +29,7 @@ int acedGetPoint(const ads_point, const ACHAR* prompt, ads_point result) {
     AcGePoint3d point;
     switch (pHost->AskPoint(GbkFromWide(prompt ? prompt : L""), &point)) {
     case CPromptResult::Value:
-        result[0] = point.x;
-        result[1] = point.y;
-        result[2] = point.z;
+        PutPoint(point, result);
         return RTNORM;
     case CPromptResult::None:
         return RTNONE;
@@ -52,4 +51,8 @@ int acedFindFile(const ACHAR* name, ACHAR* result) {
 
 void* adsw_acadMainWnd() {
     return EditorHost();
+}
+
+void* acedGetAcadFrame() {
+    return adsw_acadMainWnd();
 }

@@ -20,6 +20,9 @@ AcDbHostApplicationServices* acdbHostApplicationServices();
 /// What a prompt came back with.
 enum class CPromptResult { Value, None, Cancel };
 
+/// How a command ended that another one ran.
+enum class CCommandResult { Done, Failed, Cancelled };
+
 /// The user's side of the editor: a script, a terminal or a window. Texts are GBK.
 class CEditorHost {
 public:
@@ -36,6 +39,11 @@ public:
     virtual CPromptResult AskSelection(const std::string& /*strPrompt*/,
                                        std::vector<AcDbObjectId>* /*pIds*/) {
         return CPromptResult::Cancel;
+    }
+    /// Runs a command from within another: the words are its name and its first answers; the user gives what
+    /// it still needs.
+    virtual CCommandResult RunCommand(const std::vector<std::string>& /*arWords*/) {
+        return CCommandResult::Failed;
     }
     /// Full path of a file by the host's search order, GBK; empty when there is none.
     virtual std::string FindFile(const std::string& strName) = 0;

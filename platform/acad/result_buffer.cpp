@@ -92,9 +92,17 @@ resbuf* acutNewRb(int type) {
 resbuf* acutBuildList(int type, ...) {
     std::va_list arguments;
     va_start(arguments, type);
+    resbuf* const pChain = BuildListV(type, arguments);
+    va_end(arguments);
+    return pChain;
+}
+
+resbuf* BuildListV(int type, std::va_list arguments) {
+    std::va_list left;
+    va_copy(left, arguments);
     resbuf* pFirst = nullptr;
     resbuf** ppNext = &pFirst;
-    for (int nCode = type; nCode != RTNONE && nCode != 0; nCode = va_arg(arguments, int)) {
+    for (int nCode = type; nCode != RTNONE && nCode != 0; nCode = va_arg(left, int)) {
         if (nCode == RTDXF0) nCode = 0;
         if (ResbufKind(nCode) == CResbufKind::None) {
             acutRelRb(pFirst);
@@ -102,10 +110,10 @@ resbuf* acutBuildList(int type, ...) {
             break;
         }
         *ppNext = acutNewRb(nCode);
-        TakeValue(**ppNext, arguments);
+        TakeValue(**ppNext, left);
         ppNext = &(*ppNext)->rbnext;
     }
-    va_end(arguments);
+    va_end(left);
     return pFirst;
 }
 

@@ -3,6 +3,8 @@
 
 #include "platform/acad/adesk.h"
 
+#include <cstdarg>
+
 inline constexpr int RTNONE = 5000;
 inline constexpr int RTREAL = 5001;
 inline constexpr int RTPOINT = 5002; ///< a point of the plane
@@ -49,6 +51,7 @@ resbuf* acutNewRb(int type);
 /// (a short) or Adesk::Int32; it ends with RTNONE or 0. Texts are copied. Null for a chain of nothing and for
 /// a code of no kind.
 resbuf* acutBuildList(int type, ...);
+resbuf* BuildListV(int type, std::va_list arguments); ///< the same from the arguments behind type
 /// Releases a chain and its texts; null is none. Returns RTNORM.
 int acutRelRb(resbuf* pChain);
 

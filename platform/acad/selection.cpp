@@ -1,5 +1,6 @@
 #include "platform/acad/selection.h"
 
+#include "platform/acad/ads_point.h"
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/selection_filter.h"
@@ -119,9 +120,7 @@ int acedEntSel(const ACHAR* prompt, ads_name name, ads_point point) {
     if (result == CPromptResult::Cancel) return RTCAN;
     if (result == CPromptResult::None) return RTERROR;
     PutName(id, name);
-    point[0] = picked.x;
-    point[1] = picked.y;
-    point[2] = picked.z;
+    PutPoint(picked, point);
     return RTNORM;
 }
 

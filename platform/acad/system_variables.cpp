@@ -61,6 +61,10 @@ int TakeShort(const resbuf* pValue, short& field, short least, short most) {
 
 } // namespace
 
+bool IsSingleDocument() {
+    return g_program.m_nSdi != 0;
+}
+
 int acedGetVar(const ACHAR* name, resbuf* pResult) {
     if (!name || !pResult) return RTERROR;
     if (SameName(name, L"SDI")) return GiveShort(pResult, g_program.m_nSdi);
