@@ -3,6 +3,7 @@
 #include "analysis/numbers.h"
 #include "chart/chart_entity.h"
 #include "data/criteria.h"
+#include "data/project_check.h"
 #include "data/san_zhou_record.h"
 #include "data/table_errors.h"
 #include "platform/acad/editor.h"
@@ -33,6 +34,13 @@ void Fill(float& fColumn, DBSTATUS& status, double dValue) {
     status = DBSTATUS_S_OK;
 }
 } // namespace
+
+int CBRENChart::CheckProjectForStore() {
+    if (CheckProjectNumber(m_nGCSY, m_strGCBH)) return 1;
+    acutPrintf(L"\n数据存储失败!");
+    g_bChartDataChanged = 0;
+    return 0;
+}
 
 int CBRENChart::StoreAdoptedValues() {
     CSanZhouRecord row;

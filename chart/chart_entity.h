@@ -53,6 +53,9 @@ public:
     /// Reads the graphical c (kPa) and φ (degrees) off the envelope lines as they stand.
     void ReadEnvelopeValues();
 
+    /// Whether the chart's project still stands under its number, so that its values may be stored: 1. Else 0
+    /// after messages, and what the lines were dragged to counts as stored.
+    int CheckProjectForStore();
     /// Writes the adopted values and today's date into the sample's row of z_c_SanZhou; the columns of the
     /// other methods become NULL. 1 on success, else 0 after a message.
     int StoreAdoptedValues();

@@ -98,3 +98,18 @@ TEST_F(WriteBack, FailsWithABoxWhenTheTableCannotBeOpened) {
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 0);
     EXPECT_EQ(m_project.Boxes(), (std::vector<std::string>{"不能打开三轴剪切试验表!请检查!"}));
 }
+
+TEST_F(WriteBack, IsCheckedAgainstTheProjectsNumber) {
+    m_project.Execute("insert into x_GongCheng values(1,'GC-1','工程',0,NULL)");
+    m_chart.m_strGCBH = "GC-1";
+    g_bChartDataChanged = 1;
+    EXPECT_EQ(m_chart.CheckProjectForStore(), 1);
+    EXPECT_EQ(g_bChartDataChanged, 1);
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
+
+    m_project.Execute("update x_GongCheng set GCBH='GC-2'");
+    EXPECT_EQ(m_chart.CheckProjectForStore(), 0);
+    EXPECT_EQ(g_bChartDataChanged, 0);
+    EXPECT_EQ(m_project.Boxes(), std::vector<std::string>{"该工程工程编号已被修改,数据无法入库!"});
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n数据存储失败!");
+}
