@@ -10,7 +10,6 @@
 namespace {
 constexpr double g_dChartText = 2.5;
 constexpr Adesk::UInt16 g_nChartColor = 3;
-constexpr const char* g_pTextStyle = "QM_PMT_BTFont";
 } // namespace
 
 CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, Adesk::Int32 nGCSY, CString strGCBH, Adesk::Int32 nGCBZ)
@@ -26,7 +25,7 @@ CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, Adesk::Int32 nGCSY, CString st
 int CSheetMaker::PlaceGroup(const CArray<QYPropty>& samples, const AcGePoint3d& ptPicked) {
     // As many sheets as samples, also where a sheet takes two charts: those past the charts' end stay empty.
     for (int nSheet = 1; nSheet <= samples.GetSize(); nSheet++) {
-        CreateTextStyleFromIni(g_pTextStyle, m_idTextStyle, m_pDatabase);
+        CreateTextStyleFromIni(g_pSheetTextStyle, m_idTextStyle, m_pDatabase);
         if (!PlaceSheet(samples, SheetCorner(ptPicked, nSheet), (nSheet - 1) * m_nChartsPerSheet)) return 0;
     }
     return 1;

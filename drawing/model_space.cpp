@@ -1,6 +1,7 @@
 #include "drawing/model_space.h"
 
 #include "platform/acad/host_application.h"
+#include "platform/windows/code_page.h"
 
 int AppendToModelSpace(AcDbDatabase*& pDatabase, AcDbObjectId& idEntity, AcDbEntity* pEntity) {
     if (!pDatabase) pDatabase = acdbHostApplicationServices()->workingDatabase();
@@ -15,4 +16,21 @@ int AppendToModelSpace(AcDbDatabase*& pDatabase, AcDbObjectId& idEntity, AcDbEnt
     pSpace->close();
     if (appended != Acad::eOk) return 0;
     return pEntity->close() == Acad::eOk;
+}
+
+void AddToModelSpace(AcDbEntity* pEntity, AcDbObjectId& idEntity, AcDbDatabase* pDatabase) {
+    idEntity.setNull();
+    AppendToModelSpace(pDatabase, idEntity, pEntity);
+}
+
+void AddToModelSpace(AcDbEntity* pEntity, AcDbObjectId& idEntity) {
+    AddToModelSpace(pEntity, idEntity, nullptr);
+}
+
+int IsCurrentDrawing(const CString& strFile) {
+    const AcDbDatabase* const pDatabase = acdbHostApplicationServices()->workingDatabase();
+    std::wstring strCurrent;
+    if (!pDatabase || pDatabase->getFilename(strCurrent) != Acad::eOk) return 0;
+    CString strUpper = strFile, strCurrentUpper = GbkFromWide(strCurrent.c_str()).c_str();
+    return strUpper.MakeUpper() == strCurrentUpper.MakeUpper() ? 1 : 0;
 }

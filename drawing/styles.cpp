@@ -175,3 +175,21 @@ int SetLayerZeroLinetype(const CString& strName) {
     const CDbOpen<AcDbLayerTableRecord> pLayer(idLayer, AcDb::kForWrite);
     return pLayer && pLayer->setLinetypeObjectId(idLinetype) == Acad::eOk;
 }
+
+int AddBannerTextStyle(const AcGiTextStyle& style, AcDbObjectId& idStyle) {
+    AcDbDatabase* const pDatabase = OrWorking(nullptr);
+    if (!pDatabase) return 0;
+    const CDbOpen<AcDbTextStyleTable> pTable(pDatabase->textStyleTableId(), AcDb::kForWrite);
+    if (!pTable) return 0;
+    if (pTable->getAt(ToWide(g_pSheetTextStyle), idStyle) == Acad::eOk) return 1;
+    auto* pRecord = new AcDbTextStyleTableRecord;
+    pRecord->setName(ToWide(g_pSheetTextStyle));
+    pRecord->setObliquingAngle(style.obliquingAngle());
+    pRecord->setFileName(style.fileName());
+    pRecord->setBigFontFileName(style.bigFontFileName());
+    pRecord->setTextSize(style.textSize());
+    pRecord->setXScale(style.xScale());
+    pTable->add(idStyle, pRecord);
+    pRecord->close();
+    return 1;
+}

@@ -9,6 +9,9 @@
 /// routine sets the size it needs before it draws.
 extern AcGiTextStyle g_ChartTextStyle;
 
+/// Name of the text style that texts of chart and frame have in a drawing, and of its section in the ini.
+inline constexpr const char* g_pSheetTextStyle = "QM_PMT_BTFont";
+
 /// The look of the chart's texts: upright "仿宋_GB2312", size 2.5, set with 80 percent of its advance widths.
 void SetupChartTextStyle(AcGiTextStyle& style);
 /// The same look for the heading of a sheet, which has a style of its own.
@@ -39,3 +42,7 @@ Acad::ErrorStatus LayerIdByName(const CString& strName, AcDbObjectId& idLayer, A
 /// Gives layer "0" of the working drawing a line type by name; one that the drawing lacks is told and
 /// replaced by CONTINUOUS. 1 when the layer could be changed.
 int SetLayerZeroLinetype(const CString& strName);
+
+/// Makes the text style g_pSheetTextStyle in the working drawing after the look of a world form's
+/// style, unless the drawing has it. 1 with the id when it is there afterwards.
+int AddBannerTextStyle(const AcGiTextStyle& style, AcDbObjectId& idStyle);

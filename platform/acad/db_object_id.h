@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/acad/ac_array.h"
 #include "platform/acad/adesk.h"
 
 #include <compare>
@@ -46,3 +47,5 @@ public:
 private:
     CDbStub* m_pStub = nullptr;
 };
+
+using AcDbObjectIdArray = AcArray<AcDbObjectId>;

@@ -177,3 +177,43 @@ TEST_F(Styles, LayerZeroTakesALineTypeOrGoesContinuous) {
     EXPECT_EQ(linetype(), "Continuous");
     EXPECT_EQ(m_drawing.m_strPrinted, "\nUnable to find DASHED linetype. Using CONTINUOUS");
 }
+
+TEST_F(Styles, ASectionMayNameItsOwnShapeFonts) {
+    Settings("[QM_PMT_BTFont]\nFont_IsSHX=1\nFont_FileName=a.shx\nFont_BigFileName=b.shx\n");
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(Make());
+    EXPECT_EQ(pRecord->FileName(), L"a.shx");
+    EXPECT_EQ(pRecord->BigFontFileName(), L"b.shx");
+}
+
+TEST_F(Styles, ALookupOfDashedScalesTheDrawingItIsDoneIn) {
+    AcDbDatabase temporary;
+    AcDbObjectId id;
+    EXPECT_EQ(LoadLinetypeId("Dashed2", &temporary, id), 1);
+    EXPECT_EQ(temporary.ltscale(), 10.0);
+    EXPECT_EQ(m_drawing.Database().ltscale(), 1.0);
+}
+
+TEST_F(Styles, TheSheetsTextStyleIsMadeOfAWorldStyleOnce) {
+    AcGiTextStyle style;
+    SetupChartTextStyle(style);
+    style.setObliquingAngle(0.25);
+    style.setBigFontFileName(L"big.shx");
+    AcDbObjectId id, idAgain;
+    EXPECT_EQ(AddBannerTextStyle(style, id), 1);
+    style.setTextSize(9.0);
+    EXPECT_EQ(AddBannerTextStyle(style, idAgain), 1);
+    EXPECT_EQ(idAgain, id);
+    EXPECT_EQ(SymbolName(id), "QM_PMT_BTFont");
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(id);
+    EXPECT_EQ(pRecord->obliquingAngle(), 0.25);
+    EXPECT_EQ(pRecord->FileName(), L"仿宋_GB2312");
+    EXPECT_EQ(pRecord->BigFontFileName(), L"big.shx");
+    EXPECT_EQ(pRecord->textSize(), 2.5);
+    EXPECT_EQ(pRecord->xScale(), 1.0);
+}
+
+TEST_F(Styles, TheSheetsTextStyleNeedsADrawing) {
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    AcDbObjectId id;
+    EXPECT_EQ(AddBannerTextStyle(AcGiTextStyle(), id), 0);
+}

@@ -16,3 +16,16 @@ std::string CTestDrawing::FindFile(const std::string& strName) {
     return m_bHasLinetypeFile && strName == "acad.lin" ? std::string(TERVO_TEST_DATA) + "/acad.lin"
                                                        : std::string();
 }
+
+CPromptResult CTestDrawing::AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d*) {
+    m_strPrompt = strPrompt;
+    if (m_arPicks.empty()) return CPromptResult::Cancel;
+    *pId = m_arPicks.front();
+    return CPromptResult::Value;
+}
+
+CPromptResult CTestDrawing::AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) {
+    m_strPrompt = strPrompt;
+    *pIds = m_arPicks;
+    return m_arPicks.empty() ? CPromptResult::Cancel : CPromptResult::Value;
+}

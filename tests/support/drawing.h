@@ -25,9 +25,13 @@ public:
     AcDbDatabase& Database() { return m_database; }
     std::string m_strPrinted; ///< GBK
     bool m_bHasLinetypeFile = true;
+    std::vector<AcDbObjectId> m_arPicks; ///< what is picked when asked; nothing: cancelled
+    std::string m_strPrompt;             ///< of the last pick, GBK
 
     void Print(const std::string& strText) override { m_strPrinted += strText; }
     CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
+    CPromptResult AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) override;
+    CPromptResult AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) override;
     std::string FindFile(const std::string& strName) override;
 
 private:
