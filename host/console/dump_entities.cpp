@@ -30,10 +30,9 @@ void AddText(const AcDbText& text, CJson* json) {
     (*json)["widthFactor"] = JsonNumber(text.widthFactor());
     (*json)["oblique"] = JsonNumber(text.oblique());
     (*json)["style"] = JsonText(text.StyleName());
-    // Texts of this platform stand left on their base line, which has no alignment point of its own.
-    (*json)["horizontalMode"] = 0;
-    (*json)["verticalMode"] = 0;
-    (*json)["alignment"] = JsonPoint(AcGePoint3d::kOrigin);
+    (*json)["horizontalMode"] = static_cast<int>(text.horizontalMode());
+    (*json)["verticalMode"] = static_cast<int>(text.verticalMode());
+    (*json)["alignment"] = JsonPoint(text.alignmentPoint());
     (*json)["extents"] = JsonExtents(text);
 }
 

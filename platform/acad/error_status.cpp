@@ -43,8 +43,10 @@ constexpr const char* g_arStatusNames[] = {
     "eInvalidContext",
     "eLockViolation",
     "eUserBreak",
+    "eDuplicateRecordName",
+    "eCannotScaleNonUniformly",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eUserBreak + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eCannotScaleNonUniformly + 1, "every status has its name");
 
 } // namespace
 

@@ -42,6 +42,8 @@ enum ErrorStatus {
     eInvalidContext = 34, ///< asked for in a document's context, but for the application's; or the reverse
     eLockViolation = 35,  ///< the document is locked, or isn't, against what was asked for
     eUserBreak = 36,      ///< the user gave it up
+    eDuplicateRecordName = 37,
+    eCannotScaleNonUniformly = 38, ///< the object cannot follow a scale that differs by direction
 };
 
 /// The status's name, for messages ("eWasErased").

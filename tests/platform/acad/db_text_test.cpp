@@ -2,6 +2,7 @@
 
 #include "platform/acad/display_recorder.h"
 #include "platform/acad/host_application.h"
+#include "platform/acad/memory_filer.h"
 #include "tests/platform/acad/sample_entity.h"
 
 #include <gtest/gtest.h>
@@ -158,4 +159,106 @@ TEST(AcDbText, StaysReadableInTheMirroredRectangle) {
     upsideDown.transformBy(AcGeMatrix3d::mirroring(AcGePoint3d::kOrigin, AcGeVector3d::kYAxis));
     ExpectBox(upsideDown, 2, -2, 4, -1);
     EXPECT_NEAR(upsideDown.rotation(), 0.0, 1e-12);
+}
+
+TEST(AcDbText, BeginsLeftOnItsBaseLineAndTheAlignmentPointIsOfNoAccount) {
+    const CFixedMetrics metrics;
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 1.0);
+    EXPECT_EQ(text.horizontalMode(), AcDb::kTextLeft);
+    EXPECT_EQ(text.verticalMode(), AcDb::kTextBase);
+    EXPECT_TRUE(text.isDefaultAlignment());
+    text.setAlignmentPoint({50, 50, 0});
+    EXPECT_EQ(text.adjustAlignment(), Acad::eOk);
+    EXPECT_EQ(text.position(), AcGePoint3d(2, 1, 0));
+}
+
+TEST(AcDbText, StandsAboutItsAlignmentPointOnceAdjusted) {
+    const CFixedMetrics metrics;
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 2.0); // 4 wide
+    text.setAlignmentPoint({10, 20, 5});
+    text.setHorizontalMode(AcDb::kTextCenter);
+    EXPECT_EQ(text.position(), AcGePoint3d(2, 1, 0)); // not yet
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(8, 20, 5));
+    text.setHorizontalMode(AcDb::kTextRight);
+    text.setVerticalMode(AcDb::kTextTop);
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(6, 18, 5));
+    text.setVerticalMode(AcDb::kTextVertMid);
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(6, 19, 5));
+    text.setHorizontalMode(AcDb::kTextMid);
+    text.setVerticalMode(AcDb::kTextBase);
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(8, 19, 5));
+    text.setHorizontalMode(AcDb::kTextLeft);
+    text.setVerticalMode(AcDb::kTextBottom);
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(10, 20, 5));
+    text.setHorizontalMode(AcDb::kTextMid);
+    text.setRotation(std::numbers::pi / 2);
+    text.adjustAlignment();
+    EXPECT_NEAR(text.position().distanceTo({11, 18, 5}), 0.0, 1e-12);
+}
+
+TEST(AcDbText, WithoutExtentsStandsOnItsAlignmentPoint) {
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 2.0);
+    text.setAlignmentPoint({10, 20, 0});
+    text.setHorizontalMode(AcDb::kTextCenter);
+    text.adjustAlignment();
+    EXPECT_EQ(text.position(), AcGePoint3d(10, 20, 0));
+}
+
+TEST(AcDbText, ReachesFromItsPositionToItsAlignmentPointWhenAlignedOrFitted) {
+    const CFixedMetrics metrics;
+    AcDbText aligned({1, 1, 0}, L"ABCD", AcDbObjectId::kNull, 2.0);
+    aligned.setAlignmentPoint({1, 9, 0});
+    aligned.setHorizontalMode(AcDb::kTextAlign);
+    aligned.adjustAlignment();
+    EXPECT_NEAR(aligned.rotation(), std::numbers::pi / 2, 1e-12);
+    EXPECT_EQ(aligned.height(), 4.0);
+    EXPECT_EQ(aligned.position(), AcGePoint3d(1, 1, 0));
+    AcDbText fitted({1, 1, 0}, L"ABCD", AcDbObjectId::kNull, 2.0);
+    fitted.setAlignmentPoint({7, 1, 0});
+    fitted.setHorizontalMode(AcDb::kTextFit);
+    fitted.adjustAlignment();
+    EXPECT_EQ(fitted.height(), 2.0);
+    EXPECT_EQ(fitted.widthFactor(), 1.5);
+    fitted.setAlignmentPoint({1, 1, 0});
+    fitted.adjustAlignment(); // no way to go
+    EXPECT_EQ(fitted.widthFactor(), 1.5);
+}
+
+TEST(AcDbText, TakesItsAlignmentPointAlong) {
+    const CFixedMetrics metrics;
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 1.0);
+    text.setHorizontalMode(AcDb::kTextRight);
+    text.setAlignmentPoint({4, 1, 0});
+    text.transformBy(AcGeMatrix3d::scaling(2.0, AcGePoint3d::kOrigin));
+    EXPECT_EQ(text.alignmentPoint(), AcGePoint3d(8, 2, 0));
+    text.transformBy(AcGeMatrix3d::mirroring(AcGePoint3d::kOrigin, AcGeVector3d::kXAxis));
+    EXPECT_NEAR(text.position().distanceTo({-8, 2, 0}), 0.0, 1e-12);
+    EXPECT_NEAR(text.alignmentPoint().distanceTo({-4, 2, 0}), 0.0, 1e-12); // its right end again
+}
+
+TEST(AcDbText, LiesInThePlaneOfTheDrawing) {
+    AcDbText text;
+    EXPECT_EQ(text.setNormal({0, 0, 2}), Acad::eOk);
+    EXPECT_EQ(text.setNormal({0, 0, -1}), Acad::eInvalidInput);
+    EXPECT_EQ(text.normal(), AcGeVector3d::kZAxis);
+}
+
+TEST(AcDbText, FilesItsAlignment) {
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 1.0);
+    text.setHorizontalMode(AcDb::kTextMid);
+    text.setVerticalMode(AcDb::kTextTop);
+    text.setAlignmentPoint({4, 5, 6});
+    const CDbRecord record = RecordOf(text, AcDb::kCopyFiler);
+    AcDbText copy;
+    CRecordReader reader(AcDb::kCopyFiler, record);
+    EXPECT_EQ(copy.dwgIn(&reader), Acad::eOk);
+    EXPECT_EQ(copy.horizontalMode(), AcDb::kTextMid);
+    EXPECT_EQ(copy.verticalMode(), AcDb::kTextTop);
+    EXPECT_EQ(copy.alignmentPoint(), AcGePoint3d(4, 5, 6));
+    EXPECT_EQ(RecordOf(copy, AcDb::kCopyFiler), record);
 }
