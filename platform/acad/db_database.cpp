@@ -185,7 +185,11 @@ void AcDbDatabase::ReplaceObjects(const std::function<std::unique_ptr<AcDbObject
 
 void AcDbDatabase::NoteChanged(CDbStub& stub) {
     m_bModified = true;
-    if (stub.m_bNoted || !AcDbEntity::cast(stub.m_pObject.get())) return;
+    const auto* const pEntity = AcDbEntity::cast(stub.m_pObject.get());
+    if (!pEntity) return;
+    // What an entity owns is part of its picture.
+    if (PeekObject<AcDbEntity>(pEntity->ownerId())) NoteChanged(*pEntity->ownerId().Stub());
+    if (stub.m_bNoted) return;
     stub.m_bNoted = true;
     m_arChanged.emplace_back(&stub);
 }

@@ -52,6 +52,16 @@ std::string AcDbEntity::LayerName() const {
     return m_idLayer.isNull() ? std::string("0") : SymbolName(m_idLayer);
 }
 
+Acad::ErrorStatus AcDbEntity::setPropertiesFrom(const AcDbEntity* pOther) {
+    assertWriteEnabled();
+    if (!pOther) return Acad::eNullObjectPointer;
+    if (database() && pOther->database() && pOther->database() != database()) return Acad::eWrongDatabase;
+    m_nColorIndex = pOther->m_nColorIndex;
+    m_idLayer = pOther->m_idLayer;
+    m_idLinetype = pOther->m_idLinetype;
+    return Acad::eOk;
+}
+
 Acad::ErrorStatus AcDbEntity::dwgOutFields(AcDbDwgFiler* pFiler) const {
     if (const Acad::ErrorStatus status = AcDbObject::dwgOutFields(pFiler); status != Acad::eOk) return status;
     pFiler->writeUInt16(m_nColorIndex);

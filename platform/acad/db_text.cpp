@@ -159,6 +159,20 @@ Acad::ErrorStatus AcDbText::adjustAlignment() {
     return Acad::eOk;
 }
 
+void AcDbText::TakeTextFrom(const AcDbText& other) {
+    assertWriteEnabled();
+    m_ptPosition = other.m_ptPosition;
+    m_ptAlignment = other.m_ptAlignment;
+    m_horizontal = other.m_horizontal;
+    m_vertical = other.m_vertical;
+    m_strText = other.m_strText;
+    m_dHeight = other.m_dHeight;
+    m_dRotation = other.m_dRotation;
+    m_dWidthFactor = other.m_dWidthFactor;
+    m_dOblique = other.m_dOblique;
+    m_idStyle = other.m_idStyle;
+}
+
 Acad::ErrorStatus AcDbText::dwgOutFields(AcDbDwgFiler* pFiler) const {
     if (const Acad::ErrorStatus status = AcDbEntity::dwgOutFields(pFiler); status != Acad::eOk) return status;
     pFiler->writePoint3d(m_ptPosition);

@@ -57,6 +57,8 @@ public:
     /// Puts the text where its modes want it: the position follows from the alignment point and the size of
     /// the text; aligned and fitted texts are turned and sized to reach from point to point.
     Acad::ErrorStatus adjustAlignment();
+    /// Takes over all that makes the other text what it is, besides the properties of every entity.
+    void TakeTextFrom(const AcDbText& other);
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;

@@ -81,8 +81,12 @@ AcGeMatrix3d AcGeMatrix3d::rotation(double angle, const AcGeVector3d& axis, cons
 }
 
 AcGeMatrix3d AcGeMatrix3d::scaling(double factor, const AcGePoint3d& center) {
-    const double factors[3][3] = {{factor, 0.0, 0.0}, {0.0, factor, 0.0}, {0.0, 0.0, factor}};
-    return AboutPoint(factors, center);
+    return scaling(AcGeScale3d(factor), center);
+}
+
+AcGeMatrix3d AcGeMatrix3d::scaling(const AcGeScale3d& factors, const AcGePoint3d& center) {
+    const double part[3][3] = {{factors.sx, 0.0, 0.0}, {0.0, factors.sy, 0.0}, {0.0, 0.0, factors.sz}};
+    return AboutPoint(part, center);
 }
 
 AcGeMatrix3d AcGeMatrix3d::mirroring(const AcGePoint3d& point, const AcGeVector3d& planeNormal) {

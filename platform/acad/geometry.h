@@ -51,6 +51,20 @@ public:
 
 class AcGeMatrix3d;
 
+/// Factors along the three axes; a negative one mirrors.
+class AcGeScale3d {
+public:
+    double sx = 1.0, sy = 1.0, sz = 1.0;
+    AcGeScale3d() = default;
+    explicit AcGeScale3d(double factor)
+        : AcGeScale3d(factor, factor, factor) {}
+    AcGeScale3d(double x, double y, double z)
+        : sx(x)
+        , sy(y)
+        , sz(z) {}
+    bool operator==(const AcGeScale3d&) const = default;
+};
+
 class AcGeVector3d {
 public:
     double x = 0.0, y = 0.0, z = 0.0;
@@ -141,6 +155,7 @@ public:
     /// A turn by angle about an axis through center.
     static AcGeMatrix3d rotation(double angle, const AcGeVector3d& axis, const AcGePoint3d& center);
     static AcGeMatrix3d scaling(double factor, const AcGePoint3d& center);
+    static AcGeMatrix3d scaling(const AcGeScale3d& factors, const AcGePoint3d& center);
     /// The mirror image at the plane through point with the given normal.
     static AcGeMatrix3d mirroring(const AcGePoint3d& point, const AcGeVector3d& planeNormal);
 };

@@ -12,6 +12,7 @@ struct CFiledId {
     CKind m_kind;
     AcDbObjectId m_id;
     bool operator==(const CFiledId&) const = default;
+    bool IsOwnership() const { return m_kind == CKind::HardOwnership || m_kind == CKind::SoftOwnership; }
 };
 
 /// A record: its bytes, and beside them its references in the order in which they were written.

@@ -38,6 +38,29 @@ TEST(AcDbEntity, TakesColoursAndRecordsOfItsDrawingOnly) {
     EXPECT_EQ(polyline->setLayer(database.textstyle()), Acad::eNotThatKindOfClass);
 }
 
+TEST(AcDbEntity, TakesThePropertiesOfAnother) {
+    AcDbDatabase database, other;
+    const AcDbObjectId idSource = Append(database, new AcDbPolyline),
+                       idForeign = Append(other, new AcDbPolyline);
+    {
+        const CDbOpen<AcDbPolyline> source(idSource, AcDb::kForWrite);
+        source->setColorIndex(3);
+        AcDbObjectId idLinetype;
+        CDbOpen<AcDbLinetypeTable>(database.linetypeTableId())->getAt(L"Continuous", idLinetype);
+        source->setLinetype(idLinetype);
+    }
+    const CDbOpen<AcDbPolyline> source(idSource);
+    AcDbPolyline free;
+    EXPECT_EQ(free.setPropertiesFrom(source.Get()), Acad::eOk);
+    EXPECT_EQ(free.colorIndex(), 3);
+    EXPECT_EQ(free.LinetypeName(), "Continuous");
+    EXPECT_EQ(free.layerId(), database.clayer());
+    EXPECT_EQ(free.setPropertiesFrom(nullptr), Acad::eNullObjectPointer);
+    const CDbOpen<AcDbPolyline> foreign(idForeign, AcDb::kForWrite);
+    EXPECT_EQ(foreign->setPropertiesFrom(source.Get()), Acad::eWrongDatabase);
+    EXPECT_EQ(foreign->colorIndex(), 256);
+}
+
 TEST(AcDbEntity, OfACustomClassExtendsAsFarAsThePictureItDrewLast) {
     CSampleEntity entity;
     AcDbExtents extents;

@@ -91,3 +91,10 @@ TEST(AcDbExtents, TakesOverAnotherBoxButNothingOfAnEmptyOne) {
     ExpectNear(extents.minPoint(), {-1.0, 1.0, 0.0});
     ExpectNear(extents.maxPoint(), {1.0, 5.0, 0.0});
 }
+
+TEST(AcGeMatrix3d, ScalesEachAxisByItsOwnFactor) {
+    const AcGeMatrix3d scaling = AcGeMatrix3d::scaling(AcGeScale3d(2.0, -3.0, 1.0), {1.0, 1.0, 5.0});
+    ExpectNear(AcGePoint3d(2.0, 2.0, 7.0).transformBy(scaling), {3.0, -2.0, 7.0});
+    EXPECT_EQ(AcGeScale3d(2.0), AcGeScale3d(2.0, 2.0, 2.0));
+    EXPECT_EQ(AcGeScale3d(), AcGeScale3d(1.0));
+}

@@ -1,0 +1,167 @@
+// What a block reference shows: its picture, its extents, and the parts it explodes into.
+
+#include "platform/acad/db_block_reference.h"
+#include "platform/acad/db_database.h"
+#include "platform/acad/db_stub.h"
+#include "platform/acad/free_copy.h"
+#include "platform/acad/plane_transform.h"
+#include "platform/acad/transformed_draw.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Marks a block as being walked through for the length of a scope. False when it is already: a block that
+/// holds a reference to itself shows nothing there.
+class CBlockWalk {
+public:
+    explicit CBlockWalk(AcDbObjectId idBlock) {
+        if (std::find(s_arBlocks.begin(), s_arBlocks.end(), idBlock) != s_arBlocks.end()) return;
+        s_arBlocks.push_back(idBlock);
+        m_bMarked = true;
+    }
+    ~CBlockWalk() {
+        if (m_bMarked) s_arBlocks.pop_back();
+    }
+    CBlockWalk(const CBlockWalk&) = delete;
+    CBlockWalk& operator=(const CBlockWalk&) = delete;
+    explicit operator bool() const { return m_bMarked; }
+
+private:
+    inline static std::vector<AcDbObjectId> s_arBlocks; // drawings are used on the main thread only
+    bool m_bMarked = false;
+};
+
+/// The colour and line type that a reference is drawn with; a part drawn "by block" takes them.
+class CBlockTraits {
+public:
+    CBlockTraits(const AcDbEntity& reference, const AcDbDatabase* pDatabase, AcGiSubEntityTraits& traits)
+        : m_traits(traits)
+        , m_nColor(traits.color()) {
+        const CDbOpen<AcDbLinetypeTable> table(pDatabase ? pDatabase->linetypeTableId()
+                                                         : AcDbObjectId::kNull);
+        if (table) table->getAt(L"ByLayer", m_idByLayer);
+        m_idLinetype = reference.linetypeId();
+        Set(m_nColor, m_idLinetype);
+    }
+    ~CBlockTraits() { Set(m_nColor, m_idLinetype); }
+    CBlockTraits(const CBlockTraits&) = delete;
+    CBlockTraits& operator=(const CBlockTraits&) = delete;
+
+    void Begin(const AcDbEntity& part) {
+        const bool bByBlock = part.LinetypeName() == "ByBlock";
+        Set(part.colorIndex() == 0 ? m_nColor : part.colorIndex(),
+            bByBlock ? m_idLinetype : part.linetypeId());
+    }
+
+private:
+    void Set(Adesk::UInt16 nColor, AcDbObjectId idLinetype) {
+        m_traits.setColor(nColor);
+        m_traits.setLineType(idLinetype.isNull() ? m_idByLayer : idLinetype);
+    }
+
+    AcGiSubEntityTraits& m_traits;
+    Adesk::UInt16 m_nColor;
+    AcDbObjectId m_idLinetype, m_idByLayer;
+};
+
+void Draw(AcDbObjectId idPart, CBlockTraits& traits, AcGiWorldDraw& mode) {
+    const CDbOpen<AcDbEntity> part(idPart);
+    if (!part) return;
+    traits.Begin(*part.Get());
+    part->worldDraw(&mode);
+}
+
+void AddExtents(AcDbObjectId idPart, const AcGeMatrix3d& xform, AcDbExtents& box) {
+    const CDbOpen<AcDbEntity> part(idPart);
+    AcDbExtents extents;
+    if (!part || part->getGeomExtents(extents) != Acad::eOk) return;
+    const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
+    for (const double x : {low.x, high.x})
+        for (const double y : {low.y, high.y})
+            for (const double z : {low.z, high.z})
+                box.addPoint(AcGePoint3d(x, y, z).transformBy(xform));
+}
+
+/// A free copy, of an attribute or a definition as a plain text.
+std::unique_ptr<AcDbEntity> PartOf(const AcDbEntity& entity) {
+    const auto* const pText = AcDbText::cast(&entity);
+    if (!pText || pText->isA() == AcDbText::desc()) return FreeCopy(entity);
+    auto pPart = std::make_unique<AcDbText>();
+    pPart->TakeTextFrom(*pText);
+    pPart->setPropertiesFrom(pText);
+    return pPart;
+}
+
+} // namespace
+
+std::vector<AcDbObjectId> AcDbBlockReference::ShownIds() const {
+    const CDbOpen<AcDbBlockTableRecord> block(m_idBlock);
+    std::vector<AcDbObjectId> ids = block ? block->EntityIds() : std::vector<AcDbObjectId>();
+    std::erase_if(ids, [](const AcDbObjectId& id) {
+        const auto* const pDefinition = PeekObject<AcDbAttributeDefinition>(id);
+        return pDefinition && (!pDefinition->isConstant() || pDefinition->isInvisible());
+    });
+    return ids;
+}
+
+Adesk::Boolean AcDbBlockReference::subWorldDraw(AcGiWorldDraw* pMode) {
+    assertReadEnabled();
+    CBlockTraits traits(*this, m_idBlock.database(), pMode->subEntityTraits());
+    if (const CBlockWalk walk(m_idBlock); walk) {
+        CTransformedDraw inner(*pMode, blockTransform());
+        for (const AcDbObjectId& id : ShownIds())
+            Draw(id, traits, inner);
+    }
+    for (const AcDbObjectId& id : AttributeIds())
+        Draw(id, traits, *pMode);
+    return Adesk::kTrue;
+}
+
+Acad::ErrorStatus AcDbBlockReference::subGetGeomExtents(AcDbExtents& extents) const {
+    assertReadEnabled();
+    if (Picture()) return AcDbEntity::subGetGeomExtents(extents);
+    AcDbExtents box;
+    if (const CBlockWalk walk(m_idBlock); walk)
+        for (const AcDbObjectId& id : ShownIds())
+            AddExtents(id, blockTransform(), box);
+    for (const AcDbObjectId& id : AttributeIds())
+        AddExtents(id, AcGeMatrix3d(), box);
+    if (box.isEmpty()) return Acad::eInvalidExtents;
+    extents = box;
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockReference::AddPart(AcDbObjectId id, const AcGeMatrix3d& xform, CParts& parts) {
+    const CDbOpen<AcDbEntity> entity(id);
+    if (!entity) return entity.Status();
+    std::unique_ptr<AcDbEntity> pPart = PartOf(*entity.Get());
+    if (!pPart) return Acad::eNotApplicable;
+    const Acad::ErrorStatus status = pPart->transformBy(xform);
+    if (status != Acad::eOk) return PlaneTransform(xform) ? status : Acad::eCannotScaleNonUniformly;
+    parts.push_back(std::move(pPart));
+    const auto* const pReference = AcDbBlockReference::cast(entity.Get());
+    return pReference ? pReference->AddAttributes(xform, parts) : Acad::eOk; // a copy is without its own
+}
+
+Acad::ErrorStatus AcDbBlockReference::AddAttributes(const AcGeMatrix3d& xform, CParts& parts) const {
+    for (const AcDbObjectId& id : AttributeIds()) {
+        const auto* const pAttribute = PeekObject<AcDbAttribute>(id);
+        if (pAttribute->isInvisible()) continue;
+        if (const Acad::ErrorStatus status = AddPart(id, xform, parts); status != Acad::eOk) return status;
+    }
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbBlockReference::subExplode(AcDbVoidPtrArray& entitySet) const {
+    assertReadEnabled();
+    CParts parts;
+    for (const AcDbObjectId& id : ShownIds())
+        if (const Acad::ErrorStatus status = AddPart(id, blockTransform(), parts); status != Acad::eOk)
+            return status;
+    if (const Acad::ErrorStatus status = AddAttributes(AcGeMatrix3d(), parts); status != Acad::eOk)
+        return status;
+    for (std::unique_ptr<AcDbEntity>& pPart : parts)
+        entitySet.append(pPart.release());
+    return Acad::eOk;
+}
