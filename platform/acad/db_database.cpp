@@ -102,6 +102,13 @@ Acad::ErrorStatus AcDbDatabase::setLtscale(double scale) {
     return Acad::eOk;
 }
 
+Acad::ErrorStatus AcDbDatabase::setInsbase(const AcGePoint3d& base) {
+    CDbVariables variables = m_variables;
+    variables.m_ptInsbase = base;
+    SetVariables(variables);
+    return Acad::eOk;
+}
+
 void AcDbDatabase::SetVariables(const CDbVariables& variables) {
     if (variables == m_variables) return;
     m_undoLog.NoteVariables(m_variables);

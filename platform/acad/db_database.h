@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/acad/db_dictionary.h"
+#include "platform/acad/db_id_mapping.h"
 #include "platform/acad/db_tables.h"
 #include "platform/acad/undo_log.h"
 
@@ -9,6 +10,14 @@
 #include <memory>
 #include <string>
 #include <vector>
+
+namespace AcDb {
+/// What becomes of a record of a table that is cloned where there is one of its name.
+enum DuplicateRecordCloning {
+    kDrcIgnore = 1,  ///< the one that is there stands for it
+    kDrcReplace = 2, ///< the one that is there becomes like it
+};
+} // namespace AcDb
 
 /// A drawing: its objects by handle, its tables, its variables. Several may be open at once.
 class AcDbDatabase : public AcRxObject {
@@ -37,6 +46,8 @@ public:
 
     double ltscale() const { return m_variables.m_dLtscale; }
     Acad::ErrorStatus setLtscale(double scale);
+    AcGePoint3d insbase() const { return m_variables.m_ptInsbase; } ///< base point where it is inserted
+    Acad::ErrorStatus setInsbase(const AcGePoint3d& base);
     AcDbObjectId celtype() const { return m_variables.m_idCeltype; } ///< null: ByLayer
     Acad::ErrorStatus setCeltype(AcDbObjectId idLinetype);
     AcDbObjectId clayer() const { return m_variables.m_idClayer; }
@@ -56,6 +67,36 @@ public:
 
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
+
+    // Clones. An object is cloned with all that it owns, and from another drawing with the records, styles
+    // and other objects that it cannot be without. The first failure is returned: what could not be cloned
+    // (eNotApplicable for an object whose class makes none) is left out, the rest is there. The original
+    // stays as it was. Erased objects are left out.
+
+    /// Clones objects of this drawing under an owner, a block or dictionary of this drawing. With
+    /// deferXlation the clones stay empty until a later call with the same mapping. eNullObjectId,
+    /// eWrongDatabase, eDuplicateRecordName for a record of a table.
+    Acad::ErrorStatus deepCloneObjects(const AcDbObjectIdArray& objectIds, AcDbObjectId idOwner,
+                                       AcDbIdMapping& mapping, bool deferXlation = false);
+    /// The same into the drawing of the owner, which is another one. Records of tables, where they are among
+    /// the objects, come to stand in the tables of that drawing.
+    Acad::ErrorStatus wblockCloneObjects(const AcDbObjectIdArray& objectIds, AcDbObjectId idOwner,
+                                         AcDbIdMapping& mapping, AcDb::DuplicateRecordCloning drc,
+                                         bool deferXlation = false);
+    /// A new drawing, the caller's to delete also when something could not be cloned: like this one; of the
+    /// entities of a block, with its base point (eNotThatKindOfClass, eWrongDatabase); of some entities, with
+    /// a base point.
+    Acad::ErrorStatus wblock(AcDbDatabase*& pOutput);
+    Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock);
+    Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
+                             const AcGePoint3d& basePoint);
+    /// Makes a block of what another drawing has in model space, and brings all its layers, styles, line
+    /// types and registered applications along. The source is preserved in any case. eNullObjectPointer,
+    /// eInvalidInput for this drawing itself and for no name, eDuplicateRecordName for a block that is there.
+    Acad::ErrorStatus insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,
+                             bool preserveSource = true);
+    /// Clones the other drawing's model space into this one's, transformed.
+    Acad::ErrorStatus insert(const AcGeMatrix3d& xform, AcDbDatabase* pSource, bool preserveSource = true);
 
     /// Goes through the objects of all open drawings, erased ones too; an object that replace gives another
     /// for is destroyed, and the other takes its place. None of those replaced may be open.

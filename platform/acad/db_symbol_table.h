@@ -36,11 +36,11 @@ public:
     Acad::ErrorStatus add(AcDbObjectId& id, AcDbSymbolTableRecord* pRecord);
     Acad::ErrorStatus add(AcDbSymbolTableRecord* pRecord);
     const std::vector<AcDbObjectId>& RecordIds() const { return m_arIds; } ///< in order of adding
+    /// The record of that name, in whatever state the table is, for looking it up in passing. Null when there
+    /// is none.
+    AcDbObjectId Find(const ACHAR* name) const;
 
 private:
-    friend class AcDbSymbolTableRecord;
-    AcDbObjectId Find(const ACHAR* name) const; ///< null when there is none
-
     std::vector<AcDbObjectId> m_arIds;
 };
 

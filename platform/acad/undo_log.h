@@ -9,6 +9,7 @@
 /// The variables of a drawing, as far as they are undone.
 struct CDbVariables {
     double m_dLtscale = 1.0;
+    AcGePoint3d m_ptInsbase;
     AcDbObjectId m_idCeltype; ///< null: ByLayer
     AcDbObjectId m_idClayer, m_idTextstyle;
     bool operator==(const CDbVariables&) const = default;

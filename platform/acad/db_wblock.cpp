@@ -1,0 +1,138 @@
+// Whole drawings and parts of them cloned from one into another.
+
+#include "platform/acad/db_clone.h"
+#include "platform/acad/db_stub.h"
+
+namespace {
+
+std::vector<AcDbObjectId> ListOf(const AcDbObjectIdArray& ids) {
+    return {ids.begin(), ids.end()};
+}
+
+AcDbObjectId PaperSpaceId(const AcDbDatabase& database) {
+    return PeekObject<AcDbSymbolTable>(database.blockTableId())->Find(ACDB_PAPER_SPACE);
+}
+
+/// The variables of the source, as far as what they name has come along.
+void CloneVariables(const AcDbDatabase& source, const CCloner& cloner, AcDbDatabase& target) {
+    CDbVariables variables = source.Variables();
+    const CDbVariables& present = target.Variables();
+    const auto translate = [&](AcDbObjectId CDbVariables::*pVariable) {
+        const AcDbObjectId idClone = cloner.CloneOf(variables.*pVariable);
+        variables.*pVariable = idClone.isNull() ? present.*pVariable : idClone;
+    };
+    translate(&CDbVariables::m_idCeltype);
+    translate(&CDbVariables::m_idClayer);
+    translate(&CDbVariables::m_idTextstyle);
+    target.SetVariables(variables);
+}
+
+/// Tables whose records come along with an inserted drawing even where nothing uses them.
+void CloneStyles(const AcDbDatabase& source, CCloner& cloner) {
+    for (const AcDbObjectId& idTable :
+         {source.linetypeTableId(), source.layerTableId(), source.textStyleTableId(), source.regAppTableId()})
+        cloner.CloneRecords(idTable);
+}
+
+} // namespace
+
+Acad::ErrorStatus AcDbDatabase::deepCloneObjects(const AcDbObjectIdArray& objectIds, AcDbObjectId idOwner,
+                                                 AcDbIdMapping& mapping, bool deferXlation) {
+    if (idOwner.isNull()) return Acad::eNullObjectId;
+    if (idOwner.database() != this) return Acad::eWrongDatabase;
+    CCloner cloner(*this, *this, mapping, AcDb::kDrcIgnore);
+    cloner.Clone(ListOf(objectIds), idOwner);
+    return deferXlation ? Acad::eOk : cloner.Finish();
+}
+
+Acad::ErrorStatus AcDbDatabase::wblockCloneObjects(const AcDbObjectIdArray& objectIds, AcDbObjectId idOwner,
+                                                   AcDbIdMapping& mapping, AcDb::DuplicateRecordCloning drc,
+                                                   bool deferXlation) {
+    if (idOwner.isNull()) return Acad::eNullObjectId;
+    if (idOwner.database() == this) return Acad::eWrongDatabase;
+    CCloner cloner(*this, *idOwner.database(), mapping, drc);
+    cloner.Clone(ListOf(objectIds), idOwner);
+    return deferXlation ? Acad::eOk : cloner.Finish();
+}
+
+Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput) {
+    auto pNew = std::make_unique<AcDbDatabase>();
+    AcDbIdMapping mapping;
+    CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);
+    CloneStyles(*this, cloner);
+    cloner.CloneRecords(m_idBlockTable);
+    cloner.CloneContents(m_idModelSpace, pNew->m_idModelSpace);
+    cloner.CloneContents(PaperSpaceId(*this), PaperSpaceId(*pNew));
+    cloner.CloneNamedObjects();
+    const Acad::ErrorStatus status = cloner.Finish();
+    CloneVariables(*this, cloner, *pNew);
+    pOutput = pNew.release();
+    return status;
+}
+
+Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock) {
+    const auto* const pBlock = PeekObject<AcDbBlockTableRecord>(idBlock);
+    if (!pBlock) return Acad::eNotThatKindOfClass;
+    if (idBlock.database() != this) return Acad::eWrongDatabase;
+    auto pNew = std::make_unique<AcDbDatabase>();
+    AcDbIdMapping mapping;
+    CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);
+    cloner.CloneContents(idBlock, pNew->m_idModelSpace);
+    const Acad::ErrorStatus status = cloner.Finish();
+    CloneVariables(*this, cloner, *pNew);
+    pNew->setInsbase(pBlock->origin());
+    pOutput = pNew.release();
+    return status;
+}
+
+Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
+                                       const AcGePoint3d& basePoint) {
+    auto pNew = std::make_unique<AcDbDatabase>();
+    AcDbIdMapping mapping;
+    CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);
+    cloner.Clone(ListOf(objectIds), pNew->m_idModelSpace);
+    const Acad::ErrorStatus status = cloner.Finish();
+    CloneVariables(*this, cloner, *pNew);
+    pNew->setInsbase(basePoint);
+    pOutput = pNew.release();
+    return status;
+}
+
+Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,
+                                       bool) {
+    if (!pSource) return Acad::eNullObjectPointer;
+    if (pSource == this || !blockName || !*blockName) return Acad::eInvalidInput;
+    {
+        const CDbOpen<AcDbBlockTable> table(m_idBlockTable, AcDb::kForWrite);
+        if (!table) return table.Status();
+        if (table->has(blockName)) return Acad::eDuplicateRecordName;
+        auto* const pBlock = new AcDbBlockTableRecord;
+        pBlock->setName(blockName);
+        pBlock->setOrigin(pSource->insbase());
+        table->add(idBlock, pBlock);
+        pBlock->close();
+    }
+    AcDbIdMapping mapping;
+    CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
+    CloneStyles(*pSource, cloner);
+    cloner.CloneContents(pSource->m_idModelSpace, idBlock);
+    return cloner.Finish();
+}
+
+Acad::ErrorStatus AcDbDatabase::insert(const AcGeMatrix3d& xform, AcDbDatabase* pSource, bool) {
+    if (!pSource) return Acad::eNullObjectPointer;
+    if (pSource == this) return Acad::eInvalidInput;
+    AcDbIdMapping mapping;
+    CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
+    CloneStyles(*pSource, cloner);
+    cloner.CloneContents(pSource->m_idModelSpace, m_idModelSpace);
+    Acad::ErrorStatus status = cloner.Finish();
+    for (const AcDbIdPair& pair : mapping.Pairs()) {
+        const auto* const pEntity = PeekObject<AcDbEntity>(pair.value());
+        if (!pEntity || pEntity->ownerId() != m_idModelSpace || pair.value().isErased()) continue;
+        const CDbOpen<AcDbEntity> entity(pair.value(), AcDb::kForWrite);
+        const Acad::ErrorStatus moved = entity ? entity->transformBy(xform) : entity.Status();
+        if (status == Acad::eOk) status = moved;
+    }
+    return status;
+}
