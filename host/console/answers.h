@@ -5,6 +5,9 @@
 #include <stdexcept>
 #include <string>
 
+/// The answer that is Escape.
+inline constexpr const char* g_szEscape = "cancel";
+
 /// Exit statuses of a scripted run.
 enum CExitStatus {
     EXIT_DONE = 0,

@@ -4,18 +4,6 @@
 #include "host/console/picks.h"
 #include "host/console/points.h"
 
-namespace {
-
-constexpr const char* ESCAPE = "cancel";
-
-std::string WithoutBlanksAround(const std::string& text) {
-    const size_t first = text.find_first_not_of(" \t");
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-} // namespace
-
 void CCommandInput::Begin(std::vector<CWord> arWords) {
     m_arWords.assign(std::make_move_iterator(arWords.begin()), std::make_move_iterator(arWords.end()));
     m_bCancelled = false;
@@ -34,16 +22,16 @@ std::optional<std::string> CCommandInput::TakeWord() {
     return word;
 }
 
-std::string CCommandInput::TakeLine(const std::string& strPrompt) {
+std::string CCommandInput::Line(const std::string& strPrompt) {
     const std::optional<std::string> line = m_answers.Next(strPrompt);
     if (!line) throw CRunFailure(m_answers.Fault()->m_status, m_answers.Fault()->m_strWhat);
-    if (WithoutBlanksAround(*line) == ESCAPE) throw CCommandCancelled{};
+    if (WithoutBlanksAround(*line) == g_szEscape) throw CCommandCancelled{};
     return *line;
 }
 
 std::string CCommandInput::WholeText(const std::string& strPrompt) {
     std::optional<std::string> word = TakeWord();
-    return word ? std::move(*word) : TakeLine(strPrompt);
+    return word ? std::move(*word) : Line(strPrompt);
 }
 
 std::string CCommandInput::Text(const std::string& strPrompt) {
@@ -63,19 +51,23 @@ double CCommandInput::Number(const std::string& strPrompt) {
     return value;
 }
 
+AcGePoint3d CCommandInput::ToPoint(const std::string& strAnswer) {
+    AcGePoint3d point;
+    if (!ParsePoint(strAnswer, m_ptLast, &point))
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + strAnswer);
+    m_ptLast = point;
+    return point;
+}
+
 AcGePoint3d CCommandInput::Point(const std::string& strPrompt) {
-    const std::optional<AcGePoint3d> point = PointOrWord(strPrompt, {});
-    return *point; // no answer is the empty word
+    return ToPoint(Text(strPrompt));
 }
 
 std::optional<AcGePoint3d> CCommandInput::PointOrWord(const std::string& strPrompt,
                                                       const std::string& strWord) {
     const std::string text = Text(strPrompt);
     if (text == strWord) return std::nullopt;
-    AcGePoint3d point;
-    if (!ParsePoint(text, m_ptLast, &point)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + text);
-    m_ptLast = point;
-    return point;
+    return ToPoint(text);
 }
 
 AcDbObjectId CCommandInput::Entity(AcDbDatabase& drawing, const std::string& strPrompt) {
@@ -102,26 +94,64 @@ std::vector<AcDbObjectId> CCommandInput::Selection(AcDbDatabase& drawing, const 
     }
 }
 
-CPromptResult CCommandInput::AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) {
-    std::string answer;
+std::optional<std::string> CCommandInput::AnswerToModule(const std::string& strPrompt) {
+    if (m_answers.HasFailed()) return std::nullopt;
+    if (std::optional<std::string> word = TakeWord()) {
+        m_answers.ShowAnswered(strPrompt, *word);
+        return word;
+    }
     try {
-        if (std::optional<std::string> word = m_answers.HasFailed() ? std::nullopt : TakeWord()) {
-            answer = std::move(*word);
-            m_answers.ShowAnswered(strPrompt, answer);
-        } else {
-            answer = WithoutBlanksAround(TakeLine(strPrompt));
-        }
+        return WithoutBlanksAround(Line(strPrompt));
     } catch (const CCommandCancelled&) {
         m_bCancelled = true;
-        return CPromptResult::Cancel;
     } catch (const CRunFailure&) {
-        return CPromptResult::Cancel;
+        // noted already
     }
-    if (answer.empty()) return CPromptResult::None;
-    if (!ParsePoint(answer, m_ptLast, pPoint)) {
-        m_answers.Fail(EXIT_NO_SUCH_ANSWER, "not a point: " + answer);
-        return CPromptResult::Cancel;
-    }
+    return std::nullopt;
+}
+
+CPromptResult CCommandInput::RefuseToModule(const std::string& strReason) {
+    m_answers.Fail(EXIT_NO_SUCH_ANSWER, strReason);
+    return CPromptResult::Cancel;
+}
+
+CPromptResult CCommandInput::AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) {
+    const std::optional<std::string> answer = AnswerToModule(strPrompt);
+    if (!answer) return CPromptResult::Cancel;
+    if (answer->empty()) return CPromptResult::None;
+    if (!ParsePoint(*answer, m_ptLast, pPoint)) return RefuseToModule("not a point: " + *answer);
     m_ptLast = *pPoint;
     return CPromptResult::Value;
+}
+
+CPromptResult CCommandInput::AskEntity(AcDbDatabase& drawing, const std::string& strPrompt, AcDbObjectId* pId,
+                                       AcGePoint3d* pPoint) {
+    const std::optional<std::string> answer = AnswerToModule(strPrompt);
+    if (!answer) return CPromptResult::Cancel;
+    if (answer->empty()) return CPromptResult::None;
+    std::string reason;
+    *pId = PickEntity(drawing, *answer, m_ptLast, &reason);
+    if (pId->isNull()) return RefuseToModule(reason);
+    *pPoint = AcGePoint3d::kOrigin;
+    ParsePoint(*answer, m_ptLast, pPoint);
+    return CPromptResult::Value;
+}
+
+CPromptResult CCommandInput::AskSelection(AcDbDatabase& drawing, const std::string& strPrompt,
+                                          std::vector<AcDbObjectId>* pIds) {
+    const bool bOnLine = !m_arWords.empty();
+    std::string reason;
+    do {
+        const std::optional<std::string> answer = AnswerToModule(strPrompt);
+        if (!answer) return CPromptResult::Cancel;
+        if (answer->empty()) break;
+        if (bOnLine) {
+            if (!PickSeveral(drawing, *answer, m_ptLast, pIds, &reason)) return RefuseToModule(reason);
+        } else {
+            const AcDbObjectId id = PickEntity(drawing, *answer, m_ptLast, &reason);
+            if (id.isNull()) return RefuseToModule(reason);
+            AddOnce(id, pIds);
+        }
+    } while (!bOnLine);
+    return pIds->empty() ? CPromptResult::None : CPromptResult::Value;
 }

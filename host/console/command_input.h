@@ -28,6 +28,7 @@ public:
     // Prompts of the host's commands.
     std::string Text(const std::string& strPrompt);      ///< without blanks around it, not empty
     std::string WholeText(const std::string& strPrompt); ///< as it stands, may be empty
+    std::string Line(const std::string& strPrompt);      ///< the same, from a line whatever words there are
     std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
     double Number(const std::string& strPrompt);
     AcGePoint3d Point(const std::string& strPrompt);
@@ -38,15 +39,42 @@ public:
 
     // Prompts of a module; a bad answer fails the run and cancels the prompt.
     CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint);
+    CPromptResult AskEntity(AcDbDatabase& drawing, const std::string& strPrompt, AcDbObjectId* pId,
+                            AcGePoint3d* pPoint);
+    CPromptResult AskSelection(AcDbDatabase& drawing, const std::string& strPrompt,
+                               std::vector<AcDbObjectId>* pIds);
 
     void ForgetLastPoint() { m_ptLast = AcGePoint3d::kOrigin; }
 
 private:
+    friend class CNestedInput;
     std::optional<std::string> TakeWord();
-    std::string TakeLine(const std::string& strPrompt);
+    AcGePoint3d ToPoint(const std::string& strAnswer);
+    std::optional<std::string> AnswerToModule(const std::string& strPrompt);
+    CPromptResult RefuseToModule(const std::string& strReason);
 
     CScriptAnswers& m_answers;
     std::deque<CWord> m_arWords;
     AcGePoint3d m_ptLast; // relative points count from it
     bool m_bCancelled = false;
+};
+
+/// Sets what is left of a command's line aside while another command runs from within it.
+class CNestedInput {
+public:
+    explicit CNestedInput(CCommandInput& input)
+        : m_input(input)
+        , m_arWords(std::move(input.m_arWords))
+        , m_bCancelled(input.m_bCancelled) {}
+    ~CNestedInput() {
+        m_input.m_arWords = std::move(m_arWords);
+        m_input.m_bCancelled = m_bCancelled;
+    }
+    CNestedInput(const CNestedInput&) = delete;
+    CNestedInput& operator=(const CNestedInput&) = delete;
+
+private:
+    CCommandInput& m_input;
+    std::deque<CWord> m_arWords;
+    bool m_bCancelled;
 };

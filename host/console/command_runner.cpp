@@ -3,6 +3,7 @@
 #include "host/console/host_commands.h"
 #include "host/console/redraw.h"
 #include "host/console/texts.h"
+#include "platform/acad/ap_document_manager.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/editor_reactor.h"
 #include "platform/acad/wide_names.h"
@@ -35,8 +36,7 @@ CFoundCommand FindCommand(const std::string& strName) {
     throw CRunFailure(EXIT_NO_SUCH_ANSWER, "unknown command: " + strName);
 }
 
-// True unless the command was cancelled.
-bool Execute(CHost& host, const CFoundCommand& command) {
+CCommandResult Execute(CHost& host, const CFoundCommand& command) {
     try {
         if (command.m_pHost)
             command.m_pHost->m_pFunction(host);
@@ -44,16 +44,55 @@ bool Execute(CHost& host, const CFoundCommand& command) {
             command.m_pModule();
         if (!host.m_answers.HasFailed() && !host.m_input.WasCancelled()) host.m_input.End();
     } catch (const CCommandCancelled&) {
-        return false;
+        return CCommandResult::Cancelled;
     } catch (const CRunFailure& failure) {
         host.m_answers.Fail(failure.Status(), failure.what());
     }
-    return !host.m_answers.HasFailed() && !host.m_input.WasCancelled();
+    if (host.m_answers.HasFailed()) return CCommandResult::Failed;
+    return host.m_input.WasCancelled() ? CCommandResult::Cancelled : CCommandResult::Done;
+}
+
+void TellReactors(const CFoundCommand& command, CCommandResult result) {
+    const ACHAR* const szName = command.m_strGlobalName.c_str();
+    switch (result) {
+    case CCommandResult::Done:
+        return acedEditor->FireCommandEnded(szName);
+    case CCommandResult::Cancelled:
+        return acedEditor->FireCommandCancelled(szName);
+    case CCommandResult::Failed:
+        return acedEditor->FireCommandFailed(szName);
+    }
+}
+
+/// The first word is the name.
+CCommandResult RunWords(CHost& host, std::vector<CWord> words) {
+    const CFoundCommand command = FindCommand(words[0].m_strText);
+    if (command.m_pModule) host.Document(); // a module's command runs in a document
+    if (command.m_pHost && command.m_pHost->m_bSession && !acDocManagerPtr()->isApplicationContext())
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not from within a command: " + words[0].m_strText);
+    words.erase(words.begin());
+    const CDocumentContext context;
+    // What a reactor asks is answered by lines: the words are laid out after it.
+    host.m_input.Begin({});
+    acedEditor->FireCommandWillStart(command.m_strGlobalName.c_str());
+    if (host.m_answers.HasFailed()) return CCommandResult::Failed;
+    host.m_input.Begin(std::move(words));
+    const CCommandResult result = Execute(host, command);
+    TellReactors(command, result);
+    return result;
 }
 
 // Escape where no command runs: there is nothing to cancel.
 bool IsEscape(const std::vector<CWord>& words) {
-    return words.size() == 1 && !words[0].m_bQuoted && words[0].m_strText == "cancel";
+    return words.size() == 1 && !words[0].m_bQuoted && words[0].m_strText == g_szEscape;
+}
+
+void BeginUndoStep(const CHost& host) {
+    if (host.m_drawings.CurrentDocument()) host.Drawing().UndoLog().BeginStep();
+}
+
+void DrawWhatChanged(const CHost& host) {
+    if (host.m_drawings.CurrentDocument()) DrawChanged(host.Drawing());
 }
 
 void RunLine(CHost& host, const std::string& strLine) {
@@ -61,32 +100,51 @@ void RunLine(CHost& host, const std::string& strLine) {
     std::string reason;
     if (!SplitWords(strLine, &words, &reason)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
     if (words.empty() || IsEscape(words)) return;
-    const CFoundCommand command = FindCommand(words[0].m_strText);
-    words.erase(words.begin());
-    // What a reactor asks is answered by lines: the words are laid out after it.
-    host.m_input.Begin({});
-    acedEditor->FireCommandWillStart(command.m_strGlobalName.c_str());
-    if (host.m_answers.HasFailed()) return;
-    host.m_input.Begin(std::move(words));
-    host.Drawing().UndoLog().BeginStep();
-    if (Execute(host, command))
-        acedEditor->FireCommandEnded(command.m_strGlobalName.c_str());
-    else
-        acedEditor->FireCommandCancelled(command.m_strGlobalName.c_str());
-    DrawChanged(host.Drawing());
+    BeginUndoStep(host);
+    RunWords(host, std::move(words));
+    DrawWhatChanged(host);
+}
+
+/// False when there is no further line.
+bool RunNextLine(CHost& host) {
+    const std::optional<std::string> line = host.m_answers.NextCommandLine();
+    if (!line) return false;
+    try {
+        RunLine(host, *line);
+    } catch (const CRunFailure& failure) {
+        host.m_answers.Fail(failure.Status(), failure.what());
+    }
+    host.m_answers.Flush();
+    return true;
+}
+
+bool HasTypedLine(const CHost& host) {
+    AcApDocument* const pDocument = host.m_drawings.CurrentDocument();
+    return pDocument && pDocument->TypedText().HasLine();
 }
 
 } // namespace
 
 void RunCommands(CHost& host) {
-    while (!host.m_bQuit) {
-        const std::optional<std::string> line = host.m_answers.NextCommandLine();
-        if (!line) return;
-        try {
-            RunLine(host, *line);
-        } catch (const CRunFailure& failure) {
-            host.m_answers.Fail(failure.Status(), failure.what());
-        }
-        host.m_answers.Flush();
+    while (!host.m_bQuit && !host.m_answers.HasFailed()) {
+        if (acDocManagerPtr()->RunDeferredWork()) DrawWhatChanged(host);
+        // A text is typed when the one before it has been read, so that each runs in its own document.
+        if (!HasTypedLine(host) && acDocManagerPtr()->TypeNextText()) continue;
+        if (!RunNextLine(host)) return;
+    }
+}
+
+CCommandResult RunNestedCommand(CHost& host, const std::vector<std::string>& arWords) {
+    if (host.m_answers.HasFailed()) return CCommandResult::Failed;
+    std::vector<CWord> words;
+    for (const std::string& strWord : arWords)
+        words.push_back({ToUtf8(strWord), true});
+    if (words[0].m_strText.empty()) return CCommandResult::Done; // Enter where no command runs
+    const CNestedInput nested(host.m_input);
+    try {
+        return RunWords(host, std::move(words));
+    } catch (const CRunFailure& failure) {
+        host.m_answers.Fail(failure.Status(), failure.what());
+        return CCommandResult::Failed;
     }
 }

@@ -1,15 +1,9 @@
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
 #include "host/console/texts.h"
-#include "platform/acad/editor.h"
 #include "platform/windows/code_page.h"
 
 namespace {
-
-bool IsSingleDocument() {
-    resbuf value;
-    return acedGetVar(L"SDI", &value) == RTNORM && value.resval.rint != 0;
-}
 
 std::string ExtentsText(const AcDbEntity& entity) {
     AcDbExtents extents;
@@ -20,20 +14,6 @@ std::string ExtentsText(const AcDbEntity& entity) {
 }
 
 } // namespace
-
-void CommandNew(CHost& host) {
-    host.m_input.End();
-    if (IsSingleDocument())
-        host.m_drawings.ReplaceCurrent();
-    else
-        host.m_drawings.AddNew();
-    host.m_input.ForgetLastPoint();
-}
-
-void CommandQuit(CHost& host) {
-    host.m_input.End();
-    host.m_bQuit = true;
-}
 
 void CommandErase(CHost& host) {
     const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), "Select entities: ");

@@ -1,57 +1,66 @@
 #include "host/console/drawings.h"
 
 #include "host/console/texts.h"
+#include "platform/acad/dynamic_linker.h"
 #include "platform/acad/host_application.h"
 #include "platform/windows/code_page.h"
 
+#include <algorithm>
 #include <filesystem>
 
 CDrawings::~CDrawings() {
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
 }
 
-void CDrawings::AddNew() {
-    m_arDrawings.push_back(MakeNew());
-    MakeCurrent(m_arDrawings.size() - 1);
+std::vector<AcApDocument*> CDrawings::Documents() const {
+    std::vector<AcApDocument*> documents;
+    for (const COpenDrawing& drawing : m_arDrawings)
+        documents.push_back(drawing.m_pDocument.get());
+    return documents;
 }
 
-void CDrawings::ReplaceCurrent() {
-    m_arDrawings[m_nCurrent] = MakeNew();
-    MakeCurrent(m_nCurrent);
-}
-
-std::string CDrawings::Name() const {
-    return NameOf(m_arDrawings[m_nCurrent]);
+std::vector<AcApDocument*> CDrawings::ChangedDocuments() const {
+    std::vector<AcApDocument*> documents = Documents();
+    std::erase_if(documents,
+                  [](const AcApDocument* pDocument) { return !pDocument->database()->IsModified(); });
+    return documents;
 }
 
 std::string CDrawings::FolderGbk() const {
-    std::wstring strFile;
-    Current().getFilename(strFile);
-    const std::filesystem::path path(Utf8FromWide(strFile));
+    if (!m_pCurrent || !m_pCurrent->isNamedDrawing()) return {};
+    const std::filesystem::path path(NameOf(*m_pCurrent));
     std::string gbk;
     return Utf8ToGbk(path.parent_path().string(), &gbk) ? gbk : std::string();
 }
 
-std::vector<std::string> CDrawings::ChangedNames() const {
-    std::vector<std::string> names;
-    for (const COpenDrawing& drawing : m_arDrawings)
-        if (drawing.m_pDatabase->IsModified()) names.push_back(NameOf(drawing));
-    return names;
+void CDrawings::Add(std::unique_ptr<AcDbDatabase> pDatabase) {
+    pDatabase->SetModified(false);
+    const std::wstring strTitle = L"Drawing" + std::to_wstring(++m_nMade);
+    m_arDrawings.push_back({std::make_unique<AcApDocument>(std::move(pDatabase), strTitle), 0});
+    MakeCurrent(*m_arDrawings.back().m_pDocument);
+    acrxDynamicLinker()->SendToAll(AcRx::kLoadDwgMsg);
 }
 
-std::string CDrawings::NameOf(const COpenDrawing& drawing) {
-    std::wstring strFile;
-    drawing.m_pDatabase->getFilename(strFile);
-    return strFile.empty() ? "Drawing" + std::to_string(drawing.m_nNumber) : Utf8FromWide(strFile);
+void CDrawings::MakeCurrent(AcApDocument& document) {
+    for (COpenDrawing& drawing : m_arDrawings)
+        if (drawing.m_pDocument.get() == &document) drawing.m_nActivated = ++m_nActivations;
+    m_pCurrent = &document;
+    acdbHostApplicationServices()->setWorkingDatabase(document.database());
 }
 
-CDrawings::COpenDrawing CDrawings::MakeNew() {
-    COpenDrawing drawing{std::make_unique<AcDbDatabase>(), ++m_nMade};
-    drawing.m_pDatabase->SetModified(false);
-    return drawing;
+void CDrawings::Close(AcApDocument& document) {
+    acrxDynamicLinker()->SendToAll(AcRx::kUnloadDwgMsg);
+    const bool bCurrent = &document == m_pCurrent;
+    std::erase_if(m_arDrawings,
+                  [&](const COpenDrawing& drawing) { return drawing.m_pDocument.get() == &document; });
+    if (!bCurrent) return;
+    m_pCurrent = nullptr; // the working drawing went with its document
+    const auto latest = std::max_element(
+        m_arDrawings.begin(), m_arDrawings.end(),
+        [](const COpenDrawing& a, const COpenDrawing& b) { return a.m_nActivated < b.m_nActivated; });
+    if (latest != m_arDrawings.end()) MakeCurrent(*latest->m_pDocument);
 }
 
-void CDrawings::MakeCurrent(size_t index) {
-    m_nCurrent = index;
-    acdbHostApplicationServices()->setWorkingDatabase(m_arDrawings[index].m_pDatabase.get());
+std::string CDrawings::NameOf(const AcApDocument& document) {
+    return Utf8FromWide(document.fileName());
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/acad/db_database.h"
+#include "platform/acad/ap_document.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
-/// The drawings open in the program, and which of them is the current (working) one. There is always one.
+/// The drawings open in the program, and which of them is the current (working) one, if any is open. The
+/// modules are told of each that comes and goes.
 class CDrawings {
 public:
     CDrawings() { AddNew(); }
@@ -14,23 +15,26 @@ public:
     CDrawings(const CDrawings&) = delete;
     CDrawings& operator=(const CDrawings&) = delete;
 
-    AcDbDatabase& Current() const { return *m_arDrawings[m_nCurrent].m_pDatabase; }
-    void AddNew();                 ///< opens a new drawing, which becomes the current one
-    void ReplaceCurrent();         ///< a new drawing in place of the current one
-    std::string Name() const;      ///< the current drawing's file path, else "Drawing1" and so on; UTF-8
+    AcApDocument* CurrentDocument() const { return m_pCurrent; } ///< null when none is open
+    std::vector<AcApDocument*> Documents() const;                ///< in order of opening
+    std::vector<AcApDocument*> ChangedDocuments() const;         ///< changed and not saved
     std::string FolderGbk() const; ///< folder of the current drawing's file; empty without a file
-    std::vector<std::string> ChangedNames() const; ///< of all drawings changed and not saved
+
+    void AddNew() { Add(std::make_unique<AcDbDatabase>()); }
+    void Add(std::unique_ptr<AcDbDatabase> pDatabase); ///< it becomes the current one
+    void MakeCurrent(AcApDocument& document);
+    /// Closes it, saved or not; the one that was current before it becomes the current one.
+    void Close(AcApDocument& document);
+
+    /// The file's path, else "Drawing1" and so on; UTF-8.
+    static std::string NameOf(const AcApDocument& document);
 
 private:
     struct COpenDrawing {
-        std::unique_ptr<AcDbDatabase> m_pDatabase;
-        int m_nNumber; ///< names a drawing without a file
+        std::unique_ptr<AcApDocument> m_pDocument;
+        int m_nActivated; ///< the higher, the later it was made the current one
     };
-    static std::string NameOf(const COpenDrawing& drawing);
-    COpenDrawing MakeNew();
-    void MakeCurrent(size_t index);
-
     std::vector<COpenDrawing> m_arDrawings;
-    size_t m_nCurrent = 0;
-    int m_nMade = 0;
+    AcApDocument* m_pCurrent = nullptr;
+    int m_nMade = 0, m_nActivations = 0;
 };

@@ -17,6 +17,11 @@ struct CHost {
     bool m_bQuit = false;         ///< QUIT ran: the run is over
     bool m_bModuleFailed = false; ///< a module did not load: the run ends with 4 if nothing else stops it
 
-    AcDbDatabase& Drawing() const { return m_drawings.Current(); }
+    /// The current document, for a command that needs one.
+    AcApDocument& Document() const {
+        if (!m_drawings.CurrentDocument()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no drawing is open");
+        return *m_drawings.CurrentDocument();
+    }
+    AcDbDatabase& Drawing() const { return *Document().database(); }
     void Print(const std::string& strLine) const { m_answers.Print(strLine); }
 };

@@ -6,8 +6,14 @@
 namespace {
 
 constexpr std::array g_arCommands = {
-    CHostCommand{"NEW", CommandNew, "begins a new drawing"},
+    CHostCommand{"NEW", CommandNew, "begins a new drawing; while SDI is not 0, in place of the current one",
+                 true},
+    CHostCommand{"QNEW", CommandNew, "the same", true},
+    CHostCommand{"CLOSE", CommandClose, "closes the current drawing", true},
     CHostCommand{"QUIT", CommandQuit, "ends the run"},
+    CHostCommand{"DOCUMENTS", CommandDocuments,
+                 "lists the drawings: number, * for the current one, name, (changed)"},
+    CHostCommand{"ACTIVATE", CommandActivate, "number: makes a drawing the current one", true},
     CHostCommand{"ERASE", CommandErase, "selection: erases the entities"},
     CHostCommand{"LIST", CommandList, "entity: tells what it is"},
     CHostCommand{"LINE", CommandLine, "point point: makes a line"},

@@ -10,16 +10,21 @@
 struct CHostCommand {
     const char* m_pName; ///< upper case
     void (*m_pFunction)(CHost& host);
-    const char* m_pHelp; ///< its answers and what it does, for --help
+    const char* m_pHelp;     ///< its answers and what it does, for --help
+    bool m_bSession = false; ///< changes which drawing is current: not to be run from within another command
 };
 
 std::span<const CHostCommand> HostCommands();
 /// The command of that upper-case name; null if none.
 const CHostCommand* FindHostCommand(std::string_view strName);
 
-// drawing_commands.cpp
+// document_commands.cpp
 void CommandNew(CHost& host);
+void CommandClose(CHost& host);
 void CommandQuit(CHost& host);
+void CommandDocuments(CHost& host);
+void CommandActivate(CHost& host);
+// drawing_commands.cpp
 void CommandErase(CHost& host);
 void CommandList(CHost& host);
 // making_commands.cpp

@@ -25,7 +25,7 @@ bool IsPlotFormat(const std::string& strPath) {
 void CommandDump(CHost& host) {
     const std::string path = host.m_input.Text("File: ");
     host.m_input.End();
-    if (!WriteFileWhole(path, DumpDrawing(host.Drawing(), host.m_drawings.Name())))
+    if (!WriteFileWhole(path, DumpDrawing(host.Drawing(), CDrawings::NameOf(host.Document()))))
         throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be written: " + std::strerror(errno));
 }
 

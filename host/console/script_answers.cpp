@@ -1,5 +1,8 @@
 #include "host/console/script_answers.h"
 
+#include "host/console/texts.h"
+#include "platform/acad/ap_document_manager.h"
+
 #include <iostream>
 
 namespace {
@@ -18,6 +21,7 @@ CScriptAnswers::CScriptAnswers(std::string strName, std::istream& input, CTextOu
 
 std::optional<std::string> CScriptAnswers::Next(const std::string& strPrompt) {
     if (HasFailed()) return std::nullopt;
+    if (std::optional<std::string> typed = TakeTyped(strPrompt)) return typed;
     ShowPrompt(strPrompt);
     std::optional<std::string> answer = ReadLine();
     if (answer) {
@@ -32,6 +36,7 @@ std::optional<std::string> CScriptAnswers::Next(const std::string& strPrompt) {
 std::optional<std::string> CScriptAnswers::NextCommandLine() {
     if (HasFailed()) return std::nullopt;
     m_output.BeginLine();
+    if (std::optional<std::string> typed = TakeTyped(COMMAND_PROMPT)) return typed;
     if (m_bAskFirst) ShowPrompt(COMMAND_PROMPT);
     std::optional<std::string> line = ReadLine();
     if (!line) {
@@ -55,6 +60,16 @@ void CScriptAnswers::Fail(CExitStatus status, const std::string& strWhat) {
 void CScriptAnswers::Report(int nLine, const std::string& strWhat) const {
     m_output.Flush();
     std::cerr << m_strName << ":" << nLine << ": " << strWhat << std::endl;
+}
+
+std::optional<std::string> CScriptAnswers::TakeTyped(const std::string& strPrompt) {
+    AcApDocument* const pDocument = acDocManagerPtr()->curDocument();
+    if (!pDocument) return std::nullopt;
+    const std::optional<CTypedLine> line = pDocument->TypedText().TakeLine();
+    if (!line) return std::nullopt;
+    std::string strAnswer = line->m_bEscape ? g_szEscape : Utf8FromWide(line->m_strText);
+    if (line->m_bEcho) ShowAnswered(strPrompt, strAnswer);
+    return strAnswer;
 }
 
 std::optional<std::string> CScriptAnswers::ReadLine() {

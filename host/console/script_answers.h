@@ -12,8 +12,8 @@ struct CRunFault {
     std::string m_strWhat;
 };
 
-/// The answers of a run from the lines of a script or of standard input. Comments are skipped, '\r' is
-/// dropped, a mark at the beginning too.
+/// The answers of a run: what was typed at the current document's command line by program, then the lines of
+/// a script or of standard input. Comments are skipped, '\r' is dropped, a mark at the beginning too.
 class CScriptAnswers final : public CAnswers {
 public:
     /// strName stands in messages. bAskFirst: the prompt is shown before the line is read, for an input
@@ -39,6 +39,7 @@ public:
     const std::optional<CRunFault>& Fault() const { return m_fault; }
 
 private:
+    std::optional<std::string> TakeTyped(const std::string& strPrompt);
     std::optional<std::string> ReadLine();
     void ShowPrompt(const std::string& strPrompt);
     void ShowAnswer(const std::string& strAnswer);

@@ -1,5 +1,6 @@
 #include "host/console/script_editor.h"
 
+#include "host/console/command_runner.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 
@@ -19,11 +20,9 @@ std::string FullPath(const std::string& strFolder, const std::string& strName) {
 
 } // namespace
 
-CScriptEditor::CScriptEditor(CTextOutput& output, CCommandInput& input, const CDrawings& drawings,
-                             std::string strRootGbk)
+CScriptEditor::CScriptEditor(CTextOutput& output, CHost& host, std::string strRootGbk)
     : m_output(output)
-    , m_input(input)
-    , m_drawings(drawings)
+    , m_host(host)
     , m_strRootGbk(std::move(strRootGbk)) {
     SetEditorHost(this);
 }
@@ -33,13 +32,27 @@ void CScriptEditor::Print(const std::string& strText) {
 }
 
 CPromptResult CScriptEditor::AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) {
-    return m_input.AskPoint(ToUtf8(strPrompt), pPoint);
+    return m_host.m_input.AskPoint(ToUtf8(strPrompt), pPoint);
+}
+
+CPromptResult CScriptEditor::AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) {
+    if (!m_host.m_drawings.CurrentDocument()) return CPromptResult::None;
+    return m_host.m_input.AskEntity(m_host.Drawing(), ToUtf8(strPrompt), pId, pPoint);
+}
+
+CPromptResult CScriptEditor::AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) {
+    if (!m_host.m_drawings.CurrentDocument()) return CPromptResult::None;
+    return m_host.m_input.AskSelection(m_host.Drawing(), ToUtf8(strPrompt), pIds);
+}
+
+CCommandResult CScriptEditor::RunCommand(const std::vector<std::string>& arWords) {
+    return RunNestedCommand(m_host, arWords);
 }
 
 std::string CScriptEditor::FindFile(const std::string& strName) {
     std::string found = FullPath({}, strName);
     if (!found.empty() || IsAbsolutePath(strName)) return found;
-    const std::string strBeside = m_drawings.FolderGbk();
+    const std::string strBeside = m_host.m_drawings.FolderGbk();
     for (const std::string& strFolder : {strBeside, m_strRootGbk + "/Support", m_strRootGbk}) {
         if (strFolder.empty()) continue; // a drawing without a file
         found = FullPath(strFolder, strName);

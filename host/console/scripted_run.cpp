@@ -2,7 +2,9 @@
 
 #include "host/console/command_runner.h"
 #include "host/console/dialog_presenter.h"
+#include "host/console/drawing_session.h"
 #include "host/console/message_boxes.h"
+#include "host/console/script_documents.h"
 #include "host/console/script_editor.h"
 #include "host/console/texts.h"
 #include "host/plot/fonts.h"
@@ -85,8 +87,9 @@ int Finish(const CHost& host) {
         return fault->m_status;
     }
     if (!host.m_bQuit) // QUIT discards them knowingly
-        for (const std::string& strName : host.m_drawings.ChangedNames())
-            std::cerr << "tvcad: " << strName << " was changed and is not saved" << std::endl;
+        for (const AcApDocument* const pDocument : host.m_drawings.ChangedDocuments())
+            std::cerr << "tvcad: " << CDrawings::NameOf(*pDocument) << " was changed and is not saved"
+                      << std::endl;
     return host.m_bModuleFailed ? EXIT_FILE_FAILED : EXIT_DONE;
 }
 
@@ -103,15 +106,18 @@ int RunFrom(std::istream& input, const CProgramOptions& options, const std::stri
     {
         CDrawings drawings;
         CCommandInput commandInput(answers);
-        const CScriptEditor editor(output, commandInput, drawings, strRootGbk);
         CHost host{answers, commandInput, drawings, modules, fonts.Fonts()};
+        const CScriptEditor editor(output, host, strRootGbk);
+        const CScriptDocuments documents(host);
         LoadAtStart(host, options.m_strModule);
         RunCommands(host);
         output.BeginLine();
         output.Flush();
         nStatus = Finish(host);
+        EndSession(host);
     }
     modules.UnloadAll(); // after the drawings: their entities' code is in the modules
+    output.BeginLine();
     output.Flush();
     return nStatus;
 }

@@ -46,3 +46,9 @@ bool SplitWords(const std::string& line, std::vector<CWord>* words, std::string*
         words->push_back(word);
     }
 }
+
+std::string WithoutBlanksAround(const std::string& text) {
+    const size_t first = text.find_first_not_of(" \t");
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}

@@ -15,3 +15,5 @@ struct CWord {
 /// `""` is an empty word; no other character quotes. False with the reason when a quote is not closed; the
 /// words are then those before it.
 bool SplitWords(const std::string& line, std::vector<CWord>* words, std::string* reason);
+
+std::string WithoutBlanksAround(const std::string& text);

@@ -45,3 +45,7 @@ void AcEditor::FireCommandEnded(const ACHAR* globalName) {
 void AcEditor::FireCommandCancelled(const ACHAR* globalName) {
     Fire(globalName, &AcEditorReactor::commandCancelled);
 }
+
+void AcEditor::FireCommandFailed(const ACHAR* globalName) {
+    Fire(globalName, &AcEditorReactor::commandFailed);
+}

@@ -20,8 +20,10 @@ public:
     AcRxClass* isA() const override { return AcEditorReactor::desc(); }
     /// Called before each command starts, with its global name in upper case.
     virtual void commandWillStart(const ACHAR*) {}
+    // One of these is called when it is over.
     virtual void commandEnded(const ACHAR*) {}
-    virtual void commandCancelled(const ACHAR*) {}
+    virtual void commandCancelled(const ACHAR*) {} ///< the user gave it up
+    virtual void commandFailed(const ACHAR*) {}
 };
 
 class AcEditor : public AcRxObject {
@@ -38,6 +40,7 @@ public:
     void FireCommandWillStart(const ACHAR* globalName);
     void FireCommandEnded(const ACHAR* globalName);
     void FireCommandCancelled(const ACHAR* globalName);
+    void FireCommandFailed(const ACHAR* globalName);
 
 private:
     void Fire(const ACHAR* globalName, void (AcEditorReactor::*pEvent)(const ACHAR*));

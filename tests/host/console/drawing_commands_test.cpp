@@ -1,4 +1,4 @@
-// NEW, ERASE and LIST in real runs.
+// ERASE and LIST in real runs.
 
 #include "tests/host/console/program_run.h"
 
@@ -48,9 +48,4 @@ TEST_F(DrawingCommands, AnErasedEntityOrAHandleOfSomethingElseIsNoPick) {
     EXPECT_EQ(RunScript("LIST #1\n").m_nStatus, 5); // a table
     EXPECT_EQ(RunScript("LIST #\n").m_nStatus, 5);
     EXPECT_EQ(RunScript("LIST #xyz\n").m_nStatus, 5);
-}
-
-TEST_F(DrawingCommands, NewReplacesTheDrawingOnlyInSingleDocumentMode) {
-    EXPECT_EQ(RunScript("LINES\nNEW\n").m_strErr, "tvcad: Drawing1 was changed and is not saved\n");
-    EXPECT_EQ(RunScript("LINES\nSETVAR SDI 1\nNEW\n").m_strErr, "");
 }

@@ -54,6 +54,11 @@ protected:
         WriteFile("script", ToUtf8(strScript));
         return RunProgram("-s script --load '" SAMPLE_MODULE "' " + strOptions);
     }
+    /// The same with the module that works on documents.
+    CProgramResult RunDocuments(const std::string& strScript, const std::string& strOptions = "-q") const {
+        WriteFile("script", ToUtf8(strScript));
+        return RunProgram("-s script --load '" DOCUMENT_MODULE "' " + strOptions);
+    }
     /// What a script prints when prompts and answers are left out.
     std::string Quiet(const std::string& strScript) const { return RunScript(strScript, "-q").m_strOut; }
 

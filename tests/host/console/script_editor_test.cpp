@@ -1,5 +1,6 @@
 #include "host/console/script_editor.h"
 
+#include "host/plot/fonts.h"
 #include "tests/host/console/program_run.h"
 
 namespace {
@@ -45,9 +46,13 @@ TEST(ScriptEditor, SeeksBesideTheDrawingBeforeTheRoot) {
     CTextOutput output;
     CScriptAnswers answers("script", input, output, false, true);
     CCommandInput commandInput(answers);
-    const CDrawings drawings;
-    drawings.Current().SetFilename(WideFromGbk((base / "drawings/c.dwg").string()).c_str());
-    CScriptEditor editor(output, commandInput, drawings, (base / "root").string());
+    CDrawings drawings;
+    drawings.CurrentDocument()->database()->SetFilename(
+        WideFromGbk((base / "drawings/c.dwg").string()).c_str());
+    CModules modules;
+    CFonts fonts([](const std::string&) {});
+    CHost host{answers, commandInput, drawings, modules, fonts};
+    CScriptEditor editor(output, host, (base / "root").string());
     EXPECT_EQ(editor.FindFile("A.TXT"), (base / "drawings/a.txt").string());
     EXPECT_EQ(editor.FindFile("b.txt"), (base / "root/b.txt").string());
     EXPECT_EQ(editor.FindFile("c.txt"), "");

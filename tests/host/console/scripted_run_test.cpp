@@ -135,7 +135,7 @@ TEST_F(ScriptedRun, NamesChangedDrawingsAtTheEndAndQuitNamesNone) {
     EXPECT_EQ(result.m_nStatus, 0);
     EXPECT_EQ(result.m_strErr, "tvcad: Drawing1 was changed and is not saved\n"
                                "tvcad: Drawing3 was changed and is not saved\n");
-    result = RunScript("LINES\nQUIT\nNOSUCH\n");
+    result = RunScript("LINES\nQUIT\nno\nNOSUCH\n");
     EXPECT_EQ(result.m_nStatus, 0);
     EXPECT_EQ(result.m_strErr, "");
 }

@@ -1,0 +1,40 @@
+// Commands that change or list the drawings that are open.
+
+#include "host/console/drawing_session.h"
+#include "host/console/host_commands.h"
+#include "host/console/numbers.h"
+
+void CommandNew(CHost& host) {
+    host.m_input.End();
+    NewDrawing(host);
+}
+
+void CommandClose(CHost& host) {
+    host.m_input.End();
+    CloseDrawing(host, host.Document());
+}
+
+void CommandQuit(CHost& host) {
+    host.m_input.End();
+    AskToSaveAll(host);
+    host.m_bQuit = true;
+}
+
+void CommandDocuments(CHost& host) {
+    host.m_input.End();
+    int nNumber = 0;
+    for (const AcApDocument* const pDocument : host.m_drawings.Documents())
+        host.Print(std::to_string(++nNumber) +
+                   (pDocument == host.m_drawings.CurrentDocument() ? " * " : "   ") +
+                   CDrawings::NameOf(*pDocument) + (pDocument->database()->IsModified() ? " (changed)" : ""));
+}
+
+void CommandActivate(CHost& host) {
+    const std::string strNumber = host.m_input.Text("Number of the drawing: ");
+    host.m_input.End();
+    const std::vector<AcApDocument*> documents = host.m_drawings.Documents();
+    int nNumber = 0;
+    if (!ParseWhole(strNumber, &nNumber) || nNumber < 1 || nNumber > static_cast<int>(documents.size()))
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such drawing: " + strNumber);
+    ActivateDrawing(host, *documents[static_cast<std::size_t>(nNumber - 1)]);
+}

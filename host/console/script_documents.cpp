@@ -1,0 +1,47 @@
+#include "host/console/script_documents.h"
+
+#include "host/console/drawing_session.h"
+#include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
+
+namespace {
+
+/// A module asked for this: what the user answers reaches it as a status.
+template <class Change>
+Acad::ErrorStatus StatusOf(CHost& host, const Change& change) {
+    try {
+        return change();
+    } catch (const CCommandCancelled&) {
+        return Acad::eUserBreak;
+    } catch (const CRunFailure& failure) {
+        host.m_answers.Fail(failure.Status(), failure.what());
+        return Acad::eUserBreak;
+    }
+}
+
+} // namespace
+
+void CScriptDocuments::Activate(AcApDocument& document) {
+    ActivateDrawing(m_host, document);
+}
+
+Acad::ErrorStatus CScriptDocuments::NewDocument() {
+    return StatusOf(m_host, [this] {
+        NewDrawing(m_host);
+        return Acad::eOk;
+    });
+}
+
+Acad::ErrorStatus CScriptDocuments::OpenDocument(const std::wstring& strPath) {
+    return StatusOf(m_host, [&] {
+        std::string utf8;
+        return ResolvePath({}, GbkFromWide(strPath), &utf8) ? OpenDrawing(m_host, utf8) : Acad::eFileNotFound;
+    });
+}
+
+Acad::ErrorStatus CScriptDocuments::CloseDocument(AcApDocument& document) {
+    return StatusOf(m_host, [&] {
+        CloseDrawing(m_host, document);
+        return Acad::eOk;
+    });
+}
