@@ -68,7 +68,7 @@ void TellReactors(const CFoundCommand& command, CCommandResult result) {
 CCommandResult RunWords(CHost& host, std::vector<CWord> words) {
     const CFoundCommand command = FindCommand(words[0].m_strText);
     if (command.m_pModule) host.Document(); // a module's command runs in a document
-    if (command.m_pHost && command.m_pHost->m_bSession && !acDocManagerPtr()->isApplicationContext())
+    if (command.m_pHost && command.m_pHost->m_bAlone && !acDocManagerPtr()->isApplicationContext())
         throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not from within a command: " + words[0].m_strText);
     words.erase(words.begin());
     const CDocumentContext context;

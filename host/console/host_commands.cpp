@@ -32,7 +32,7 @@ constexpr std::array g_arCommands = {
     CHostCommand{"SETVAR", CommandSetVar, "name [value]: shows or sets a system variable"},
     CHostCommand{"MEASURE", CommandMeasure, "style height text: prints the width of the text's extents"},
     CHostCommand{"LOADMODULE", CommandLoadModule, "path: loads a module"},
-    CHostCommand{"UNLOADMODULE", CommandUnloadModule, "path: unloads a module"},
+    CHostCommand{"UNLOADMODULE", CommandUnloadModule, "path: unloads a module", true},
     CHostCommand{"COMMANDS", CommandCommands, "lists the commands of modules: group, name, flags"},
     CHostCommand{"DUMP", CommandDump, "path: writes the drawing as JSON"},
     CHostCommand{"PLOT", CommandPlot, "path: plots to .pdf, .svg or .png"},

@@ -10,8 +10,9 @@
 struct CHostCommand {
     const char* m_pName; ///< upper case
     void (*m_pFunction)(CHost& host);
-    const char* m_pHelp;     ///< its answers and what it does, for --help
-    bool m_bSession = false; ///< changes which drawing is current: not to be run from within another command
+    const char* m_pHelp; ///< its answers and what it does, for --help
+    /// Not to be run from within another command, since that one's drawing or code may go.
+    bool m_bAlone = false;
 };
 
 std::span<const CHostCommand> HostCommands();

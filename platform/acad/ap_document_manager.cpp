@@ -118,6 +118,12 @@ Acad::ErrorStatus AcApDocManager::OpenInPlace(const ACHAR* path) {
     return path && *path ? m_pHost->OpenDocument(path) : Acad::eInvalidInput;
 }
 
+void AcApDocManager::RemoveCodeIn(const std::function<bool(const void*)>& isInside) {
+    std::erase_if(m_arWork, [&isInside](const CWork& work) {
+        return isInside(reinterpret_cast<const void*>(work.m_pFunction));
+    });
+}
+
 void AcApDocManager::Forget(const AcApDocument& document) {
     std::erase_if(m_arSent, [&document](const CSentText& sent) { return sent.m_pDocument == &document; });
 }

@@ -6,6 +6,7 @@
 #include "platform/windows/types.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -83,6 +84,8 @@ public:
     /// Types the next of the texts sent. False when there is none.
     bool TypeNextText();
     Acad::ErrorStatus OpenInPlace(const ACHAR* path); ///< see acedSyncFileOpen
+    /// Drops work whose function is in the code that goes.
+    void RemoveCodeIn(const std::function<bool(const void*)>& isInside);
     /// For a document that closes: what was sent to it goes with it.
     void Forget(const AcApDocument& document);
 

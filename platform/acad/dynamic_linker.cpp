@@ -1,5 +1,6 @@
 #include "platform/acad/dynamic_linker.h"
 
+#include "platform/acad/ap_document_manager.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/editor_reactor.h"
 #include "platform/acad/host_application.h"
@@ -127,6 +128,7 @@ void AcRxDynamicLinker::Close(CModule& module) {
     };
     acedRegCmds->RemoveCodeIn(isInside);
     acedEditor->RemoveReactorsOf(isInside);
+    acDocManagerPtr()->RemoveCodeIn(isInside);
     DeleteClassesOf(isInside);
     dlclose(module.m_pLibrary);
 }

@@ -49,8 +49,8 @@ public:
     /// reason in *pReason (UTF-8) when the file can't be opened, lacks the two entry functions, reports
     /// another API version, refuses the message, or is loaded already.
     bool loadModule(const std::string& utf8Path, std::string* pReason);
-    /// Sends kUnloadAppMsg and closes the file. False when it isn't loaded or is locked. Commands, reactors
-    /// and classes that it leaves behind are withdrawn, since their code goes.
+    /// Sends kUnloadAppMsg and closes the file. False when it isn't loaded or is locked. Commands, reactors,
+    /// classes and deferred work that it leaves behind are withdrawn, since their code goes.
     bool unloadModule(const std::string& utf8Path, std::string* pReason);
     /// Sends a message to every module, in order of loading; what they answer does not matter.
     void SendToAll(AcRx::AppMsgCode message);

@@ -107,6 +107,13 @@ TEST_F(CommandRunner, AfterAFailureNothingDeferredRuns) {
     EXPECT_EQ(result.m_nStatus, 5);
 }
 
+TEST_F(CommandRunner, WorkOfAModuleThatIsGoneIsDropped) {
+    const CProgramResult result =
+        RunDocuments("LATERATUNLOAD\nUNLOADMODULE \"" DOCUMENT_MODULE "\"\nDOCUMENTS\n");
+    EXPECT_EQ(result.m_strOut, "\ndocument context\n1 * Drawing1\n");
+    EXPECT_EQ(result.m_nStatus, 0);
+}
+
 TEST_F(CommandRunner, ABoxAndAPickOfAReactorAreAnsweredByLinesAndTheWordsStayForTheCommand) {
     EXPECT_EQ(RunDocuments("LINE 0,0 10,0\nTELL\nPICK 5,0\nyes\nL\n").m_strOut,
               "\nended TELL\n[Tervo] store?\n"

@@ -119,11 +119,16 @@ void NestUnknownCommand() {
     acutPrintf(L"\nnested %d", acedCommand(RTSTR, L"nosuch", RTNONE));
 }
 
-bool g_bTelling = false;
+bool g_bTelling = false, g_bLaterAtUnload = false;
 
 // Tells what follows: the messages and the ends of commands; and asks before PICK.
 void TellCommand() {
     g_bTelling = true;
+}
+
+// Work that the module's going leaves behind.
+void LaterAtUnloadCommand() {
+    g_bLaterAtUnload = true;
 }
 
 /// Asks before PICK, and on yes picks itself.
@@ -163,6 +168,7 @@ constexpr CCommand g_arCommands[] = {
     {L"NESTCLOSE", NestCloseCommand},
     {L"NESTUNKNOWN", NestUnknownCommand},
     {L"TELL", TellCommand},
+    {L"LATERATUNLOAD", LaterAtUnloadCommand},
 };
 
 void Load(void* pPackage) {
@@ -174,6 +180,7 @@ void Load(void* pPackage) {
 }
 
 void Unload() {
+    if (g_bLaterAtUnload) LaterCommand();
     acedRegCmds->removeGroup(L"DOCUMENTS");
     acedEditor->removeReactor(&g_reactor);
 }

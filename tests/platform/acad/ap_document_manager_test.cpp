@@ -158,6 +158,19 @@ TEST_F(ApDocManager, RunsWhatIsForTheApplicationAtOnceThereAndLaterFromACommand)
     EXPECT_FALSE(m_manager.RunDeferredWork());
 }
 
+TEST_F(ApDocManager, DropsWorkWhoseCodeGoes) {
+    int n = 1;
+    {
+        const CDocumentContext command;
+        m_manager.executeInApplicationContext(AddOneLater, &n);
+        m_manager.executeInApplicationContext(AddOne, &n);
+    }
+    m_manager.RemoveCodeIn(
+        [](const void* pCode) { return pCode == reinterpret_cast<const void*>(AddOneLater); });
+    EXPECT_TRUE(m_manager.RunDeferredWork());
+    EXPECT_EQ(n, 2);
+}
+
 TEST_F(ApDocManager, TextsAreTypedOneByOneAtTheirDocuments) {
     AcApDocument* const pFirst = Add();
     AcApDocument* const pSecond = Add();
