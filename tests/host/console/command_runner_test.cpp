@@ -121,6 +121,16 @@ TEST_F(CommandRunner, ABoxAndAPickOfAReactorAreAnsweredByLinesAndTheWordsStayFor
               "\nmessage 13\nmessage 4\nmessage 8\nmessage 2\n");
 }
 
+TEST_F(CommandRunner, ADialogOfAReactorIsAnsweredByLinesAndTheWordsStayForTheCommand) {
+    const std::string out = RunDocuments("LINE 0,0 10,0\nTELL\nPICKSET L\ncheck 14\nok\n").m_strOut;
+    EXPECT_TRUE(out.starts_with("\nended TELL\n\ndialog closed by 1\nselected 5100 1\nended PICKSET\n"))
+        << out;
+}
+
+TEST_F(CommandRunner, ADialogThatRunsLaterIsAnsweredByTheFollowingLines) {
+    EXPECT_EQ(RunDocuments("LATERDIALOG\n\nSETVAR PLOTDPI\n").m_strOut, "\ndialog closed by 1\n150\n");
+}
+
 TEST_F(CommandRunner, EndedCancelledAndFailedCommandsAreToldApart) {
     const std::string out = RunDocuments("TELL\nREGEN\nERASE\ncancel\nERASE x\n").m_strOut;
     EXPECT_EQ(out.substr(0, out.find("\n\nmessage")),

@@ -9,6 +9,7 @@
 #include "platform/acad/selection.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/message_box.h"
+#include "tests/host/console/test_dialog.h"
 
 #include <fstream>
 #include <iterator>
@@ -103,6 +104,20 @@ void PickSetCommand() {
     acedSSFree(ss);
 }
 
+void RunDialog(void*) {
+    CTestDialog dialog;
+    acutPrintf(L"\ndialog closed by %d", static_cast<int>(dialog.DoModal()));
+}
+
+void DialogCommand() {
+    RunDialog(nullptr);
+}
+
+// A dialog in the application's context.
+void LaterDialogCommand() {
+    acDocManager->executeInApplicationContext(RunDialog, nullptr);
+}
+
 // Runs PICK with what the user gives, goes on with its own answers, and then runs a command with the answers
 // it has.
 void NestCommand() {
@@ -121,7 +136,7 @@ void NestUnknownCommand() {
 
 bool g_bTelling = false, g_bLaterAtUnload = false;
 
-// Tells what follows: the messages and the ends of commands; and asks before PICK.
+// Tells what follows: the messages and the ends of commands; and asks before PICK and PICKSET.
 void TellCommand() {
     g_bTelling = true;
 }
@@ -131,12 +146,14 @@ void LaterAtUnloadCommand() {
     g_bLaterAtUnload = true;
 }
 
-/// Asks before PICK, and on yes picks itself.
+/// Asks before PICK, and on yes picks itself; runs a dialog before PICKSET.
 class CAskingReactor final : public AcEditorReactor {
 public:
     void commandWillStart(const ACHAR* szName) override {
-        if (!g_bTelling || std::wstring(szName) != L"PICK") return;
-        if (MessageBoxA(nullptr, "store?", "Tervo", MB_YESNO) == IDYES) PickCommand();
+        if (!g_bTelling) return;
+        const std::wstring strName = szName;
+        if (strName == L"PICKSET") RunDialog(nullptr);
+        if (strName == L"PICK" && MessageBoxA(nullptr, "store?", "Tervo", MB_YESNO) == IDYES) PickCommand();
     }
     void commandEnded(const ACHAR* szName) override { TellEnd(L"ended", szName); }
     void commandCancelled(const ACHAR* szName) override { TellEnd(L"cancelled", szName); }
@@ -164,6 +181,8 @@ constexpr CCommand g_arCommands[] = {
     {L"CLOSEDOCUMENT", CloseDocumentCommand},
     {L"PICK", PickCommand},
     {L"PICKSET", PickSetCommand},
+    {L"DIALOG", DialogCommand},
+    {L"LATERDIALOG", LaterDialogCommand},
     {L"NEST", NestCommand},
     {L"NESTCLOSE", NestCloseCommand},
     {L"NESTUNKNOWN", NestUnknownCommand},

@@ -58,6 +58,21 @@ TEST_P(ExitStatus, IsThatOfTheFirstFailureWhichOneLineTells) {
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ExitStatus, testing::ValuesIn(g_arEndings));
 
+using DialogStatus = CProgramRun;
+
+TEST_F(DialogStatus, IsThreeWhenTheInputRunsOutAndFiveForWhatIsNoneThere) {
+    CProgramResult result = RunDocuments("DIALOG\ncheck 14\n");
+    EXPECT_EQ(result.m_nStatus, 3);
+    EXPECT_EQ(result.m_strErr, "script:2: the input ran out before an answer that is still needed\n");
+    for (const char* line : {"click 99", "select 10 none-such", "nonsense"}) {
+        result = RunDocuments(std::string("DIALOG\n") + line + "\nok\n");
+        EXPECT_EQ(result.m_nStatus, 5);
+        EXPECT_TRUE(result.m_strErr.starts_with("script:2: dialog 30: ")) << result.m_strErr;
+        EXPECT_EQ(result.m_strOut, "\ndialog closed by 2\n");
+    }
+    EXPECT_EQ(RunDocuments("DIALOG\ncancel\nSETVAR PLOTDPI\n").m_strOut, "\ndialog closed by 2\n150\n");
+}
+
 using UsageStatus = CProgramRun;
 
 TEST_F(UsageStatus, IsTwoForBadUsageAndZeroForHelp) {

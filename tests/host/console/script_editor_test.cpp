@@ -35,6 +35,42 @@ TEST_F(FindFile, AFolderIsNoFile) {
     EXPECT_EQ(Found(), "\nnone\n");
 }
 
+using ScriptPicks = CProgramRun;
+
+TEST_F(ScriptPicks, AnEntityIsPickedByPointLastOrHandle) {
+    EXPECT_EQ(RunDocuments("LINE 0,0 10,0\nPICK\n5,0.5\nPICK\nL\nPICK @1,1\n").m_nStatus, 5);
+    EXPECT_EQ(RunDocuments("LINE 0,0 10,0\nPICK\n5,0.5\nPICK\n L \nPICK @-5,0\n").m_strOut,
+              "\npicked 5100 AcDbLine 5 0.5\n\npicked 5100 AcDbLine 0 0\n\npicked 5100 AcDbLine 5 0\n");
+    const std::string out = RunDocuments("LINE 0,0 10,0\nLIST L\n").m_strOut;
+    const std::string handle = out.substr(0, out.find(' '));
+    EXPECT_EQ(RunDocuments("LINE 0,0 10,0\nPICK " + handle + "\n").m_strOut, "\npicked 5100 AcDbLine 0 0\n");
+}
+
+TEST_F(ScriptPicks, AnEmptyLinePicksNothingAndCancelIsToldApart) {
+    EXPECT_EQ(RunDocuments("PICK\n\nPICK\ncancel\nPICK \"\"\n").m_strOut,
+              "\npicked -5001\n\npicked -5002\n\npicked -5001\n");
+}
+
+TEST_F(ScriptPicks, ABadPickCancelsThePromptAndEndsTheRun) {
+    CProgramResult result = RunDocuments("PICK\n5,5\nSETVAR PLOTDPI\n");
+    EXPECT_EQ(result.m_nStatus, 5);
+    EXPECT_EQ(result.m_strOut, "\npicked -5002\n");
+    EXPECT_EQ(result.m_strErr, "script:2: no entity there: 5,5\n");
+    result = RunDocuments("LINE 0,0 1,0\nPICKSET\nL\nwhat\n\n");
+    EXPECT_EQ(result.m_strOut, "\nselected -5002\n");
+    EXPECT_EQ(result.m_strErr, "script:4: not an entity (#HANDLE, L or a point): what\n");
+}
+
+TEST_F(ScriptPicks, ASelectionIsAPickALineOrOneWord) {
+    const std::string lines = "LINE 0,0 10,0\nLINE 0,20 10,20\n";
+    EXPECT_EQ(RunDocuments(lines + "PICKSET\nL\n5,0\nL\n\n").m_strOut, "\nselected 5100 2\n");
+    EXPECT_EQ(RunDocuments(lines + "PICKSET all\nPICKSET 5,0+5,20+L\nPICKSET L\n").m_strOut,
+              "\nselected 5100 2\n\nselected 5100 2\n\nselected 5100 1\n");
+    EXPECT_EQ(RunDocuments(lines + "PICKSET\n\nPICKSET\nL\ncancel\n").m_strOut,
+              "\nselected -5001\n\nselected -5002\n");
+    EXPECT_EQ(RunDocuments(lines + "PICKSET\nall\n").m_nStatus, 5); // a line is one pick
+}
+
 TEST(ScriptEditor, SeeksBesideTheDrawingBeforeTheRoot) {
     std::string folder = (std::filesystem::temp_directory_path() / "tvcad-test-XXXXXX").string();
     const std::filesystem::path base = mkdtemp(folder.data());
