@@ -3,9 +3,10 @@
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/display_recorder.h"
+#include "platform/acad/display_transform.h"
 #include "platform/acad/free_copy.h"
 #include "platform/acad/plane_transform.h"
-#include "platform/acad/transformed_draw.h"
 
 #include <algorithm>
 
@@ -32,44 +33,18 @@ private:
     bool m_bMarked = false;
 };
 
-/// The colour and line type that a reference is drawn with; a part drawn "by block" takes them.
-class CBlockTraits {
-public:
-    CBlockTraits(const AcDbEntity& reference, const AcDbDatabase* pDatabase, AcGiSubEntityTraits& traits)
-        : m_traits(traits)
-        , m_nColor(traits.color()) {
-        const CDbOpen<AcDbLinetypeTable> table(pDatabase ? pDatabase->linetypeTableId()
-                                                         : AcDbObjectId::kNull);
-        if (table) table->getAt(L"ByLayer", m_idByLayer);
-        m_idLinetype = reference.linetypeId();
-        Set(m_nColor, m_idLinetype);
-    }
-    ~CBlockTraits() { Set(m_nColor, m_idLinetype); }
-    CBlockTraits(const CBlockTraits&) = delete;
-    CBlockTraits& operator=(const CBlockTraits&) = delete;
-
-    void Begin(const AcDbEntity& part) {
-        const bool bByBlock = part.LinetypeName() == "ByBlock";
-        Set(part.colorIndex() == 0 ? m_nColor : part.colorIndex(),
-            bByBlock ? m_idLinetype : part.linetypeId());
-    }
-
-private:
-    void Set(Adesk::UInt16 nColor, AcDbObjectId idLinetype) {
-        m_traits.setColor(nColor);
-        m_traits.setLineType(idLinetype.isNull() ? m_idByLayer : idLinetype);
-    }
-
-    AcGiSubEntityTraits& m_traits;
-    Adesk::UInt16 m_nColor;
-    AcDbObjectId m_idLinetype, m_idByLayer;
-};
-
-void Draw(AcDbObjectId idPart, CBlockTraits& traits, AcGiWorldDraw& mode) {
+/// What a part shows, drawn as the reference draws it: what is "by block" has the reference's traits.
+CDisplayList PictureOfPart(AcDbObjectId idPart, const AcDbEntity& reference, bool bDragging) {
     const CDbOpen<AcDbEntity> part(idPart);
-    if (!part) return;
-    traits.Begin(*part.Get());
-    part->worldDraw(&mode);
+    if (!part) return {};
+    CDisplayRecorder recorder(*part.Get(), bDragging);
+    part->worldDraw(&recorder);
+    CDisplayList list = recorder.Take();
+    for (CPrimitive& primitive : list) {
+        if (primitive.m_nColor == g_nColorByBlock) primitive.m_nColor = reference.colorIndex();
+        if (primitive.m_strLinetype == "ByBlock") primitive.m_strLinetype = reference.LinetypeName();
+    }
+    return list;
 }
 
 void AddExtents(AcDbObjectId idPart, const AcGeMatrix3d& xform, AcDbExtents& box) {
@@ -107,14 +82,12 @@ std::vector<AcDbObjectId> AcDbBlockReference::ShownIds() const {
 
 Adesk::Boolean AcDbBlockReference::subWorldDraw(AcGiWorldDraw* pMode) {
     assertReadEnabled();
-    CBlockTraits traits(*this, m_idBlock.database(), pMode->subEntityTraits());
-    if (const CBlockWalk walk(m_idBlock); walk) {
-        CTransformedDraw inner(*pMode, blockTransform());
+    if (const CBlockWalk walk(m_idBlock); walk)
         for (const AcDbObjectId& id : ShownIds())
-            Draw(id, traits, inner);
-    }
+            pMode->rawGeometry()->Picture(
+                Transformed(PictureOfPart(id, *this, pMode->isDragging()), blockTransform()));
     for (const AcDbObjectId& id : AttributeIds())
-        Draw(id, traits, *pMode);
+        pMode->rawGeometry()->Picture(PictureOfPart(id, *this, pMode->isDragging()));
     return Adesk::kTrue;
 }
 

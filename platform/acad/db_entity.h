@@ -21,6 +21,7 @@ protected:
     virtual Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) = 0;
 };
 
+inline constexpr Adesk::UInt16 g_nColorByBlock = 0;
 inline constexpr Adesk::UInt16 g_nColorByLayer = 256;
 
 /// An entity: an object that has a place in a block, a layer, a colour, a line type, and a picture.

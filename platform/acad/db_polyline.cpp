@@ -1,7 +1,7 @@
 #include "platform/acad/db_polyline.h"
 
 #include "platform/acad/db_filer.h"
-#include "platform/acad/plane_transform.h"
+#include "platform/acad/display_transform.h"
 #include "platform/acad/rx_class.h"
 
 ACRX_DEFINE_MEMBERS(AcDbPolyline, AcDbEntity, L"LWPOLYLINE")
@@ -135,12 +135,6 @@ Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& xform) {
     assertWriteEnabled();
     const std::optional<CPlaneTransform> plane = PlaneTransform(xform);
     if (!plane) return Acad::eNotApplicable;
-    for (CPolylineVertex& vertex : m_arVertices) {
-        const AcGePoint3d moved = AcGePoint3d(vertex.m_pt.x, vertex.m_pt.y, 0.0).transformBy(xform);
-        vertex.m_pt.set(moved.x, moved.y);
-        if (plane->m_bMirrored) vertex.m_dBulge = -vertex.m_dBulge;
-        if (vertex.m_dStartWidth > 0.0) vertex.m_dStartWidth *= plane->m_dScale;
-        if (vertex.m_dEndWidth > 0.0) vertex.m_dEndWidth *= plane->m_dScale;
-    }
+    TransformVertices(m_arVertices, xform, *plane);
     return Acad::eOk;
 }

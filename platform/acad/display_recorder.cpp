@@ -33,7 +33,15 @@ Adesk::Boolean CDisplayRecorder::polyline(Adesk::UInt32 nbPoints, const AcGePoin
 
 Adesk::Boolean CDisplayRecorder::pline(const AcDbPolyline& polyline, Adesk::UInt32 fromIndex,
                                        Adesk::UInt32 numSegs) {
-    return Add(PlineShape(polyline, fromIndex, numSegs));
+    const std::vector<CPolylineVertex>& all = polyline.Vertices();
+    if (fromIndex == 0 && numSegs == 0) return Add(CPlinePrimitive{all, polyline.isClosed()});
+    CPlinePrimitive shape; // a part is open; on a closed polyline it may run over the first vertex
+    const std::size_t count = all.size();
+    const std::size_t last = polyline.isClosed() ? count : std::max<std::size_t>(count, 1) - 1;
+    const std::size_t end = numSegs ? std::min<std::size_t>(last, std::size_t{fromIndex} + numSegs) : last;
+    for (std::size_t i = fromIndex; i <= end && i - fromIndex <= count && count; ++i)
+        shape.m_arVertices.push_back(all[i % count]);
+    return Add(std::move(shape));
 }
 
 Adesk::Boolean CDisplayRecorder::circularArc(const AcGePoint3d& center, double radius,
@@ -72,18 +80,6 @@ Adesk::Boolean CDisplayRecorder::Picture(const CDisplayList& list) {
 void CDisplayRecorder::setLineType(AcDbObjectId idLinetype) {
     // The name at once: the id may belong to a temporary drawing that is gone when the list is read.
     m_traits.m_strLinetype = SymbolName(idLinetype);
-}
-
-CPlinePrimitive PlineShape(const AcDbPolyline& polyline, Adesk::UInt32 fromIndex, Adesk::UInt32 numSegs) {
-    const std::vector<CPolylineVertex>& all = polyline.Vertices();
-    if (fromIndex == 0 && numSegs == 0) return {all, polyline.isClosed()};
-    CPlinePrimitive shape; // a part is open; on a closed polyline it may run over the first vertex
-    const std::size_t count = all.size();
-    const std::size_t last = polyline.isClosed() ? count : std::max<std::size_t>(count, 1) - 1;
-    const std::size_t end = numSegs ? std::min<std::size_t>(last, std::size_t{fromIndex} + numSegs) : last;
-    for (std::size_t i = fromIndex; i <= end && i - fromIndex <= count && count; ++i)
-        shape.m_arVertices.push_back(all[i % count]);
-    return shape;
 }
 
 CDisplayList DrawEntity(AcDbEntity& entity, bool bDragging) {

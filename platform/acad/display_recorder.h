@@ -37,8 +37,5 @@ private:
     CDisplayList m_list;
 };
 
-/// What AcGiGeometry::pline shows of a polyline.
-CPlinePrimitive PlineShape(const AcDbPolyline& polyline, Adesk::UInt32 fromIndex, Adesk::UInt32 numSegs);
-
 /// Draws the entity once, keeps the result as its picture unless it is a drag, and returns it.
 CDisplayList DrawEntity(AcDbEntity& entity, bool bDragging = false);
