@@ -3,6 +3,7 @@
 #include "host/console/dump_primitives.h"
 #include "host/console/texts.h"
 #include "platform/acad/db_arc.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/db_line.h"
 #include "platform/acad/db_polyline.h"
@@ -34,6 +35,25 @@ void AddText(const AcDbText& text, CJson* json) {
     (*json)["verticalMode"] = static_cast<int>(text.verticalMode());
     (*json)["alignment"] = JsonPoint(text.alignmentPoint());
     (*json)["extents"] = JsonExtents(text);
+}
+
+void AddAttribute(const CAttributeText& attribute, CJson* json) {
+    (*json)["tag"] = Utf8FromWide(attribute.tag());
+    (*json)["fieldLength"] = attribute.fieldLength();
+    (*json)["constant"] = attribute.isConstant();
+}
+
+void AddBlockReference(const AcDbBlockReference& reference, CJson* json) {
+    const AcGeScale3d scale = reference.scaleFactors();
+    (*json)["block"] = JsonText(SymbolName(reference.blockTableRecord()));
+    (*json)["position"] = JsonPoint(reference.position());
+    (*json)["rotation"] = JsonNumber(reference.rotation());
+    (*json)["scale"] = JsonPoint(AcGePoint3d(scale.sx, scale.sy, scale.sz));
+    CJson list = CJson::array();
+    for (const AcDbObjectId& id : reference.AttributeIds())
+        if (const CDbOpen<AcDbAttribute> attribute(id); attribute)
+            list.push_back(JsonEntity(*attribute.Get()));
+    (*json)["attributes"] = std::move(list);
 }
 
 void AddPolyline(const AcDbPolyline& polyline, CJson* json) {
@@ -114,6 +134,11 @@ CJson JsonGrips(const AcDbEntity& entity) {
 
 void AddClass(const AcDbEntity& entity, CJson* json) {
     if (const auto* const pText = AcDbText::cast(&entity)) AddText(*pText, json);
+    if (const auto* const pDefinition = AcDbAttributeDefinition::cast(&entity))
+        AddAttribute(*pDefinition, json);
+    if (const auto* const pAttribute = AcDbAttribute::cast(&entity)) AddAttribute(*pAttribute, json);
+    if (const auto* const pReference = AcDbBlockReference::cast(&entity))
+        AddBlockReference(*pReference, json);
     if (const auto* const pPolyline = AcDbPolyline::cast(&entity)) AddPolyline(*pPolyline, json);
     if (const auto* const pSpline = AcDbSpline::cast(&entity)) AddSpline(*pSpline, json);
     if (const auto* const pLine = AcDbLine::cast(&entity)) AddLine(*pLine, json);

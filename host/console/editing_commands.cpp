@@ -1,10 +1,9 @@
-// Commands that change entities whatever their class: moves, copies, undo.
+// Commands that change entities whatever their class: moves, copies, explosions, undo.
 
+#include "host/console/append_entity.h"
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
 #include "host/console/texts.h"
-#include "platform/acad/memory_filer.h"
-#include "platform/acad/rx_class.h"
 
 #include <memory>
 #include <numbers>
@@ -23,33 +22,48 @@ bool Transform(const CHost& host, AcDbObjectId id, const AcGeMatrix3d& matrix, c
     return status == Acad::eOk;
 }
 
-/// A copy in the same block, made by the entity's own record; null, after a word to the user, where there can
-/// be none.
-AcDbObjectId Copy(const CHost& host, AcDbObjectId id) {
-    AcDbObjectId idCopy, idBlock;
-    std::unique_ptr<AcDbEntity> pCopy;
-    {
-        const CDbOpen<AcDbEntity> source(id);
-        if (source) {
-            const CDbRecord record = RecordOf(*source.Get(), AcDb::kCopyFiler);
-            pCopy.reset(static_cast<AcDbEntity*>(source->NewOfSameClass().release()));
-            CRecordReader reader(AcDb::kCopyFiler, record);
-            if (pCopy && pCopy->dwgIn(&reader) != Acad::eOk) pCopy.reset();
-            idBlock = source->ownerId();
+/// Copies in model space, in the order of the originals; those of which there can be none are left out, after
+/// a word to the user.
+std::vector<AcDbObjectId> Copies(const CHost& host, const std::vector<AcDbObjectId>& ids) {
+    AcDbDatabase& drawing = host.Drawing();
+    AcDbObjectIdArray originals;
+    for (const AcDbObjectId& id : ids)
+        originals.append(id);
+    AcDbIdMapping mapping;
+    drawing.deepCloneObjects(originals, drawing.ModelSpaceId(), mapping); // the mapping tells what came of it
+    std::vector<AcDbObjectId> arCopies;
+    for (const AcDbObjectId& id : ids) {
+        AcDbIdPair pair(id);
+        if (mapping.compute(pair) && !pair.value().isErased()) {
+            arCopies.push_back(pair.value());
+        } else {
+            Tell(host, "copy", id, Acad::eNotApplicable);
         }
     }
-    const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
-    if (!pCopy || !block || block->appendAcDbEntity(idCopy, pCopy.get()) != Acad::eOk) {
-        Tell(host, "copy", id, Acad::eNotApplicable);
-        return AcDbObjectId::kNull;
-    }
-    pCopy.release()->close();
-    return idCopy;
+    return arCopies;
 }
 
 void Erase(AcDbObjectId id) {
     const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
     if (entity) entity->erase();
+}
+
+/// Puts the parts of an entity in its place; a part without a layer has the entity's.
+void Explode(const CHost& host, AcDbObjectId id) {
+    std::vector<std::unique_ptr<AcDbEntity>> arParts;
+    {
+        const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
+        AcDbVoidPtrArray parts;
+        const Acad::ErrorStatus status = entity ? entity->explode(parts) : entity.Status();
+        for (void* const pPart : parts) // the caller's, also when a part failed
+            arParts.emplace_back(static_cast<AcDbEntity*>(pPart));
+        if (status != Acad::eOk) return Tell(host, "explode", id, status);
+        for (const std::unique_ptr<AcDbEntity>& pPart : arParts)
+            if (pPart->layerId().isNull()) pPart->setLayer(entity->layerId());
+        entity->erase();
+    }
+    for (std::unique_ptr<AcDbEntity>& pPart : arParts)
+        AppendToModelSpace(host, std::move(pPart));
 }
 
 /// What most of these commands ask for first.
@@ -89,9 +103,8 @@ void CommandMove(CHost& host) {
 void CommandCopy(CHost& host) {
     const CSelection selection(host);
     const AcGeMatrix3d shift = AskShift(host, selection.m_ptBase);
-    for (const AcDbObjectId& id : selection.m_arIds)
-        if (const AcDbObjectId idCopy = Copy(host, id); !idCopy.isNull())
-            Transform(host, idCopy, shift, "move");
+    for (const AcDbObjectId& id : Copies(host, selection.m_arIds))
+        Transform(host, id, shift, "move");
 }
 
 void CommandRotate(CHost& host) {
@@ -123,10 +136,16 @@ void CommandMirror(CHost& host) {
     const AcGeVector3d along = second - first;
     if (along.isZeroLength()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a mirror line has two points");
     const AcGeMatrix3d mirror = AcGeMatrix3d::mirroring(first, AcGeVector3d(-along.y, along.x, 0.0).normal());
-    for (const AcDbObjectId& id : ids) {
-        const AcDbObjectId idImage = strKeep == "keep" ? Copy(host, id) : id;
-        if (!idImage.isNull() && !Transform(host, idImage, mirror, "mirror") && idImage != id) Erase(idImage);
-    }
+    const bool bKeep = strKeep == "keep";
+    for (const AcDbObjectId& id : bKeep ? Copies(host, ids) : ids)
+        if (!Transform(host, id, mirror, "mirror") && bKeep) Erase(id);
+}
+
+void CommandExplode(CHost& host) {
+    const std::vector<AcDbObjectId> ids = host.m_input.Selection(host.Drawing(), "Select entities: ");
+    host.m_input.End();
+    for (const AcDbObjectId& id : ids)
+        Explode(host, id);
 }
 
 void CommandUndo(CHost& host) {

@@ -33,6 +33,7 @@ void CommandLine(CHost& host);
 void CommandPline(CHost& host);
 void CommandArc(CHost& host);
 void CommandText(CHost& host);
+void CommandInsert(CHost& host);
 // add_entity_command.cpp
 void CommandAddEntity(CHost& host);
 // editing_commands.cpp
@@ -41,6 +42,7 @@ void CommandCopy(CHost& host);
 void CommandRotate(CHost& host);
 void CommandScale(CHost& host);
 void CommandMirror(CHost& host);
+void CommandExplode(CHost& host);
 void CommandUndo(CHost& host);
 void CommandRedo(CHost& host);
 // view_commands.cpp

@@ -4,6 +4,7 @@
 #include "host/console/host_commands.h"
 #include "host/console/texts.h"
 #include "platform/acad/db_arc.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_line.h"
 #include "platform/acad/db_polyline.h"
 #include "platform/acad/db_text.h"
@@ -21,6 +22,32 @@ double PositiveNumber(CHost& host, const std::string& strPrompt, const std::stri
 
 double Radians(double dDegrees) {
     return dDegrees * std::numbers::pi / 180.0;
+}
+
+AcDbObjectId AskBlock(CHost& host) {
+    const std::string strName = host.m_input.Text("Block name: ");
+    const CDbOpen<AcDbBlockTable> table(host.Drawing().blockTableId());
+    AcDbObjectId id;
+    if (!table || table->getAt(WideAnswer(strName).c_str(), id) != Acad::eOk)
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such block: " + strName);
+    if (id == host.Drawing().ModelSpaceId())
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "model space cannot stand in itself");
+    return id;
+}
+
+/// Gives the reference an attribute, with the text that the definition proposes, for each variable definition
+/// of its block.
+void AddAttributes(AcDbObjectId idReference) {
+    const CDbOpen<AcDbBlockReference> reference(idReference, AcDb::kForWrite);
+    const CDbOpen<AcDbBlockTableRecord> block(reference->blockTableRecord());
+    for (const AcDbObjectId& id : block->EntityIds()) {
+        const CDbOpen<AcDbAttributeDefinition> definition(id);
+        if (!definition || definition->isConstant()) continue;
+        auto pAttribute = std::make_unique<AcDbAttribute>();
+        pAttribute->setPropertiesFrom(definition.Get());
+        pAttribute->setAttributeFromBlock(definition.Get(), reference->blockTransform());
+        if (reference->appendAttribute(pAttribute.get()) == Acad::eOk) pAttribute.release()->close();
+    }
 }
 
 } // namespace
@@ -57,4 +84,11 @@ void CommandText(CHost& host) {
     host.m_input.End();
     AppendToModelSpace(host, std::make_unique<AcDbText>(position, WideAnswer(strText).c_str(),
                                                         host.Drawing().textstyle(), dHeight));
+}
+
+void CommandInsert(CHost& host) {
+    const AcDbObjectId idBlock = AskBlock(host);
+    const AcGePoint3d position = host.m_input.Point("Insertion point: ");
+    host.m_input.End();
+    AddAttributes(AppendToModelSpace(host, std::make_unique<AcDbBlockReference>(position, idBlock)));
 }

@@ -64,6 +64,25 @@ TEST_F(Dump, APolylineAndATextHaveTheirMembersInOrder) {
     EXPECT_EQ(text["extents"][1][1], 205.0);
 }
 
+TEST_F(Dump, ABlockItsReferencesAndTheirAttributesHaveTheirMembersInOrder) {
+    const CKeys common = {"handle", "class", "dxfName", "layer", "color", "linetype", "xdata"};
+    const CKeys text = {"position", "text",  "height",         "rotation",     "widthFactor",
+                        "oblique",  "style", "horizontalMode", "verticalMode", "alignment",
+                        "extents",  "tag",   "fieldLength",    "constant"};
+    CKeys attribute = common, reference = common;
+    attribute.insert(attribute.end(), text.begin(), text.end());
+    for (const char* const szKey : {"block", "position", "rotation", "scale", "attributes"})
+        reference.emplace_back(szKey);
+    const CJsonValue json = DumpAfter("FRAME\nINSERT FRAME 1,2");
+    ASSERT_EQ(json["blocks"].size(), 1U);
+    EXPECT_EQ(KeysOf(json["blocks"][0]), (CKeys{"name", "base", "entities"}));
+    EXPECT_EQ(json["blocks"][0]["name"], "FRAME");
+    EXPECT_EQ(KeysOf(json["blocks"][0]["entities"][1]), attribute);
+    EXPECT_EQ(json["blocks"][0]["entities"][1]["class"], "AcDbAttributeDefinition");
+    EXPECT_EQ(KeysOf(json["modelSpace"][0]), reference);
+    EXPECT_EQ(KeysOf(json["modelSpace"][0]["attributes"][0]), attribute);
+}
+
 TEST_F(Dump, FieldsStandInDeclaredOrderWithTheirKinds) {
     const CJsonValue json = DumpAfter("SHEET 1,2,3");
     const CJsonValue& sheet = json["modelSpace"][0];

@@ -1,4 +1,4 @@
-// LINE, PLINE, ARC and TEXT in real runs.
+// LINE, PLINE, ARC, TEXT and INSERT in real runs.
 
 #include "tests/host/console/program_run.h"
 
@@ -61,4 +61,35 @@ TEST_F(MakingCommands, RefuseWhatIsNoPointAndWordsTooMany) {
     EXPECT_EQ(RunScript("LINE 1,2 3,4 5,6\n").m_nStatus, 5);
     EXPECT_EQ(RunScript("LINE 1,2\n").m_nStatus, 3);
     EXPECT_EQ(RunScript("LINE 1,2\ncancel\nLIST L\n").m_strErr, "script:3: no entity there: L\n");
+}
+
+TEST_F(MakingCommands, InsertShowsABlockAtAPointWithItsAttributes) {
+    const CJson entities = Entities("FRAME\nINSERT frame 100,50\n");
+    ASSERT_EQ(entities.size(), 1U);
+    const CJson& reference = entities[0];
+    EXPECT_EQ(reference["class"], "AcDbBlockReference");
+    EXPECT_EQ(reference["dxfName"], "INSERT");
+    EXPECT_EQ(reference["block"], "FRAME");
+    EXPECT_EQ(reference["position"], CJson::array({100.0, 50.0, 0.0}));
+    EXPECT_EQ(reference["rotation"], 0.0);
+    EXPECT_EQ(reference["scale"], CJson::array({1.0, 1.0, 1.0}));
+    ASSERT_EQ(reference["attributes"].size(), 1U);
+    const CJson& attribute = reference["attributes"][0];
+    EXPECT_EQ(attribute["class"], "AcDbAttribute");
+    EXPECT_EQ(attribute["text"], ToUtf8("未填"));
+    EXPECT_EQ(attribute["position"], CJson::array({110.0, 55.0, 0.0}));
+    EXPECT_EQ(attribute["tag"], ToUtf8("图号"));
+    EXPECT_EQ(attribute["fieldLength"], 25);
+    EXPECT_EQ(attribute["constant"], false);
+}
+
+TEST_F(MakingCommands, InsertRefusesABlockThatIsNotThereAndModelSpace) {
+    EXPECT_EQ(RunScript("INSERT FRAME 0,0\n").m_strErr, "script:1: no such block: FRAME\n");
+    EXPECT_EQ(RunScript("INSERT *Model_Space 0,0\n").m_nStatus, 5);
+    EXPECT_EQ(RunScript("FRAME\nINSERT FRAME 0,0 1\n").m_nStatus, 5);
+}
+
+TEST_F(MakingCommands, AnInsertedBlockIsPickedByWhatItShows) {
+    EXPECT_EQ(RunScript("FRAME\nINSERT FRAME 100,50\nLIST 110,50.5\nLIST 111,56\n").m_nStatus, 0);
+    EXPECT_EQ(RunScript("FRAME\nINSERT FRAME 100,50\nLIST 10,0\n").m_nStatus, 5);
 }

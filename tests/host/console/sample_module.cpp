@@ -1,6 +1,7 @@
 // A loadable module for running real scripts: commands that ask and draw, and a reactor that asks too.
 
 #include "platform/acad/command_stack.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_polyline.h"
 #include "platform/acad/db_text.h"
 #include "platform/acad/dynamic_linker.h"
@@ -64,6 +65,27 @@ void LinesCommand() {
     Append(new AcDbText(AcGePoint3d(0.0, 200.0, 0.0), L"固结", AcDbObjectId::kNull, 5.0));
 }
 
+/// Makes the block FRAME: a line, and an attribute definition in its middle.
+void FrameCommand() {
+    AcDbBlockTable* pTable = nullptr;
+    acdbHostApplicationServices()->workingDatabase()->getBlockTable(pTable, AcDb::kForWrite);
+    auto* const pBlock = new AcDbBlockTableRecord;
+    pBlock->setName(L"FRAME");
+    pTable->add(pBlock);
+    pTable->close();
+    auto* const pLine = new AcDbPolyline;
+    pLine->addVertexAt(0, AcGePoint2d(0.0, 0.0));
+    pLine->addVertexAt(1, AcGePoint2d(20.0, 0.0));
+    auto* const pDefinition = new AcDbAttributeDefinition({10.0, 5.0, 0.0}, L"未填", L"图号", L"图号?");
+    pDefinition->setHeight(2.5);
+    pDefinition->setFieldLength(25);
+    for (AcDbEntity* const pEntity : std::initializer_list<AcDbEntity*>{pLine, pDefinition}) {
+        pBlock->appendAcDbEntity(pEntity);
+        pEntity->close();
+    }
+    pBlock->close();
+}
+
 void BoxesCommand() {
     acutPrintf(L"begun");
     MessageBoxA(nullptr, "第一行\r\n第二行", "Tervo", MB_OK | MB_ICONINFORMATION);
@@ -116,6 +138,7 @@ void Load(void* pPackage) {
     stack.addCommand(L"SAMPLE", L"SHEET", L"SHEET", ACRX_CMD_MODAL, SheetCommand);
     stack.addCommand(L"SAMPLE", L"BROKEN", L"BROKEN", ACRX_CMD_TRANSPARENT, BrokenSheetCommand);
     stack.addCommand(L"SAMPLE", L"LINES", L"LINES", ACRX_CMD_MODAL, LinesCommand);
+    stack.addCommand(L"SAMPLE", L"FRAME", L"FRAME", ACRX_CMD_MODAL, FrameCommand);
     stack.addCommand(L"SAMPLE", L"BOXES", L"BOXES", ACRX_CMD_MODAL, BoxesCommand);
     stack.addCommand(L"SAMPLE", L"FIND", L"FIND", ACRX_CMD_MODAL, FindCommand);
     stack.addCommand(L"SAMPLE", L"TELL", L"TELL", ACRX_CMD_MODAL, TellCommand);
