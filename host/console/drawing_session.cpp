@@ -31,16 +31,10 @@ void AskToSave(CHost& host, AcApDocument& document) {
     }
 }
 
-/// Before a drawing is made or opened: in single-document mode the current one gives way.
-AcApDocument* GivingWay(CHost& host) {
+/// In single-document mode the current drawing gives way.
+void Add(CHost& host, std::unique_ptr<AcDbDatabase> pDatabase) {
     AcApDocument* const pCurrent = host.m_drawings.CurrentDocument();
-    if (!pCurrent || !IsSingleDocument()) return nullptr;
-    AskToSave(host, *pCurrent);
-    return pCurrent;
-}
-
-void Add(CHost& host, AcApDocument* pGivingWay, std::unique_ptr<AcDbDatabase> pDatabase) {
-    if (pGivingWay) host.m_drawings.Close(*pGivingWay);
+    if (pCurrent && IsSingleDocument()) CloseDrawing(host, *pCurrent);
     host.m_drawings.Add(std::move(pDatabase));
     host.m_input.ForgetLastPoint();
 }
@@ -48,16 +42,14 @@ void Add(CHost& host, AcApDocument* pGivingWay, std::unique_ptr<AcDbDatabase> pD
 } // namespace
 
 void NewDrawing(CHost& host) {
-    AcApDocument* const pGivingWay = GivingWay(host);
-    Add(host, pGivingWay, std::make_unique<AcDbDatabase>());
+    Add(host, std::make_unique<AcDbDatabase>());
 }
 
 Acad::ErrorStatus OpenDrawing(CHost& host, const std::string& strPath) {
     auto pDatabase = std::make_unique<AcDbDatabase>();
     const Acad::ErrorStatus status = ReadDrawingFile(strPath, *pDatabase);
     if (status != Acad::eOk) return status;
-    AcApDocument* const pGivingWay = GivingWay(host);
-    Add(host, pGivingWay, std::move(pDatabase));
+    Add(host, std::move(pDatabase));
     return Acad::eOk;
 }
 
