@@ -17,6 +17,7 @@ public:
     void commandWillStart(const ACHAR* name) override { g_told.push_back(m_strMark + L">" + name); }
     void commandEnded(const ACHAR* name) override { g_told.push_back(m_strMark + L"." + name); }
     void commandCancelled(const ACHAR* name) override { g_told.push_back(m_strMark + L"!" + name); }
+    void commandFailed(const ACHAR* name) override { g_told.push_back(m_strMark + L"x" + name); }
 
 private:
     std::wstring m_strMark;
@@ -53,7 +54,8 @@ TEST(AcEditor, TellsReactorsInOrderTheNameInUpperCase) {
     editor.removeReactor(&first);
     editor.FireCommandEnded(L"REGEN");
     editor.FireCommandCancelled(L"LINE");
-    EXPECT_EQ(g_told, (std::vector<std::wstring>{L"a>REGEN", L"b>REGEN", L"b.REGEN", L"b!LINE"}));
+    editor.FireCommandFailed(L"ARC");
+    EXPECT_EQ(g_told, (std::vector<std::wstring>{L"a>REGEN", L"b>REGEN", L"b.REGEN", L"b!LINE", L"bxARC"}));
 }
 
 TEST(AcEditor, SurvivesReactorsThatAreRemovedWhileReactorsAreTold) {
