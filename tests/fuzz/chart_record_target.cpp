@@ -1,0 +1,6 @@
+#include "chart/chart_entity.h"
+#include "tests/fuzz/record_target.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize) {
+    return ReadRecord<CBRENChart>({pData, nSize});
+}

@@ -1,0 +1,90 @@
+// Writes the corpus of the record targets anew: fuzz_make_corpus FOLDER. It is committed; a record that has
+// changed needs new ones.
+
+#include "chart/chart_entity.h"
+#include "frame/frame_entity.h"
+#include "platform/acad/host_application.h"
+#include "platform/acad/result_buffer.h"
+#include "tests/fuzz/record_input.h"
+#include "tests/support/readings.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+class CCorpus {
+public:
+    explicit CCorpus(std::filesystem::path folder)
+        : m_folder(std::move(folder)) {
+        std::filesystem::create_directories(m_folder);
+    }
+    void Add(const std::string& strName, const AcDbObject& object, AcDb::FilerType type) {
+        const CInput bytes = m_inputs.Encode({type, RecordOf(object, type)});
+        std::ofstream(m_folder / strName, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    }
+    AcDbDatabase& Drawing() { return m_inputs.Drawing(); }
+
+private:
+    std::filesystem::path m_folder;
+    CRecordInputs m_inputs;
+};
+
+void Compute(CBRENChart& chart, const std::string& strSet) {
+    chart.m_strSYFF = MethodOf(strSet);
+    chart.m_strZKBH = "ZK1";
+    chart.m_strSoilName = "粉质黏土";
+    CReduction reduction(chart);
+    for (const CTestReading& reading : ReadingsOf(strSet))
+        reduction.AddReading(reading);
+    reduction.Finish();
+    chart.m_saCells.Add("固结不排水剪");
+    chart.m_saCellsEff.Add("");
+}
+
+void AddCharts(CCorpus& corpus) {
+    corpus.Add("empty", CBRENChart(), AcDb::kFileFiler);
+    CBRENChart single, effective;
+    Compute(single, "uu-ring-single");
+    corpus.Add("single", single, AcDb::kCopyFiler);
+    Compute(effective, "smith-ex3.4");
+    effective.m_idTextStyle = corpus.Drawing().textstyle();
+    effective.setLayer(corpus.Drawing().clayer());
+    corpus.Add("computed", effective, AcDb::kUndoFiler);
+    corpus.Add("computed-file", effective, AcDb::kFileFiler);
+}
+
+void AddFrames(CCorpus& corpus) {
+    corpus.Add("empty", CBRENFrame(), AcDb::kFileFiler);
+    CBRENFrame frame;
+    frame.m_ptBase.set(10.0, 297.0, 0.0);
+    frame.m_nGCSY = 1;
+    frame.m_strGCMC = "地铁三号线勘察";
+    frame.m_strZKBH = "ZK1";
+    frame.m_sSYZ = std::string(99, 'x').c_str();
+    frame.m_bRQ = frame.m_bSYZ = 1;
+    frame.m_nYear = 2024;
+    frame.m_idTextStyle = frame.m_idBannerStyle = corpus.Drawing().textstyle();
+    corpus.Add("filled", frame, AcDb::kCopyFiler);
+    const CResbufChain chain(acutBuildList(1001, L"ACAD", 1000, L"图框", 1040, 2.5, 1071, 7, RTNONE));
+    frame.setXData(chain.Get());
+    corpus.Add("with-data", frame, AcDb::kUndoFiler);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: fuzz_make_corpus FOLDER\n";
+        return 2;
+    }
+    const std::filesystem::path folder = argv[1];
+    CCorpus charts(folder / "chart"), frames(folder / "frame");
+    acdbHostApplicationServices()->setWorkingDatabase(&frames.Drawing());
+    AddCharts(charts);
+    AddFrames(frames);
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    return 0;
+}
