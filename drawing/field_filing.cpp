@@ -43,15 +43,14 @@ void CFieldWriter::operator()(const CStringArray& texts, CFiling filing) const {
 void CFieldReader::operator()(CString& field, CFiling) const {
     ACHAR* text = nullptr;
     m_pFiler->readString(&text);
-    field.Format("%s", GbkFromWide(text).c_str());
+    field = GbkFromWide(text).c_str();
     acutDelString(text);
 }
 
 void CFieldReader::Append(AcArray<double>& values, Adesk::Int32 nCount) const {
     for (Adesk::Int32 i = 0; i < nCount; ++i) {
         double value = 0.0;
-        m_pFiler->readDouble(&value);
-        if (!Gives()) return;
+        if (m_pFiler->readDouble(&value) != Acad::eOk) return;
         values.append(value);
     }
 }

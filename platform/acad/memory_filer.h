@@ -26,7 +26,9 @@ struct CDbRecord {
 class CRecordWriter final : public AcDbDwgFiler {
 public:
     explicit CRecordWriter(AcDb::FilerType type)
-        : m_type(type) {}
+        : m_type(type) {
+        m_record.m_arBytes.reserve(g_nUsualBytes);
+    }
     CDbRecord Take() { return std::move(m_record); }
 
     AcDb::FilerType filerType() const override { return m_type; }
@@ -77,6 +79,8 @@ public:
     Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return Refuse(pId); }
 
 private:
+    static constexpr std::size_t g_nUsualBytes = 256; ///< most records are written without growing
+
     template <class T>
     Acad::ErrorStatus Put(const T& value) {
         return writeBytes(&value, sizeof value);

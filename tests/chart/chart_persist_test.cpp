@@ -132,9 +132,9 @@ TEST(ChartRecord, TakesTheSecondOfTheTwoGreatestStresses) {
     CRecordWriter writer(AcDb::kCopyFiler);
     chart.dwgOut(&writer);
     CDbRecord record = writer.Take();
-    // The second one lies before the flag (4 bytes) and the reference (4 bytes).
+    // The second one lies before the flag (4 bytes), which is the last: references stand apart.
     const double dSecond = 450.0;
-    std::memcpy(record.m_arBytes.data() + record.m_arBytes.size() - 16, &dSecond, sizeof dSecond);
+    std::memcpy(record.m_arBytes.data() + record.m_arBytes.size() - 12, &dSecond, sizeof dSecond);
     CBRENChart copy;
     Read(copy, record);
     EXPECT_EQ(copy.m_dMaxSigma1, 450.0);

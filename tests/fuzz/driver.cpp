@@ -26,7 +26,8 @@ __sanitizer_set_death_callback(void (*pCallback)()); // NOLINT(bugprone-reserved
 
 namespace {
 
-constexpr int g_nLimitSeconds = 5; // of one input, under the sanitizers too
+constexpr int g_nLimitSeconds = 5;              // of one input, under the sanitizers too
+constexpr std::size_t g_nKeptBytes = 1U << 24U; // for tables that are made by the first inputs and stay
 constexpr std::size_t g_nFreeBytes = 1U << 16U;
 constexpr std::size_t g_nBytesPerInputByte = 64;
 constexpr int g_nFault = 1;
@@ -97,18 +98,15 @@ void WatchForFaults() {
     setitimer(ITIMER_REAL, &tick, nullptr);
 }
 
-void RunOne(const CInput& input) {
+/// nKept is what the target may hold besides what the input warrants.
+void RunOne(const CInput& input, std::size_t nKept) {
     g_present.m_pInput = &input;
     g_present.m_nInput = g_present.m_nInput + 1;
     // A copy that ends where its block ends: a byte beyond it is a fault that the sanitizer sees.
     const auto pCopy = std::make_unique<std::uint8_t[]>(input.size());
     std::copy(input.begin(), input.end(), pCopy.get());
+    LimitAllocations(nKept + g_nBytesPerInputByte * input.size(), OnTooMuchMemory);
     LLVMFuzzerTestOneInput(pCopy.get(), input.size());
-}
-
-void RunWithinLimit(const CInput& input) {
-    LimitAllocations(g_nFreeBytes + g_nBytesPerInputByte * input.size(), OnTooMuchMemory);
-    RunOne(input);
     LiftAllocationLimit();
 }
 
@@ -125,18 +123,17 @@ std::vector<CInput> ReadCorpus(const std::string& strFolder) {
     return corpus;
 }
 
-/// The corpus as it is, then mutations until time and number are both reached.
+/// The corpus as it is, twice, then mutations until time and number are both reached.
 void Run(const std::vector<CInput>& corpus, const COptions& options) {
     using CClock = std::chrono::steady_clock;
     const auto start = CClock::now();
     const auto seconds = [&] { return std::chrono::duration<double>(CClock::now() - start).count(); };
-    for (const CInput& input : corpus)
-        RunOne(input); // without the limit first: tables that are made once and kept are no input's memory
-    for (const CInput& input : corpus)
-        RunWithinLimit(input);
+    for (const std::size_t nKept : {g_nKeptBytes, g_nFreeBytes})
+        for (const CInput& input : corpus)
+            RunOne(input, nKept);
     CRandom random(options.m_nSeed);
     while (g_present.m_nInput < options.m_nInputs || seconds() < options.m_dSeconds)
-        RunWithinLimit(Mutate(corpus, random));
+        RunOne(Mutate(corpus, random), g_nFreeBytes);
     std::cout << g_present.m_nInput << " inputs in " << seconds() << " s, seed " << options.m_nSeed
               << ": no fault\n";
 }
