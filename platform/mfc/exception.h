@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/mfc/string.h"
+#include "platform/windows/types.h"
+
+/// What is known of a class at run time.
+struct CRuntimeClass {
+    const char* m_lpszClassName;
+    const CRuntimeClass* m_pBaseClass; ///< null for a class without one
+};
+
+/// The base of everything that is thrown. It is thrown as a value and caught by reference.
+class CException {
+public:
+    virtual ~CException() = default;
+
+    static const CRuntimeClass classCException;
+
+    virtual const CRuntimeClass* GetRuntimeClass() const { return &classCException; }
+    /// What happened, for the user; empty where nothing is known.
+    virtual CString GetErrorMessage() const { return {}; }
+
+    /// Whether it is of the class or of one derived from it.
+    BOOL IsKindOf(const CRuntimeClass* pClass) const;
+};
