@@ -1,0 +1,46 @@
+#include "ui/qs_para.h"
+
+#include "commands/text_lists.h"
+#include "data/project_db.h"
+#include "data/suite_statements.h"
+#include "platform/mfc/time.h"
+
+namespace {
+
+constexpr const char* kSection = "QSSet";
+constexpr const char* kDateRole = "日期";
+
+CString Today() {
+    const CTime now = CTime::GetCurrentTime();
+    CString strToday;
+    strToday.Format("%d.%d.%d", now.GetYear(), now.GetMonth(), now.GetDay());
+    return strToday;
+}
+
+} // namespace
+
+int CQSPara::Exchange(int bLoad) {
+    m_bLoad = bLoad;
+    ExchangeInt(kSection, "bLB", 0, &m_bLB, 0);
+    ExchangeInt(kSection, "bRQNow", 0, &m_bRQNow, 0);
+    return 1;
+}
+
+CString CQSPara::ShownName(const CString& strRole, const CString& strName) const {
+    if (m_bLB) return {};
+    return m_bRQNow && strRole == kDateRole ? Today() : strName;
+}
+
+int CQSPara::GetPeople(const CString& strDrawingClass, CStringArray* psaKeys, CStringArray* psaValues) {
+    Exchange(1);
+    CProjectDb people(SuiteDb_Common);
+    if (!people.Open(PeopleQuery(strDrawingClass))) return psaKeys->GetSize();
+    for (; !people.IsEof(); people.MoveNext()) {
+        CString strKey, strRole, strName;
+        people.ReadField("KEYCGT", &strKey);
+        people.ReadField("PEOPLETYPE", &strRole);
+        people.ReadField("PEOPLENAME", &strName);
+        psaValues->SetAtGrow(FindOrAdd(*psaKeys, strKey), ShownName(strRole, strName));
+    }
+    return psaKeys->GetSize();
+}
