@@ -54,15 +54,16 @@ int CADORecordset::IsOpen() const {
 }
 
 int CADORecordset::Close() {
-    if (m_pRecordset->GetState() == ADODB::adStateClosed) {
-        m_nEditStatus = EditStatus_None;
-        return 1;
-    }
-    return Leave([&] {
-        m_pRecordset->CancelUpdate();
-        m_pRecordset->PutFilter(ADODB::adFilterNone);
-        m_pRecordset->Close();
-    });
+    const bool bRows = m_pRecordset->GetState() != ADODB::adStateClosed;
+    if (bRows && !Attempt([&] {
+            m_pRecordset->CancelUpdate();
+            m_pRecordset->PutFilter(ADODB::adFilterNone);
+            m_pRecordset->Close();
+        }))
+        return 0;
+    m_nEditStatus = EditStatus_None;
+    m_bookmark = m_findPosition = CVariant(); // they are places among rows that are gone
+    return 1;
 }
 
 int CADORecordset::IsEof() {

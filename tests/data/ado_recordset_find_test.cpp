@@ -77,3 +77,13 @@ TEST_P(AdoRecordsetFind, GoesBackToABookmark) {
     m_rows.MoveNext();
     EXPECT_EQ(m_rows.GetBookmark(), 0);
 }
+
+TEST_P(AdoRecordsetFind, ForgetsItsPlacesWhenItIsOpenedAnew) {
+    m_rows.FindFirst("name = '丙'");
+    m_rows.GetBookmark();
+    m_rows.Open();
+    EXPECT_EQ(m_rows.SetBookmark(), 0);
+    EXPECT_EQ(m_rows.Find("name = '甲'"), 1);
+    EXPECT_EQ(m_rows.FindNext(), 1);
+    EXPECT_EQ(Text(m_rows, "id"), "4");
+}

@@ -23,7 +23,7 @@ TEST_F(PageSettings, HaveTheirDefaults) {
 TEST_F(PageSettings, StandInTheSettingsFile) {
     WritePageNumber(g_settingFramesPerRow, 5);
     WritePageText(g_settingSheetSize, "A3");
-    EXPECT_EQ(m_root.Read("Settings.ini"), "[CBRENDlg]\r\nnNUM=5\r\nsTF=A3\r\n");
+    EXPECT_EQ(m_root.Read("Settings.ini"), "[CBRENDlg]\nnNUM=5\nsTF=A3\n");
     EXPECT_EQ(ReadPageNumber(g_settingFramesPerRow), 5);
     EXPECT_EQ(ReadPageText(g_settingSheetSize), "A3");
 }
