@@ -47,28 +47,26 @@ void AddOnce(AcDbObjectId id, CIds& ids) {
     if (std::find(ids.begin(), ids.end(), id) == ids.end()) ids.push_back(id);
 }
 
-/// The living entities of a block in database order.
+/// The living entities of a block in database order, whoever has it open.
 CIds EntitiesOf(AcDbObjectId idBlock) {
-    const CDbOpen<AcDbBlockTableRecord> block(idBlock);
-    CIds ids = block ? block->EntityIds() : CIds();
+    const CDbOpen<AcDbBlockTableRecord> opened(idBlock); // nothing where it is open for writing already
+    const auto* const pBlock = PeekObject<AcDbBlockTableRecord>(idBlock);
+    CIds ids = pBlock && pBlock->isReadEnabled() ? pBlock->EntityIds() : CIds();
     std::sort(ids.begin(), ids.end(),
               [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
     return ids;
 }
 
-CIds ModelAndPaperSpace(AcDbDatabase& drawing) {
+CIds ModelAndPaperSpace(const AcDbDatabase& drawing) {
     CIds ids = EntitiesOf(drawing.ModelSpaceId());
-    AcDbObjectId idPaper;
-    if (const CDbOpen<AcDbBlockTable> blocks(drawing.blockTableId()); blocks)
-        blocks->getAt(ACDB_PAPER_SPACE, idPaper);
-    for (const AcDbObjectId& id : EntitiesOf(idPaper))
-        ids.push_back(id);
+    const auto* const pBlocks = PeekObject<AcDbBlockTable>(drawing.blockTableId());
+    const CIds paper = EntitiesOf(pBlocks->Find(ACDB_PAPER_SPACE));
+    ids.insert(ids.end(), paper.begin(), paper.end());
     return ids;
 }
 
-CIds LastOf(CIds ids) {
-    if (ids.size() > 1) ids.erase(ids.begin(), ids.end() - 1);
-    return ids;
+CIds LastOf(const CIds& ids) {
+    return ids.empty() ? ids : CIds{ids.back()};
 }
 
 CIds Previous(const AcDbDatabase& drawing) {
@@ -78,7 +76,7 @@ CIds Previous(const AcDbDatabase& drawing) {
 }
 
 /// What of model space the picture drawn last puts in the box of two corners.
-CIds InBox(AcDbDatabase& drawing, bool bWhole, const void* pt1, const void* pt2) {
+CIds InBox(const AcDbDatabase& drawing, bool bWhole, const void* pt1, const void* pt2) {
     const auto* const pCorner = static_cast<const ads_real*>(pt1);
     const auto* const pOpposite = static_cast<const ads_real*>(pt2);
     const AcGePoint3d corner(pCorner[0], pCorner[1], 0.0), opposite(pOpposite[0], pOpposite[1], 0.0);
@@ -91,7 +89,7 @@ CIds InBox(AcDbDatabase& drawing, bool bWhole, const void* pt1, const void* pt2)
 }
 
 /// What the mode stands for, before the filter; nothing for an unknown mode.
-std::optional<CIds> Gather(AcDbDatabase& drawing, const std::wstring& strMode, const void* pt1,
+std::optional<CIds> Gather(const AcDbDatabase& drawing, const std::wstring& strMode, const void* pt1,
                            const void* pt2) {
     if (strMode == L"X") return ModelAndPaperSpace(drawing);
     if (strMode == L"L") return LastOf(EntitiesOf(drawing.ModelSpaceId()));
@@ -125,7 +123,7 @@ int acedEntSel(const ACHAR* prompt, ads_name name, ads_point point) {
 }
 
 int acedSSGet(const ACHAR* mode, const void* pt1, const void* pt2, const resbuf* pFilter, ads_name ss) {
-    AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
     if (!pDrawing || !ss || !IsSelectionFilter(pFilter)) return RTERROR;
     const std::wstring strMode = mode ? mode : L"";
     CIds picked;
@@ -163,7 +161,7 @@ int acedSSName(const ads_name ss, Adesk::Int32 index, ads_name entity) {
 }
 
 int acedSSAdd(const ads_name entity, const ads_name ss, ads_name result) {
-    AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
     AcDbObjectId id;
     if (!pDrawing || !result || (entity && acdbGetObjectId(id, entity) != Acad::eOk) || (ss && !Find(ss)))
         return RTERROR;

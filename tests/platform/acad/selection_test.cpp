@@ -72,9 +72,10 @@ TEST_F(Selection, XTakesModelAndPaperSpaceInDatabaseOrderAndLeavesErasedOnesOut)
     EXPECT_EQ(Get(L"X"), (CIds{second, third}));
 }
 
-TEST_F(Selection, AnEntityThatIsOpenForWritingIsSelectedToo) {
+TEST_F(Selection, AnEntityThatIsOpenForWritingIsSelectedTooAndSoIsOneOfAnOpenBlock) {
     const AcDbObjectId id = AddLine({0, 0, 0}, {1, 0, 0});
     const CDbOpen<AcDbEntity> line(id, AcDb::kForWrite);
+    const CDbOpen<AcDbBlockTableRecord> space(m_drawing.ModelSpaceId(), AcDb::kForWrite);
     EXPECT_EQ(Get(L"X"), CIds{id});
 }
 
