@@ -28,6 +28,29 @@ TEST_F(CommandInput, WordsComeBeforeLinesAndOptionalOnesAreNeverAskedFor) {
     EXPECT_EQ(m_input.WholeText(""), "  raw text ");
 }
 
+TEST_F(CommandInput, ALineIsReadWhateverWordsThereAre) {
+    m_input.Begin({{"word", false}});
+    EXPECT_EQ(m_input.Line(""), "  raw text ");
+    EXPECT_EQ(m_input.Text(""), "word");
+    EXPECT_THROW(m_input.Line(""), CCommandCancelled);
+}
+
+TEST_F(CommandInput, AnotherCommandsWordsAndItsCancelLeaveTheOuterOnesAlone) {
+    m_input.Begin({{"outer", false}});
+    {
+        const CNestedInput nested(m_input);
+        m_input.Begin({{"inner", false}, {"more", false}});
+        EXPECT_EQ(m_input.Text(""), "inner");
+        m_answers.Next(""); // the raw text
+        m_input.Begin({});
+        AcGePoint3d point;
+        EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+        EXPECT_TRUE(m_input.WasCancelled());
+    }
+    EXPECT_FALSE(m_input.WasCancelled());
+    EXPECT_EQ(m_input.Text(""), "outer");
+}
+
 TEST_F(CommandInput, EndRefusesWordsThatAreLeft) {
     m_input.Begin({{"left", false}});
     EXPECT_THROW(m_input.End(), CRunFailure);

@@ -54,3 +54,10 @@ TEST(SplitWords, RefusesAQuoteThatIsNotClosed) {
 TEST(SplitWords, KeepsCharactersBeyondAscii) {
     EXPECT_EQ(Words("set 1 \"\xE5\x9B\xBE \xE5\xB9\x85\""), "|set|1|'\xE5\x9B\xBE \xE5\xB9\x85");
 }
+
+TEST(WithoutBlanksAround, KeepsBlanksInside) {
+    EXPECT_EQ(WithoutBlanksAround(" \ta  b \t"), "a  b");
+    EXPECT_EQ(WithoutBlanksAround("ab"), "ab");
+    EXPECT_EQ(WithoutBlanksAround(" \t "), "");
+    EXPECT_EQ(WithoutBlanksAround(""), "");
+}
