@@ -65,9 +65,9 @@ void AddSpline(const AcDbSpline& spline, CJson* json) {
     (*json)["fitPoints"] = JsonPoints(spline.FitPoints());
     (*json)["order"] = spline.Order();
     (*json)["fitTolerance"] = JsonNumber(spline.FitTolerance());
-    // A spline here is known by its fit points alone.
-    (*json)["controlPoints"] = CJson::array();
-    (*json)["knots"] = CJson::array();
+    const CNurbs nurbs = spline.Nurbs();
+    (*json)["controlPoints"] = JsonPoints(nurbs.m_arControlPoints);
+    (*json)["knots"] = JsonNumbers(nurbs.m_arKnots);
 }
 
 void AddLine(const AcDbLine& line, CJson* json) {

@@ -5,7 +5,6 @@
 #include "host/plot/paintable.h"
 #include "host/plot/polyline_shape.h"
 #include "host/plot/text_layout.h"
-#include "platform/acad/spline_curve.h"
 
 #include <algorithm>
 #include <array>
@@ -100,7 +99,7 @@ private:
 
     void Draw(const CSplinePrimitive& spline) {
         QPainterPath path;
-        for (const CBezier& bezier : NaturalSpline(spline.m_arFitPoints)) {
+        for (const CBezier& bezier : spline.Pieces()) {
             std::array<QPointF, 4> arPoints;
             for (std::size_t i = 0; i < 4; ++i)
                 if (const auto point = PaintablePoint(bezier.m_arPoints[i].x, bezier.m_arPoints[i].y))

@@ -1,7 +1,6 @@
 #include "platform/acad/display_list.h"
 
 #include "platform/acad/bulge_arc.h"
-#include "platform/acad/spline_curve.h"
 #include "platform/acad/text_box.h"
 
 #include <algorithm>
@@ -97,12 +96,16 @@ std::vector<double> FlatPlaces(double p0, double p1, double p2, double p3) {
 }
 
 void Add(AcDbExtents& box, const CSplinePrimitive& shape) {
-    const std::vector<CBezier> pieces = NaturalSpline(shape.m_arFitPoints);
+    const std::vector<CBezier> pieces = shape.Pieces();
     if (pieces.empty()) return;
     Add(box, CPolylinePrimitive{shape.m_arFitPoints});
-    const double z = shape.m_arFitPoints.front().z;
+    const bool bFitted = !shape.m_arFitPoints.empty();
+    const double z = (bFitted ? shape.m_arFitPoints : shape.m_nurbs.m_arControlPoints).front().z;
     for (const CBezier& piece : pieces) {
         const auto& p = piece.m_arPoints;
+        if (!bFitted)
+            for (const AcGePoint2d& end : {p[0], p[3]})
+                box.addPoint({end.x, end.y, z});
         std::vector<double> places = FlatPlaces(p[0].x, p[1].x, p[2].x, p[3].x);
         for (const double t : FlatPlaces(p[0].y, p[1].y, p[2].y, p[3].y))
             places.push_back(t);
@@ -120,6 +123,10 @@ CArcFrame::CArcFrame(const CArcPrimitive& arc)
 
 AcGePoint3d CArcFrame::At(double angle) const {
     return m_ptCenter + m_vecStart * std::cos(angle) + m_vecSide * std::sin(angle);
+}
+
+std::vector<CBezier> CSplinePrimitive::Pieces() const {
+    return m_arFitPoints.empty() ? PiecesOf(m_nurbs) : NaturalSpline(m_arFitPoints);
 }
 
 AcDbExtents ExtentsOf(const CDisplayList& list) {

@@ -3,6 +3,7 @@
 
 #include "platform/acad/adesk.h"
 #include "platform/acad/geometry.h"
+#include "platform/acad/nurbs_curve.h"
 
 #include <string>
 #include <variant>
@@ -54,6 +55,9 @@ struct CSplinePrimitive {
     std::vector<AcGePoint3d> m_arFitPoints; ///< as given, equal neighbours too
     int m_nOrder = 4;
     double m_dFitTolerance = 0.0;
+    CNurbs m_nurbs = {}; ///< the curve itself where there are no fit points
+
+    std::vector<CBezier> Pieces() const; ///< the curve as it is painted
 };
 
 struct CPrimitive {

@@ -69,7 +69,7 @@ Adesk::Boolean CDisplayRecorder::text(const AcGePoint3d& position, const AcGeVec
 }
 
 Adesk::Boolean CDisplayRecorder::spline(const AcDbSpline& spline) {
-    return Add(CSplinePrimitive{spline.FitPoints(), spline.Order(), spline.FitTolerance()});
+    return Add(spline.Primitive());
 }
 
 Adesk::Boolean CDisplayRecorder::Picture(const CDisplayList& list) {

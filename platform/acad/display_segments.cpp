@@ -1,7 +1,6 @@
 #include "platform/acad/display_segments.h"
 
 #include "platform/acad/bulge_arc.h"
-#include "platform/acad/spline_curve.h"
 #include "platform/acad/text_box.h"
 
 #include <algorithm>
@@ -76,7 +75,7 @@ std::vector<CSegment> Segments(const CTextPrimitive& shape) {
 std::vector<CSegment> Segments(const CSplinePrimitive& shape) {
     constexpr int steps = 32;
     std::vector<CSegment> segments;
-    for (const CBezier& piece : NaturalSpline(shape.m_arFitPoints))
+    for (const CBezier& piece : shape.Pieces())
         AppendChords(
             steps, [&piece](double place) { return piece.At(place); }, &segments);
     return segments;

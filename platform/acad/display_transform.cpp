@@ -108,6 +108,7 @@ struct CImage {
     CShape operator()(const CSplinePrimitive& shape) const {
         CSplinePrimitive image = shape;
         image.m_arFitPoints = Images(shape.m_arFitPoints, m_xform);
+        image.m_nurbs.m_arControlPoints = Images(shape.m_nurbs.m_arControlPoints, m_xform);
         return image;
     }
 };

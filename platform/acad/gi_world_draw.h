@@ -39,7 +39,7 @@ public:
     virtual Adesk::Boolean text(const AcGePoint3d& position, const AcGeVector3d& normal,
                                 const AcGeVector3d& direction, const ACHAR* text, Adesk::Int32 length,
                                 Adesk::Boolean raw, const AcGiTextStyle& textStyle) = 0;
-    /// A spline through its fit points.
+    /// A spline through its fit points, or by its control points where it has none.
     virtual Adesk::Boolean spline(const AcDbSpline& spline) = 0;
     /// What was drawn before, with the traits that it had; those set now stay as they are.
     virtual Adesk::Boolean Picture(const CDisplayList& list) = 0;
