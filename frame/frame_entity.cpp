@@ -63,7 +63,3 @@ Acad::ErrorStatus CBRENFrame::subMoveGripPointsAt(const AcDbIntArray& indices, c
         if (nIndex == 0) m_ptBase += offset;
     return Acad::eOk;
 }
-
-Adesk::Boolean CBRENFrame::subWorldDraw(AcGiWorldDraw*) {
-    return 1;
-}

@@ -54,10 +54,18 @@ public:
     Adesk::Int16 m_nGCBZ = 0; ///< project standard code; with 2 little of the frame is drawn
 
 protected:
+    /// While it is dragged nothing is drawn.
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
+    Acad::ErrorStatus subExplode(AcDbVoidPtrArray& entitySet) const override;
     /// Moves only, told by what becomes of the x axis: eNotApplicable when it changes, and then nothing does.
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
     Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray& osnapModes,
                                        AcDbIntArray& geomIds) const override;
     Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) override;
+
+private:
+    void DrawFrameLines(AcGiWorldDraw* pMode) const;
+    void DrawFrameTexts(AcGiWorldDraw* pMode) const;
+    void ExplodeFrameLines(AcDbVoidPtrArray& entitySet) const;
+    void ExplodeFrameTexts(AcDbVoidPtrArray& entitySet) const;
 };

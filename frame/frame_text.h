@@ -1,0 +1,31 @@
+#pragma once
+// Texts of the frame in both forms of output. Where a style is not given they are in the shared text style,
+// at the size it has.
+
+#include "platform/acad/db_entity.h"
+#include "platform/acad/gi_text_style.h"
+#include "platform/mfc/string.h"
+
+/// A text centred in a cell of the sheet.
+struct CFrameCell {
+    AcGePoint3d m_ptTopLeft;
+    double m_dWidth, m_dHeight;
+    double m_dTextHeight; ///< by which the text is measured and set; its size is the style's
+    CString m_strText;
+};
+
+/// Text styles of the exploded texts; all are measured by the first.
+struct CFrameStyles {
+    AcDbObjectId m_idText, m_idBanner;
+};
+
+void DrawFrameText(AcGiWorldDraw* pMode, const AcGePoint3d& ptPosition, const CString& strText);
+void ExplodeFrameText(AcDbVoidPtrArray& entitySet, const AcGePoint3d& ptPosition, const CString& strText,
+                      const CFrameStyles& styles);
+
+void DrawFrameCell(AcGiWorldDraw* pMode, const CFrameCell& cell, const AcGiTextStyle& style,
+                   const CFrameStyles& styles);
+/// The text's own style is told by the big font of the given one; without one of the two known it is the
+/// drawing's "Standard".
+void ExplodeFrameCell(AcDbVoidPtrArray& entitySet, const CFrameCell& cell, const AcGiTextStyle& style,
+                      const CFrameStyles& styles);
