@@ -4,6 +4,7 @@
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
 #include "data/show_message.h"
+#include "platform/acad/db_id_mapping.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
 #include "platform/windows/profile.h"
@@ -59,6 +60,30 @@ void Apply(const CStyleSettings& settings, int nPitchAndFamily, AcDbTextStyleTab
     record.setTextSize(settings.m_fHeight);
     record.setXScale(settings.m_fWidthFactor);
 }
+
+/// A new style of that name in the table, filled before it is closed; its id.
+template <class Fill>
+AcDbObjectId AddStyle(AcDbTextStyleTable& table, const CString& strName, Fill fill) {
+    auto* pRecord = new AcDbTextStyleTableRecord;
+    pRecord->setName(ToWide(strName));
+    fill(*pRecord);
+    AcDbObjectId id;
+    table.add(id, pRecord);
+    pRecord->close();
+    return id;
+}
+
+/// The style of that name, new or as it is, filled. Null when it is open elsewhere.
+template <class Fill>
+AcDbObjectId FillStyle(AcDbTextStyleTable& table, const CString& strName, Fill fill) {
+    AcDbObjectId id;
+    if (table.getAt(ToWide(strName), id) != Acad::eOk) return AddStyle(table, strName, fill);
+    const CDbOpen<AcDbTextStyleTableRecord> pRecord(id, AcDb::kForWrite);
+    if (!pRecord) return AcDbObjectId::kNull;
+    fill(*pRecord.Get());
+    return id;
+}
+
 /// The line type's id if the drawing has it; else it is loaded, and the id stays as it was.
 Acad::ErrorStatus FindOrLoadLinetype(const CString& strName, AcDbDatabase& database,
                                      AcDbObjectId& idLinetype) {
@@ -99,11 +124,7 @@ int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDa
         CDbOpen<AcDbTextStyleTableRecord> pRecord(idStyle, AcDb::kForWrite);
         if (pRecord) Apply(settings, 1, *pRecord.Get());
     } else {
-        auto* pRecord = new AcDbTextStyleTableRecord;
-        pRecord->setName(ToWide(strName));
-        Apply(settings, 4, *pRecord);
-        pTable->add(idStyle, pRecord);
-        pRecord->close();
+        idStyle = AddStyle(*pTable, strName, [&](auto& record) { Apply(settings, 4, record); });
     }
     pDatabase->setTextstyle(idStyle);
     pTable->close();
@@ -143,14 +164,11 @@ int CreateShxTextStyle(const CString& strName, const CString& strFontFile, const
     if (!pDatabase) return 0;
     const CDbOpen<AcDbTextStyleTable> pTable(pDatabase->textStyleTableId(), AcDb::kForWrite);
     if (!pTable) return 0;
-    if (pTable->getAt(ToWide(strName), idStyle) != Acad::eOk) {
-        auto* pRecord = new AcDbTextStyleTableRecord;
-        pRecord->setName(ToWide(strName));
-        pRecord->setFileName(ToWide(strFontFile));
-        pRecord->setBigFontFileName(ToWide(strBigFontFile));
-        pTable->add(idStyle, pRecord);
-        pRecord->close();
-    }
+    if (pTable->getAt(ToWide(strName), idStyle) != Acad::eOk)
+        idStyle = AddStyle(*pTable.Get(), strName, [&](auto& record) {
+            record.setFileName(ToWide(strFontFile));
+            record.setBigFontFileName(ToWide(strBigFontFile));
+        });
     pDatabase->setTextstyle(idStyle);
     return 1;
 }
@@ -182,14 +200,38 @@ int AddBannerTextStyle(const AcGiTextStyle& style, AcDbObjectId& idStyle) {
     const CDbOpen<AcDbTextStyleTable> pTable(pDatabase->textStyleTableId(), AcDb::kForWrite);
     if (!pTable) return 0;
     if (pTable->getAt(ToWide(g_pSheetTextStyle), idStyle) == Acad::eOk) return 1;
-    auto* pRecord = new AcDbTextStyleTableRecord;
-    pRecord->setName(ToWide(g_pSheetTextStyle));
-    pRecord->setObliquingAngle(style.obliquingAngle());
-    pRecord->setFileName(style.fileName());
-    pRecord->setBigFontFileName(style.bigFontFileName());
-    pRecord->setTextSize(style.textSize());
-    pRecord->setXScale(style.xScale());
-    pTable->add(idStyle, pRecord);
-    pRecord->close();
+    idStyle = AddStyle(*pTable.Get(), g_pSheetTextStyle, [&](auto& record) {
+        record.setObliquingAngle(style.obliquingAngle());
+        record.setFileName(style.fileName());
+        record.setBigFontFileName(style.bigFontFileName());
+        record.setTextSize(style.textSize());
+        record.setXScale(style.xScale());
+    });
     return 1;
+}
+
+int ImportTextStyle(const CString& strName, const CString& strFont, double dSize, double dWidthFactor,
+                    double dOblique, AcDbDatabase* pDatabase) {
+    AcDbDatabase* const pWorking = OrWorking(nullptr);
+    if (!pWorking) return 0;
+    if (!pDatabase) pDatabase = pWorking;
+    AcDbObjectId idStyle;
+    if (const CDbOpen<AcDbTextStyleTable> pTable(pWorking->textStyleTableId(), AcDb::kForWrite); pTable)
+        idStyle = FillStyle(*pTable.Get(), strName, [&](auto& record) {
+            record.setFont(ToWide(strFont), 0, 0, g_nGb2312Charset, 4);
+            record.setTextSize(dSize);
+            record.setXScale(dWidthFactor);
+            record.setObliquingAngle(dOblique);
+        });
+    if (idStyle.isNull()) return 0;
+    if (pDatabase != pWorking) {
+        AcDbObjectIdArray ids;
+        ids.append(idStyle);
+        AcDbIdMapping mapping;
+        pWorking->wblockCloneObjects(ids, pDatabase->textStyleTableId(), mapping, AcDb::kDrcReplace);
+        AcDbIdPair pair(idStyle);
+        mapping.compute(pair);
+        idStyle = pair.value();
+    }
+    return pDatabase->setTextstyle(idStyle) == Acad::eOk;
 }

@@ -46,3 +46,9 @@ int SetLayerZeroLinetype(const CString& strName);
 /// Makes the text style g_pSheetTextStyle in the working drawing after the look of a world form's
 /// style, unless the drawing has it. 1 with the id when it is there afterwards.
 int AddBannerTextStyle(const AcGiTextStyle& style, AcDbObjectId& idStyle);
+
+/// Makes the text style of that name by a font in the working drawing, or brings the one there up to it;
+/// copies it into another database if one is given, and makes it current there. dOblique in radians. 1 on
+/// success.
+int ImportTextStyle(const CString& strName, const CString& strFont, double dSize, double dWidthFactor,
+                    double dOblique, AcDbDatabase* pDatabase);

@@ -1,13 +1,10 @@
 #pragma once
 // Which object of a cloning became which.
 
-#include "platform/acad/ac_array.h"
 #include "platform/acad/db_object_id.h"
 
 #include <unordered_map>
 #include <vector>
-
-using AcDbObjectIdArray = AcArray<AcDbObjectId>;
 
 class AcDbIdPair {
 public:

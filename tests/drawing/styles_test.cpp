@@ -217,3 +217,43 @@ TEST_F(Styles, TheSheetsTextStyleNeedsADrawing) {
     AcDbObjectId id;
     EXPECT_EQ(AddBannerTextStyle(AcGiTextStyle(), id), 0);
 }
+
+TEST_F(Styles, AnImportedStyleIsMadeInTheWorkingDrawingAndCopiedIntoTheOther) {
+    AcDbDatabase other;
+    EXPECT_EQ(ImportTextStyle("标注", "宋体", 3.5, 0.8, 0.25, &other), 1);
+    const auto styleIn = [](AcDbDatabase& database) {
+        AcDbObjectId id;
+        CDbOpen<AcDbTextStyleTable>(database.textStyleTableId())->getAt(L"标注", id);
+        return id;
+    };
+    for (AcDbDatabase* pDatabase : {&m_drawing.Database(), &other}) {
+        const CDbOpen<AcDbTextStyleTableRecord> pRecord(styleIn(*pDatabase));
+        ASSERT_TRUE(pRecord);
+        const CFont font = FontOf(pRecord);
+        EXPECT_EQ(font.m_strName, L"宋体");
+        EXPECT_EQ(font.m_nCharset, 134);
+        EXPECT_EQ(font.m_nPitch, 4);
+        EXPECT_EQ(pRecord->textSize(), 3.5);
+        EXPECT_EQ(pRecord->xScale(), 0.8);
+        EXPECT_EQ(pRecord->obliquingAngle(), 0.25);
+    }
+    EXPECT_EQ(other.textstyle(), styleIn(other));
+    EXPECT_FALSE(m_drawing.Database().textstyle() == styleIn(m_drawing.Database()));
+}
+
+TEST_F(Styles, AnImportedStyleReplacesTheOneOfItsNameAndIsCurrentWhereItWasAskedFor) {
+    AcDbDatabase other;
+    ImportTextStyle("标注", "宋体", 3.5, 0.8, 0.0, &other);
+    EXPECT_EQ(ImportTextStyle("标注", "宋体", 5.0, 0.8, 0.0, &other), 1);
+    EXPECT_EQ(CDbOpen<AcDbTextStyleTableRecord>(other.textstyle())->textSize(), 5.0);
+    EXPECT_EQ(ImportTextStyle("标注", "宋体", 6.0, 0.8, 0.0, nullptr), 1);
+    EXPECT_EQ(SymbolName(m_drawing.Database().textstyle()), "标注");
+    EXPECT_EQ(CDbOpen<AcDbTextStyleTableRecord>(m_drawing.Database().textstyle())->textSize(), 6.0);
+    EXPECT_EQ(CDbOpen<AcDbTextStyleTableRecord>(other.textstyle())->textSize(), 5.0);
+}
+
+TEST_F(Styles, AStyleIsNotImportedWithoutADrawing) {
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    AcDbDatabase other;
+    EXPECT_EQ(ImportTextStyle("标注", "宋体", 3.5, 0.8, 0.0, &other), 0);
+}

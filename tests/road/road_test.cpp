@@ -320,3 +320,26 @@ TEST(Road, LosesTheModulesCommandsWhileItIsAway) {
     EXPECT_EQ(without.m_nStatus, 5);
     EXPECT_NE(without.m_strErrors.find("unknown command: BREN"), std::string::npos) << without.m_strErrors;
 }
+
+TEST(Road, KeepsAFrameWhileTheModuleIsAway) {
+    const CProgram program;
+    const auto path = [&](const char* name) { return program.Folder().Path(name); };
+    std::ofstream(path("frame.json")) << R"({"class":"CBRENFrame","fields":{"m_nGCBZ":2,"m_strZKBH":"ZK1"}})";
+    const std::string strModule = "\"" TERVO_BIN "/tervo-bren.so\"\n";
+    const CRun run = program.Tvcad("ADDENTITY " + path("frame.json") + "\nDUMP " + path("before.json") +
+                                   "\nUNLOADMODULE " + strModule + "DUMP " + path("away.json") +
+                                   "\nLOADMODULE " + strModule + "DUMP " + path("after.json") + "\n");
+    ASSERT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const std::string strBefore = ReadFile(path("before.json"));
+    EXPECT_EQ(ReadFile(path("after.json")), strBefore);
+    const CJson frame = CJson::parse(strBefore)["modelSpace"][0];
+    EXPECT_EQ(frame["class"], "CBRENFrame");
+    EXPECT_EQ(frame["fields"]["m_nGCBZ"], 2);
+    EXPECT_EQ(frame["fields"]["m_vecGripOffset"], CJson({0.0, 0.0, 0.0}));
+    EXPECT_EQ(frame["grips"].size(), 1U);
+    EXPECT_EQ(frame["world"].size(), 15U);
+    EXPECT_EQ(frame["explode"].size(), 15U);
+    const CJson proxy = CJson::parse(ReadFile(path("away.json")))["modelSpace"][0];
+    EXPECT_EQ(proxy["class"], "AcDbProxyEntity");
+    EXPECT_EQ(proxy["originalClass"], "CBRENFrame");
+}
