@@ -31,6 +31,7 @@ constexpr std::array g_arCommands = {
     CHostCommand{"UNDO", CommandUndo, "n: undoes the last n commands that changed the drawing"},
     CHostCommand{"REDO", CommandRedo, "does again what was undone last"},
     CHostCommand{"REGEN", CommandRegen, "draws all entities anew"},
+    CHostCommand{"ZOOM", CommandZoom, "e|a: shows all that is drawn"},
     CHostCommand{"SETVAR", CommandSetVar, "name [value]: shows or sets a system variable"},
     CHostCommand{"MEASURE", CommandMeasure, "style height text: prints the width of the text's extents"},
     CHostCommand{"LOADMODULE", CommandLoadModule, "path: loads a module"},

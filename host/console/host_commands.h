@@ -46,6 +46,7 @@ void CommandExplode(CHost& host);
 void CommandUndo(CHost& host);
 void CommandRedo(CHost& host);
 // view_commands.cpp
+void CommandZoom(CHost& host);
 void CommandRegen(CHost& host);
 void CommandSetVar(CHost& host);
 void CommandMeasure(CHost& host);

@@ -1,3 +1,4 @@
+#include "host/console/drawing_order.h"
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
 #include "host/console/redraw.h"
@@ -5,6 +6,7 @@
 #include "platform/acad/db_text.h"
 #include "platform/acad/editor.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -12,6 +14,8 @@ namespace {
 std::string ValueText(resbuf& value) {
     if (value.restype == RTREAL) return NumberText(value.resval.rreal);
     if (value.restype == RTSHORT) return std::to_string(value.resval.rint);
+    if (value.restype == RT3DPOINT)
+        return NumberText(value.resval.rpoint[0]) + "," + NumberText(value.resval.rpoint[1]);
     std::string text = Utf8FromWide(value.resval.rstring);
     acutDelString(value.resval.rstring);
     return text;
@@ -30,6 +34,8 @@ resbuf ParseValue(const std::string& strName, const std::string& strText, short 
         value.resval.rstring = acutNewString(WideAnswer(strText).c_str());
     } else if (nKind == RTREAL) {
         if (!ParseNumber(strText, &value.resval.rreal)) RefuseValue(strName, strText);
+    } else if (nKind == RT3DPOINT) {
+        RefuseValue(strName, strText); // a view is not moved by its variables
     } else {
         using CLimits = std::numeric_limits<short>;
         if (!ParseWhole(strText, &nWhole) || nWhole < CLimits::min() || nWhole > CLimits::max())
@@ -47,7 +53,30 @@ AcDbObjectId FindTextStyle(AcDbDatabase& drawing, const std::string& strName) {
     return id;
 }
 
+/// The box of what model space showed when it was drawn last.
+AcDbExtents ShownExtents(AcDbDatabase& drawing) {
+    AcDbExtents extents;
+    for (const AcDbObjectId& id : ModelSpaceEntities(drawing))
+        if (const CDbOpen<AcDbEntity> entity(id); entity && entity->Picture())
+            extents.addExt(ExtentsOf(*entity->Picture()));
+    return extents;
+}
+
 } // namespace
+
+void CommandZoom(CHost& host) {
+    const std::string strWhat = host.m_input.Text("Extents or all (e, a): ");
+    host.m_input.End();
+    // A drawing here has no limits beyond what it shows, so both are the same.
+    if (strWhat != "e" && strWhat != "a" && strWhat != "E" && strWhat != "A")
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither e nor a: " + strWhat);
+    const AcDbExtents extents = ShownExtents(host.Drawing());
+    if (extents.isEmpty()) return; // nothing to be seen: the view stays
+    const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
+    const double dSize = std::max(high.x - low.x, high.y - low.y);
+    host.Drawing().SetView({{(low.x + high.x) / 2.0, (low.y + high.y) / 2.0},
+                            dSize > 0.0 ? dSize : host.Drawing().View().m_dHeight});
+}
 
 void CommandRegen(CHost& host) {
     host.m_input.End();

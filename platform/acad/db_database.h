@@ -19,6 +19,12 @@ enum DuplicateRecordCloning {
 };
 } // namespace AcDb
 
+/// What a view of a drawing shows: so high a part of the plane about its center; how wide is the window's.
+struct CDbView {
+    AcGePoint2d m_ptCenter{210.0, 148.5}; // a lying sheet of A3, until zoomed
+    double m_dHeight = 297.0;
+};
+
 /// A drawing: its objects by handle, its tables, its variables. Several may be open at once.
 class AcDbDatabase : public AcRxObject {
 public:
@@ -56,6 +62,8 @@ public:
     Acad::ErrorStatus setTextstyle(AcDbObjectId idStyle);
     const CDbVariables& Variables() const { return m_variables; }
     void SetVariables(const CDbVariables& variables); ///< all at once, unchecked
+    const CDbView& View() const { return m_view; }
+    void SetView(const CDbView& view) { m_view = view; } ///< no change of the drawing
 
     /// Reads line type name from a line type file, sought by the host. eFileNotFound, eUndefinedLineType (the
     /// file does not hold it), eDuplicateKey (the drawing has it already).
@@ -121,6 +129,7 @@ private:
     AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idRegAppTable;
     AcDbObjectId m_idModelSpace, m_idNamedObjects;
     CDbVariables m_variables;
+    CDbView m_view;
     CUndoLog m_undoLog{*this};
     std::wstring m_strFilename;
     std::vector<AcDbObjectId> m_arChanged;

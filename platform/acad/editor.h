@@ -22,8 +22,8 @@ int acedCommand(int type, ...);
 /// style that the working drawing lacks, and for a text that shows nothing.
 int acedTextBox(const resbuf* pText, ads_point low, ads_point high);
 
-/// System variables: those of the working drawing, and those of the program (SDI, PLOTDPI). RTERROR for an
-/// unknown name or a value of the wrong kind.
+/// System variables: those of the working drawing (VIEWCTR and VIEWSIZE, what its view shows, only to be
+/// read), and those of the program (SDI, PLOTDPI). RTERROR for an unknown name or a value of the wrong kind.
 int acedGetVar(const ACHAR* name, resbuf* pResult);
 int acedSetVar(const ACHAR* name, const resbuf* pValue);
 

@@ -1,5 +1,6 @@
 // acedGetVar and acedSetVar.
 
+#include "platform/acad/ads_point.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
@@ -28,9 +29,15 @@ int GiveText(resbuf* pResult, const std::string& strText) {
     return RTNORM;
 }
 
-int GiveLtscale(resbuf* pResult, const AcDbDatabase& drawing) {
+int GiveReal(resbuf* pResult, double value) {
     pResult->restype = RTREAL;
-    pResult->resval.rreal = drawing.ltscale();
+    pResult->resval.rreal = value;
+    return RTNORM;
+}
+
+int GivePoint(resbuf* pResult, const AcGePoint2d& point) {
+    pResult->restype = RT3DPOINT;
+    PutPoint({point.x, point.y, 0.0}, pResult->resval.rpoint);
     return RTNORM;
 }
 
@@ -71,7 +78,9 @@ int acedGetVar(const ACHAR* name, resbuf* pResult) {
     if (SameName(name, L"PLOTDPI")) return GiveShort(pResult, g_program.m_nPlotDpi);
     const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
     if (!pDrawing) return RTERROR;
-    if (SameName(name, L"LTSCALE")) return GiveLtscale(pResult, *pDrawing);
+    if (SameName(name, L"LTSCALE")) return GiveReal(pResult, pDrawing->ltscale());
+    if (SameName(name, L"VIEWCTR")) return GivePoint(pResult, pDrawing->View().m_ptCenter);
+    if (SameName(name, L"VIEWSIZE")) return GiveReal(pResult, pDrawing->View().m_dHeight);
     if (SameName(name, L"CLAYER")) return GiveText(pResult, SymbolName(pDrawing->clayer()));
     if (SameName(name, L"TEXTSTYLE")) return GiveText(pResult, SymbolName(pDrawing->textstyle()));
     if (!SameName(name, L"CELTYPE")) return RTERROR;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* SAMPLE_COMMANDS =
     "SAMPLE TwoPoints 0\nSAMPLE SHEET 0\nSAMPLE BROKEN 1\nSAMPLE LINES 0\nSAMPLE BOXES 0\nSAMPLE FIND 0\n"
-    "SAMPLE TELL 0\nSAMPLE WATCH 0\n";
+    "SAMPLE TELL 0\nSAMPLE WATCH 0\nSAMPLE FRAME 0\n";
 
 } // namespace
 

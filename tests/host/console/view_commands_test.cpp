@@ -1,4 +1,4 @@
-// REGEN, SETVAR and MEASURE in real runs.
+// ZOOM, REGEN, SETVAR and MEASURE in real runs.
 
 #include "tests/host/console/program_run.h"
 
@@ -32,6 +32,24 @@ TEST_F(ViewCommands, ACharacterThatTheCodePageLacksIsRefusedByName) {
 
 TEST_F(ViewCommands, VariablesOfADrawingChangeWithItAndThoseOfTheProgramStay) {
     EXPECT_EQ(Quiet("SETVAR LTSCALE 3\nSETVAR PLOTDPI 72\nNEW\nSETVAR LTSCALE\nSETVAR PLOTDPI\n"), "1\n72\n");
+}
+
+TEST_F(ViewCommands, ZoomShowsAllThatIsDrawn) {
+    const std::string view = "SETVAR VIEWCTR\nSETVAR VIEWSIZE\n";
+    EXPECT_EQ(Quiet("ZOOM e\n" + view), "210,148.5\n297\n") << "an empty drawing";
+    EXPECT_EQ(Quiet("LINE 10,20 40,30\nZOOM e\n" + view), "25,25\n30\n");
+    EXPECT_EQ(Quiet("LINE 10,20 10,80\nZOOM\nA\n" + view), "10,50\n60\n");
+    EXPECT_EQ(Quiet("LINE 0,0 0,0\nZOOM e\n" + view), "0,0\n297\n") << "of no size";
+    EXPECT_EQ(Quiet("LINE 0,0 1,1\nZOOM e\nNEW\n" + view), "210,148.5\n297\n") << "another drawing";
+}
+
+TEST_F(ViewCommands, ZoomIsNoChangeOfTheDrawing) {
+    EXPECT_EQ(RunScript("ZOOM e\n").m_strErr, "");
+}
+
+TEST_F(ViewCommands, ZoomAndItsVariablesRefuseWhatTheyDoNotKnow) {
+    for (const char* line : {"ZOOM x", "SETVAR VIEWCTR 1,2", "SETVAR VIEWSIZE 3"})
+        EXPECT_EQ(RunScript(std::string(line) + "\n").m_nStatus, 5) << line;
 }
 
 TEST_F(ViewCommands, MeasurePrintsTheWidthOfTheTextsExtents) {
