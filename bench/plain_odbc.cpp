@@ -26,9 +26,9 @@ void BindPlainRow(SQLHSTMT hStatement, CPlainRow* pRow) {
         SQLBindCol(hStatement, static_cast<SQLUSMALLINT>(nColumn), nType, pPlace, static_cast<SQLLEN>(nBytes),
                    &s_nIndicator);
     };
-    constexpr std::array kWhole = {1, 4, 5, 16};
-    for (std::size_t i = 0; i < kWhole.size(); ++i)
-        bind(kWhole[i], SQL_C_SLONG, &pRow->m_arWhole[i], sizeof(SQLINTEGER));
+    constexpr std::array arWhole = {1, 4, 5, 16};
+    for (std::size_t i = 0; i < arWhole.size(); ++i)
+        bind(arWhole[i], SQL_C_SLONG, &pRow->m_arWhole[i], sizeof(SQLINTEGER));
     bind(2, SQL_C_CHAR, pRow->m_szZKBH.data(), pRow->m_szZKBH.size());
     bind(3, SQL_C_CHAR, pRow->m_szQYBH.data(), pRow->m_szQYBH.size());
     for (int i = 0; i < 10; ++i)
@@ -66,9 +66,9 @@ void ReadSamplesByPlainOdbc(std::string strConnection) {
     SQLSetEnvAttr(hEnvironment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
     double dSum = 0.0;
     int nRows = 0;
-    for (int nSample = 0; nSample < kSamples; ++nSample)
+    for (int nSample = 0; nSample < g_nSamples; ++nSample)
         nRows += ReadPlainSample(hEnvironment, strConnection, nSample, &dSum);
-    if (nRows != kSamples * kReadings) Fail("the plain program did not read every row");
+    if (nRows != g_nSamples * g_nReadings) Fail("the plain program did not read every row");
     benchmark::DoNotOptimize(dSum);
     SQLFreeHandle(SQL_HANDLE_ENV, hEnvironment);
 }

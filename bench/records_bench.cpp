@@ -21,7 +21,7 @@ void RecordClass(benchmark::State& state) {
     Project();
     while (state.KeepRunning())
         ReadSamplesByRecordClass();
-    state.SetItemsProcessed(state.iterations() * kSamples * kReadings);
+    state.SetItemsProcessed(state.iterations() * g_nSamples * g_nReadings);
 }
 
 struct CPlainRow {
@@ -57,7 +57,7 @@ void PlainSqlite(benchmark::State& state) {
             Fail(sqlite3_errmsg(pDatabase));
         double dSum = 0.0;
         int nRows = 0;
-        for (int nSample = 0; nSample < kSamples; ++nSample) {
+        for (int nSample = 0; nSample < g_nSamples; ++nSample) {
             const std::string strZKBH = BoreholeOf(nSample), strQYBH = SampleOf(nSample);
             sqlite3_bind_text(pStatement, 1, strZKBH.c_str(), -1, SQLITE_STATIC);
             sqlite3_bind_text(pStatement, 2, strQYBH.c_str(), -1, SQLITE_STATIC);
@@ -68,12 +68,12 @@ void PlainSqlite(benchmark::State& state) {
             }
             sqlite3_reset(pStatement);
         }
-        if (nRows != kSamples * kReadings) Fail("the plain reading did not read every row");
+        if (nRows != g_nSamples * g_nReadings) Fail("the plain reading did not read every row");
         sqlite3_finalize(pStatement);
         sqlite3_close(pDatabase);
         benchmark::DoNotOptimize(dSum);
     }
-    state.SetItemsProcessed(state.iterations() * kSamples * kReadings);
+    state.SetItemsProcessed(state.iterations() * g_nSamples * g_nReadings);
 }
 BENCHMARK(PlainSqlite)->Unit(benchmark::kMillisecond);
 BENCHMARK(RecordClass)->Unit(benchmark::kMillisecond);

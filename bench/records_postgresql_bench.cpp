@@ -24,7 +24,7 @@ void RecordClass(benchmark::State& state) {
     Project();
     while (state.KeepRunning())
         ReadSamplesByRecordClass();
-    state.SetItemsProcessed(state.iterations() * kSamples * kReadings);
+    state.SetItemsProcessed(state.iterations() * g_nSamples * g_nReadings);
 }
 
 void PlainOdbc(benchmark::State& state) {
@@ -32,7 +32,7 @@ void PlainOdbc(benchmark::State& state) {
         CConnectionText(Project().m_database.ConnectionText()).Without("Provider");
     while (state.KeepRunning())
         ReadSamplesByPlainOdbc(strConnection);
-    state.SetItemsProcessed(state.iterations() * kSamples * kReadings);
+    state.SetItemsProcessed(state.iterations() * g_nSamples * g_nReadings);
 }
 BENCHMARK(PlainOdbc)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(RecordClass)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -26,8 +26,8 @@ void FillSamples(CTestProject* pProject) {
     WritePrivateProfileStringA("TVTool", "ProjectIni", "Project.ini",
                                (pProject->Root() + "/tervo.ini").c_str());
     pProject->m_pDatabase->BeginTransaction();
-    for (int nSample = 0; nSample < kSamples; ++nSample)
-        for (int i = 0; i < kReadings; ++i) {
+    for (int nSample = 0; nSample < g_nSamples; ++nSample)
+        for (int i = 0; i < g_nReadings; ++i) {
             const int nSpecimen = i / 20 + 1;
             pProject->AddReading(BoreholeOf(nSample).c_str(), SampleOf(nSample).c_str(), nSpecimen,
                                  i % 20 + 1, 100.0 * nSpecimen, 3.25 * i, 60.5 * (i % 20), 0);
@@ -39,7 +39,7 @@ void FillSamples(CTestProject* pProject) {
 void ReadSamplesByRecordClass() {
     double dSum = 0.0;
     int nRows = 0;
-    for (int nSample = 0; nSample < kSamples; ++nSample) {
+    for (int nSample = 0; nSample < g_nSamples; ++nSample) {
         CSanZhouCSXMRecord record;
         const CString strCriterion =
             ReadingsCriterion(1, BoreholeOf(nSample).c_str(), SampleOf(nSample).c_str());
@@ -49,6 +49,6 @@ void ReadSamplesByRecordClass() {
             dSum += record.m_fCLHDS;
         record.CloseRows();
     }
-    if (nRows != kSamples * kReadings) Fail("the record class did not read every row");
+    if (nRows != g_nSamples * g_nReadings) Fail("the record class did not read every row");
     benchmark::DoNotOptimize(dSum);
 }

@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr char SEPARATOR = '@';
-constexpr char MARK = '*';
+constexpr char g_cSeparator = '@';
+constexpr char g_cMark = '*';
 
 bool IsMarked(const CString& entry) {
-    return !entry.IsEmpty() && entry[0] == MARK;
+    return !entry.IsEmpty() && entry[0] == g_cMark;
 }
 
 CString EntryText(const CListBox& list, int index) {
@@ -25,12 +25,12 @@ CStringArray ReadKey(const char* section, const char* key, const char* file) {
     std::array<char, 520> text{};
     GetPrivateProfileStringA(section, key, "", text.data(), static_cast<DWORD>(text.size()), file);
     CStringArray marks;
-    SplitText(text.data(), SEPARATOR, marks);
+    SplitText(text.data(), g_cSeparator, marks);
     return marks;
 }
 
 void WriteKey(const char* section, const char* key, const CStringArray& marks, const char* file) {
-    WritePrivateProfileStringA(section, key, JoinTexts(marks, SEPARATOR), file);
+    WritePrivateProfileStringA(section, key, JoinTexts(marks, g_cSeparator), file);
 }
 
 std::vector<int> SelectedEntries(const CListBox& list) {
@@ -60,7 +60,7 @@ void LoadMarks(const char* section, const char* key, CWnd* pList, const char* fi
     CStringArray found;
     for (int i = 0; i < pBox->GetCount(); ++i) {
         const CString entry = EntryText(*pBox, i);
-        if (FindText(marks, entry) >= 0) ReplaceEntry(*pBox, i, MARK + entry);
+        if (FindText(marks, entry) >= 0) ReplaceEntry(*pBox, i, g_cMark + entry);
         if (IsMarked(EntryText(*pBox, i))) found.Add(WithoutMark(EntryText(*pBox, i)));
     }
     WriteKey(section, key, found, file);

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int kSingleDigits = 10;
-constexpr int kDoubleDigits = 20;
+constexpr int g_nSingleDigits = 10;
+constexpr int g_nDoubleDigits = 20;
 
 CString WholeText(long long nValue) {
     CString strText;
@@ -73,11 +73,11 @@ int TextOfValue(const CVariant& value, CString* pText) {
         *pText = WholeText(value.UI4());
         return 1;
     case VT_R4:
-        *pText = Gcvt(value.R4(), kSingleDigits);
+        *pText = Gcvt(value.R4(), g_nSingleDigits);
         return 1;
     case VT_R8:
     case VT_DECIMAL:
-        *pText = Gcvt(DoubleOfValue(value), kDoubleDigits);
+        *pText = Gcvt(DoubleOfValue(value), g_nDoubleDigits);
         return 1;
     case VT_BSTR:
         *pText = GbkFromWide(value.Text());

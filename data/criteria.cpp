@@ -4,7 +4,7 @@
 
 namespace {
 /// 9 before 10, and what begins with a digit before what does not; the database sorts, by its own functions.
-constexpr const char* kNaturalOrder =
+constexpr const char* g_pNaturalOrder =
     "isnumeric(left(ZKBH,1)),val(ZKBH), string(255-len(trim(ZKBH)),'0')+trim(ZKBH),"
     "isnumeric(left(qybh,1)),val(qybh), string(255-len(trim(qybh)),'0')+trim(qybh)";
 } // namespace
@@ -17,20 +17,20 @@ CString ProjectCriterion(int nGCSY) {
 
 CString ProjectListCriterion(int nGCSY) {
     CString strCriterion;
-    strCriterion.Format("GCSY = %d ORDER BY %s", nGCSY, kNaturalOrder);
+    strCriterion.Format("GCSY = %d ORDER BY %s", nGCSY, g_pNaturalOrder);
     return strCriterion;
 }
 
 CString OpenDialogListCriterion(int nGCSY) {
     CString strCriterion;
-    strCriterion.Format("GCSY= %d ORDER BY %s", nGCSY, kNaturalOrder);
+    strCriterion.Format("GCSY= %d ORDER BY %s", nGCSY, g_pNaturalOrder);
     return strCriterion;
 }
 
 CString BoreholeListCriterion(int nGCSY, const CString& strZKBH) {
     CString strCriterion;
     strCriterion.Format("GCSY = %d AND ZKBH = '%s' ORDER BY %s ", nGCSY, SqlText(strZKBH).GetString(),
-                        kNaturalOrder);
+                        g_pNaturalOrder);
     return strCriterion;
 }
 

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr const char* kQuery = "SELECT GCSY,GCBH,GCMC,GCBZ,GCSJ FROM x_GongCheng WHERE GCSY > -1 and %s;";
+constexpr const char* g_pQuery = "SELECT GCSY,GCBH,GCMC,GCBZ,GCSJ FROM x_GongCheng WHERE GCSY > -1 and %s;";
 
 std::vector<CColumnBinding> Columns() {
     using Row = CGongChengRow;
@@ -16,4 +16,4 @@ std::vector<CColumnBinding> Columns() {
 
 CGongChengRecord::CGongChengRecord()
     : CGongChengRow{}
-    , CRecordAccessor(kQuery, Columns(), static_cast<CGongChengRow*>(this), sizeof(CGongChengRow)) {}
+    , CRecordAccessor(g_pQuery, Columns(), static_cast<CGongChengRow*>(this), sizeof(CGongChengRow)) {}

@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr std::string_view kTest = "IS NULL";
-constexpr std::string_view kAssignment = "= NULL";
-constexpr std::string_view kCondition = "where";
+constexpr std::string_view g_strTest = "IS NULL";
+constexpr std::string_view g_strAssignment = "= NULL";
+constexpr std::string_view g_strCondition = "where";
 
 /// Behind the literal that begins at nStart; the end of the text where it is not closed.
 std::size_t LiteralEnd(std::string_view strText, std::size_t nStart) {
@@ -32,7 +32,7 @@ std::size_t FindOutsideLiterals(std::string_view strText, std::string_view strWo
 void AppendEmptyLiteral(char nextCharacter, std::string* pText) {
     if (pText->ends_with('=')) {
         pText->back() = ' ';
-        *pText += kTest;
+        *pText += g_strTest;
     } else if (pText->ends_with(',') || nextCharacter == ',' || nextCharacter == ' ') {
         *pText += "NULL";
     } else {
@@ -63,10 +63,10 @@ std::string WithoutEmptyLiterals(std::string_view strText) {
 void FixNullSyntax(CString* pStatement) {
     std::string strText = WithoutEmptyLiterals(pStatement->View());
     for (;;) {
-        const std::size_t nTest = FindOutsideLiterals(strText, kTest);
-        const std::size_t nCondition = FindOutsideLiterals(strText, kCondition);
+        const std::size_t nTest = FindOutsideLiterals(strText, g_strTest);
+        const std::size_t nCondition = FindOutsideLiterals(strText, g_strCondition);
         if (nCondition == std::string::npos || nTest > nCondition) break;
-        strText.replace(nTest, kTest.size(), kAssignment);
+        strText.replace(nTest, g_strTest.size(), g_strAssignment);
     }
     *pStatement = strText;
 }

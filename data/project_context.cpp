@@ -12,10 +12,10 @@ CString g_strMarksIni;
 
 namespace {
 
-constexpr std::size_t kConnectionSize = 1024;
+constexpr std::size_t g_nConnectionSize = 1024;
 
 /// What the data manager takes as: a module is going to use the project.
-constexpr UINT kUseProjectMessage = 2534;
+constexpr UINT g_nUseProjectMessage = 2534;
 
 /// Path of the database file of SuiteDb_Common or SuiteDb_Config.
 int GetDatabasePath(SuiteDb db, char* pszPath) {
@@ -40,7 +40,7 @@ CString GetDataManagerClass() {
 
 int CheckDataManager() {
     if (const HWND hManager = FindWindowA(GetDataManagerClass(), nullptr)) {
-        SendMessageA(hManager, kUseProjectMessage, 1, 0);
+        SendMessageA(hManager, g_nUseProjectMessage, 1, 0);
         return 1;
     }
     ShowMessage("请首先启动【数据管理】并打开工程，再重试此功能!");
@@ -55,7 +55,7 @@ int GetRootPath(CString* pRoot) {
 }
 
 int GetConnectionText(SuiteDb db, CString* pConnection) {
-    std::array<char, kConnectionSize> szConnection{};
+    std::array<char, g_nConnectionSize> szConnection{};
     if (db == SuiteDb_Project) {
         if (!TVToolGetProjectConnect(szConnection.data())) return 0;
     } else {

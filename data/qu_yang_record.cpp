@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr const char* kQuery =
+constexpr const char* g_pQuery =
     "SELECT GCSY,ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX FROM z_c_QuYang WHERE GCSY > -1 and %s;";
 
 std::vector<CColumnBinding> Columns() {
@@ -24,4 +24,4 @@ std::vector<CColumnBinding> Columns() {
 
 CQuYangRecord::CQuYangRecord()
     : CQuYangRow{}
-    , CRecordAccessor(kQuery, Columns(), static_cast<CQuYangRow*>(this), sizeof(CQuYangRow)) {}
+    , CRecordAccessor(g_pQuery, Columns(), static_cast<CQuYangRow*>(this), sizeof(CQuYangRow)) {}

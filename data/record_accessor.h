@@ -8,8 +8,8 @@
 #include "platform/mfc/string.h"
 
 /// Bytes of a text column without its ending zero.
-inline constexpr std::size_t kRecordTextLength = 255;
-using CRecordText = char[kRecordTextLength + 1];
+inline constexpr std::size_t g_nRecordTextLength = 255;
+using CRecordText = char[g_nRecordTextLength + 1];
 
 /// The type code under which a member of a row is bound.
 template <class Member>
@@ -33,7 +33,7 @@ CColumnBinding RecordColumn(int nOrdinal, Member Row::*pMember, DBSTATUS Row::*p
         return static_cast<std::size_t>(static_cast<const char*>(pPlace) -
                                         reinterpret_cast<const char*>(&s_row));
     };
-    const std::size_t nLength = RecordType<Member>() == DBTYPE_STR ? kRecordTextLength : sizeof(Member);
+    const std::size_t nLength = RecordType<Member>() == DBTYPE_STR ? g_nRecordTextLength : sizeof(Member);
     return {nOrdinal, RecordType<Member>(), nLength, offset(&(s_row.*pMember)),
             pStatus ? offset(&(s_row.*pStatus)) : kNoStatus};
 }

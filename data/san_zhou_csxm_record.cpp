@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr const char* kQuery = "SELECT * FROM z_c_SanZhouCSXM WHERE GCSY > -1 and %s;";
+constexpr const char* g_pQuery = "SELECT * FROM z_c_SanZhouCSXM WHERE GCSY > -1 and %s;";
 
 std::vector<CColumnBinding> Columns() {
     using Row = CSanZhouCSXMRow;
@@ -20,4 +20,4 @@ std::vector<CColumnBinding> Columns() {
 
 CSanZhouCSXMRecord::CSanZhouCSXMRecord()
     : CSanZhouCSXMRow{}
-    , CRecordAccessor(kQuery, Columns(), static_cast<CSanZhouCSXMRow*>(this), sizeof(CSanZhouCSXMRow)) {}
+    , CRecordAccessor(g_pQuery, Columns(), static_cast<CSanZhouCSXMRow*>(this), sizeof(CSanZhouCSXMRow)) {}

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr const char* kQuery = "SELECT * FROM z_c_SanZhou WHERE GCSY > -1 and %s;";
+constexpr const char* g_pQuery = "SELECT * FROM z_c_SanZhou WHERE GCSY > -1 and %s;";
 
 std::vector<CColumnBinding> Columns() {
     using Row = CSanZhouRow;
@@ -27,4 +27,4 @@ std::vector<CColumnBinding> Columns() {
 
 CSanZhouRecord::CSanZhouRecord()
     : CSanZhouRow{}
-    , CRecordAccessor(kQuery, Columns(), static_cast<CSanZhouRow*>(this), sizeof(CSanZhouRow)) {}
+    , CRecordAccessor(g_pQuery, Columns(), static_cast<CSanZhouRow*>(this), sizeof(CSanZhouRow)) {}

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr const char* kQuery = "SELECT GCSY,ZKBH,TCCDSD,TCHD,TCMC FROM z_g_TuCeng WHERE GCSY > -1 and %s;";
+constexpr const char* g_pQuery = "SELECT GCSY,ZKBH,TCCDSD,TCHD,TCMC FROM z_g_TuCeng WHERE GCSY > -1 and %s;";
 
 std::vector<CColumnBinding> Columns() {
     using Row = CTuCengRow;
@@ -16,4 +16,4 @@ std::vector<CColumnBinding> Columns() {
 
 CTuCengRecord::CTuCengRecord()
     : CTuCengRow{}
-    , CRecordAccessor(kQuery, Columns(), static_cast<CTuCengRow*>(this), sizeof(CTuCengRow)) {}
+    , CRecordAccessor(g_pQuery, Columns(), static_cast<CTuCengRow*>(this), sizeof(CTuCengRow)) {}

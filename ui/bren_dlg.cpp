@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int MOST_SAMPLES = 100;
+constexpr int g_nMostSamples = 100;
 
 } // namespace
 
@@ -57,8 +57,8 @@ CBRENDlg::CNext CBRENDlg::ConfirmSelection() {
         m_bSamplesOk = 0;
         return CNext::Close;
     }
-    std::vector<int> selected(MOST_SAMPLES);
-    const int count = m_pageGen.m_listQY.GetSelItems(MOST_SAMPLES, selected.data());
+    std::vector<int> selected(g_nMostSamples);
+    const int count = m_pageGen.m_listQY.GetSelItems(g_nMostSamples, selected.data());
     if (count == LB_ERR) return CNext::Close;
     selected.resize(static_cast<std::size_t>(count));
     if (selected.empty() && m_pageGen.m_listQY.GetCount() > 0) return StayWith("至少选取一项取样编号!");
@@ -158,18 +158,18 @@ void CBRENDlg::PrintTableResults() const {
 }
 
 void CBRENDlg::MarkSelection() {
-    SaveMarks(MARKS_SECTION, SampleMarksKey(m_strZKBH), &m_pageGen.m_listQY, g_strMarksIni);
+    SaveMarks(g_pMarksSection, SampleMarksKey(m_strZKBH), &m_pageGen.m_listQY, g_strMarksIni);
     if (AllDone(&m_pageGen.m_listQY))
-        SaveMarks(MARKS_SECTION, BoreholeMarksKey(), &m_pageGen.m_listZK, g_strMarksIni);
+        SaveMarks(g_pMarksSection, BoreholeMarksKey(), &m_pageGen.m_listZK, g_strMarksIni);
 }
 
 void CBRENDlg::WriteAllMarks() const {
     CString boreholes;
     for (const arZKBH& record : m_pageGen.m_arByZK) {
-        WritePrivateProfileStringA(MARKS_SECTION, SampleMarksKey(record.m_strZKBH),
+        WritePrivateProfileStringA(g_pMarksSection, SampleMarksKey(record.m_strZKBH),
                                    JoinTexts(record.m_saQY, '@'), g_strMarksIni);
         boreholes += record.m_strZKBH + "@";
     }
-    WritePrivateProfileStringA(MARKS_SECTION, BoreholeMarksKey(), boreholes + "BR全部-全部试样",
+    WritePrivateProfileStringA(g_pMarksSection, BoreholeMarksKey(), boreholes + "BR全部-全部试样",
                                g_strMarksIni);
 }

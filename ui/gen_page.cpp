@@ -79,7 +79,7 @@ BOOL CGenPage::OnInitDialog() {
         m_listZK.AddString(strZK);
     for (const CString& strQY : m_saQY)
         m_listQY.AddString(strQY);
-    LoadMarks(MARKS_SECTION, BoreholeMarksKey(), &m_listZK, g_strMarksIni);
+    LoadMarks(g_pMarksSection, BoreholeMarksKey(), &m_listZK, g_strMarksIni);
     m_listZK.SetCurSel(0);
     LoadSamples();
     return TRUE;
@@ -111,7 +111,7 @@ int CGenPage::ReadSamples() {
         ReadTestMethod(m_strZKBH, strQY);
     } while (record.MoveNextRow() == 0);
     record.CloseRows();
-    LoadMarks(MARKS_SECTION, SampleMarksKey(m_strZKBH), &m_listQY, g_strMarksIni);
+    LoadMarks(g_pMarksSection, SampleMarksKey(m_strZKBH), &m_listQY, g_strMarksIni);
     return 1;
 }
 
@@ -158,9 +158,9 @@ void CGenPage::OnClearMarks() {
     CString strZK;
     m_listZK.GetText(index, strZK);
     if (m_listQY.IsMultiple())
-        ClearMarks(MARKS_SECTION, SampleMarksKey(WithoutMark(strZK)), &m_listQY, g_strMarksIni);
+        ClearMarks(g_pMarksSection, SampleMarksKey(WithoutMark(strZK)), &m_listQY, g_strMarksIni);
     if (!AnyMarked(&m_listQY)) return;
-    ClearMarks(MARKS_SECTION, BoreholeMarksKey(), &m_listZK, g_strMarksIni);
+    ClearMarks(g_pMarksSection, BoreholeMarksKey(), &m_listZK, g_strMarksIni);
     m_listZK.SetCurSel(index);
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double LEAST_IP = 0.0001; // below it, either way, a liquidity index means nothing
+constexpr double g_dLeastIP = 0.0001; // below it, either way, a liquidity index means nothing
 
 CString TwoDecimals(double value) {
     CString text;
@@ -25,7 +25,7 @@ void ReadIndices(const CQuYangRecord& sample, CSampleContext* context) {
     const double plasticLimit = sample.m_fQYSY;
     const double ip = static_cast<double>(sample.m_fQYYX) - plasticLimit;
     context->m_strIP = TwoDecimals(ip);
-    if (IsNull(sample.m_dwStatusQYHSL) || (ip > -LEAST_IP && ip < LEAST_IP)) return;
+    if (IsNull(sample.m_dwStatusQYHSL) || (ip > -g_dLeastIP && ip < g_dLeastIP)) return;
     context->m_strIL = TwoDecimals((static_cast<double>(sample.m_fQYHSL) - plasticLimit) / ip);
 }
 

@@ -3,7 +3,7 @@
 
 #include "platform/mfc/string.h"
 
-inline constexpr const char* MARKS_SECTION = "CBRENDlg";
+inline constexpr const char* g_pMarksSection = "CBRENDlg";
 
 /// A text of the running project (section Project), up to 1023 bytes; empty when there is none.
 CString ReadProjectText(const char* key);
