@@ -98,3 +98,37 @@ Acad::ErrorStatus AcDbArc::subTransformBy(const AcGeMatrix3d& xform) {
     m_dEndAngle = m_dStartAngle + dSweep;
     return Acad::eOk;
 }
+
+AcGePoint3d AcDbArc::At(double radians) const {
+    return m_ptCenter + AcGeVector3d(std::cos(radians), std::sin(radians), 0.0) * m_dRadius;
+}
+
+Acad::ErrorStatus AcDbArc::subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray&,
+                                            AcDbIntArray&) const {
+    assertReadEnabled();
+    gripPoints.append(m_ptCenter);
+    for (const double angle : {m_dStartAngle, m_dEndAngle, m_dStartAngle + Sweep() / 2.0})
+        gripPoints.append(At(angle));
+    return Acad::eOk;
+}
+
+void AcDbArc::MoveGrip(int index, const AcGeVector3d& offset) {
+    if (index == 0) m_ptCenter += offset;
+    if (index < 1 || index > 3) return;
+    const double dAngle = index == 1   ? m_dStartAngle
+                          : index == 2 ? m_dEndAngle
+                                       : m_dStartAngle + Sweep() / 2.0;
+    AcGeVector3d way = At(dAngle) + offset - m_ptCenter;
+    way.z = 0.0;
+    if (way.isZeroLength()) return; // onto the centre, where there is no direction
+    if (index == 1) m_dStartAngle = std::atan2(way.y, way.x);
+    if (index == 2) m_dEndAngle = std::atan2(way.y, way.x);
+    if (index == 3) m_dRadius = way.length();
+}
+
+Acad::ErrorStatus AcDbArc::subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) {
+    assertWriteEnabled();
+    for (const int index : indices)
+        MoveGrip(index, offset);
+    return Acad::eOk;
+}

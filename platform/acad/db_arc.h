@@ -28,9 +28,16 @@ protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
     Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const override;
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
+    /// Centre, start, end and middle: the centre moves the arc, start and end turn towards their new place,
+    /// the middle sets the radius.
+    Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray& osnapModes,
+                                       AcDbIntArray& geomIds) const override;
+    Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) override;
 
 private:
     double Sweep() const; ///< radians, above 0 and at most a whole turn
+    AcGePoint3d At(double radians) const;
+    void MoveGrip(int index, const AcGeVector3d& offset);
 
     AcGePoint3d m_ptCenter;
     double m_dRadius = 1.0, m_dStartAngle = 0.0, m_dEndAngle = 0.0;

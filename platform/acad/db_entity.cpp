@@ -87,3 +87,14 @@ Acad::ErrorStatus AcDbEntity::subGetGeomExtents(AcDbExtents& extents) const {
     extents = box;
     return Acad::eOk;
 }
+
+Acad::ErrorStatus AcDbEntity::subGetStretchPoints(AcGePoint3dArray& stretchPoints) const {
+    AcDbIntArray osnapModes, geomIds;
+    return subGetGripPoints(stretchPoints, osnapModes, geomIds);
+}
+
+Acad::ErrorStatus AcDbEntity::SetHighlighted(bool bHighlighted) const {
+    assertReadEnabled();
+    m_bHighlighted = bHighlighted;
+    return Acad::eOk;
+}

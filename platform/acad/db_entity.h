@@ -52,6 +52,17 @@ public:
     Acad::ErrorStatus moveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) {
         return subMoveGripPointsAt(indices, offset);
     }
+    /// The points by which a stretch takes hold of the entity: its grips unless the class has others.
+    Acad::ErrorStatus getStretchPoints(AcGePoint3dArray& stretchPoints) const {
+        return subGetStretchPoints(stretchPoints);
+    }
+    Acad::ErrorStatus moveStretchPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) {
+        return subMoveStretchPointsAt(indices, offset);
+    }
+    // Shown as picked, until taken back; no change of the drawing.
+    Acad::ErrorStatus highlight() const { return SetHighlighted(true); }
+    Acad::ErrorStatus unhighlight() const { return SetHighlighted(false); }
+    bool IsHighlighted() const { return m_bHighlighted; }
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
@@ -74,11 +85,19 @@ protected:
     virtual Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray&, const AcGeVector3d&) {
         return Acad::eNotApplicable;
     }
+    virtual Acad::ErrorStatus subGetStretchPoints(AcGePoint3dArray& stretchPoints) const;
+    virtual Acad::ErrorStatus subMoveStretchPointsAt(const AcDbIntArray& indices,
+                                                     const AcGeVector3d& offset) {
+        return subMoveGripPointsAt(indices, offset);
+    }
 
 private:
+    Acad::ErrorStatus SetHighlighted(bool bHighlighted) const;
+
     Adesk::UInt16 m_nColorIndex = g_nColorByLayer;
     AcDbObjectId m_idLinetype, m_idLayer;
     std::shared_ptr<const CDisplayList> m_pPicture;
+    mutable bool m_bHighlighted = false;
 };
 
 /// Opens a stored entity, as acdbOpenObject does.

@@ -1,10 +1,30 @@
 #include "platform/acad/db_polyline.h"
 
+#include "platform/acad/bulge_arc.h"
+#include "platform/acad/db_arc.h"
 #include "platform/acad/db_filer.h"
+#include "platform/acad/db_line.h"
 #include "platform/acad/display_transform.h"
 #include "platform/acad/rx_class.h"
 
+#include <algorithm>
+
 ACRX_DEFINE_MEMBERS(AcDbPolyline, AcDbEntity, L"LWPOLYLINE")
+
+namespace {
+
+std::unique_ptr<AcDbEntity> Segment(const CPolylineVertex& from, const CPolylineVertex& to) {
+    if (const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge)) {
+        const double dOther = arc->m_dStart + arc->m_dSweep;
+        return std::make_unique<AcDbArc>(AcGePoint3d(arc->m_ptCenter.x, arc->m_ptCenter.y, 0.0),
+                                         arc->m_dRadius, std::min(arc->m_dStart, dOther),
+                                         std::max(arc->m_dStart, dOther));
+    }
+    return std::make_unique<AcDbLine>(AcGePoint3d(from.m_pt.x, from.m_pt.y, 0.0),
+                                      AcGePoint3d(to.m_pt.x, to.m_pt.y, 0.0));
+}
+
+} // namespace
 
 void AcDbPolyline::setClosed(Adesk::Boolean closed) {
     assertWriteEnabled();
@@ -136,5 +156,35 @@ Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& xform) {
     const std::optional<CPlaneTransform> plane = PlaneTransform(xform);
     if (!plane) return Acad::eNotApplicable;
     TransformVertices(m_arVertices, xform, *plane);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::subExplode(AcDbVoidPtrArray& entitySet) const {
+    assertReadEnabled();
+    const std::size_t count = m_arVertices.size();
+    if (count < 2) return Acad::eNotApplicable;
+    for (std::size_t i = 0; i < (m_bClosed ? count : count - 1); ++i) {
+        std::unique_ptr<AcDbEntity> pSegment = Segment(m_arVertices[i], m_arVertices[(i + 1) % count]);
+        pSegment->setPropertiesFrom(this);
+        entitySet.append(pSegment.release());
+    }
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray&,
+                                                 AcDbIntArray&) const {
+    assertReadEnabled();
+    for (const CPolylineVertex& vertex : m_arVertices)
+        gripPoints.append({vertex.m_pt.x, vertex.m_pt.y, 0.0});
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbPolyline::subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) {
+    assertWriteEnabled();
+    for (const int index : indices) {
+        if (index < 0 || index >= static_cast<int>(m_arVertices.size())) continue;
+        AcGePoint2d& point = m_arVertices[static_cast<std::size_t>(index)].m_pt;
+        point.set(point.x + offset.x, point.y + offset.y);
+    }
     return Acad::eOk;
 }

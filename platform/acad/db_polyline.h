@@ -35,6 +35,12 @@ protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
     Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const override;
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
+    /// Lines and arcs, without widths; eNotApplicable for fewer than two vertices.
+    Acad::ErrorStatus subExplode(AcDbVoidPtrArray& entitySet) const override;
+    /// The vertices.
+    Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray& osnapModes,
+                                       AcDbIntArray& geomIds) const override;
+    Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) override;
 
 private:
     std::vector<CPolylineVertex> m_arVertices;

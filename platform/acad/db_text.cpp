@@ -279,3 +279,17 @@ void AcDbText::TransformUnevenly(const AcGeMatrix3d& xform) {
     m_dHeight *= up.length();
     if (!along.isZeroLength() && !up.isZeroLength()) m_dWidthFactor *= along.length() / up.length();
 }
+
+Acad::ErrorStatus AcDbText::subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray&,
+                                             AcDbIntArray&) const {
+    assertReadEnabled();
+    gripPoints.append(m_ptPosition);
+    if (!isDefaultAlignment()) gripPoints.append(m_ptAlignment);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbText::subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) {
+    assertWriteEnabled();
+    const bool bMoves = indices.contains(0) || (!isDefaultAlignment() && indices.contains(1));
+    return bMoves ? transformBy(AcGeMatrix3d::translation(offset)) : Acad::eOk;
+}

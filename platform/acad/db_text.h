@@ -67,6 +67,10 @@ protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
     Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const override;
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
+    /// The position, and the alignment point where it counts; each moves the text.
+    Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray& osnapModes,
+                                       AcDbIntArray& geomIds) const override;
+    Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) override;
     virtual const std::wstring& ShownText() const { return m_strText; }
     /// Follows a transformation as well as a text can that does not slant: it never refuses.
     void TransformUnevenly(const AcGeMatrix3d& xform);

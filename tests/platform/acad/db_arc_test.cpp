@@ -68,3 +68,32 @@ TEST(AcDbArc, FilesItsNumbers) {
     EXPECT_EQ(RecordOf(copy, AcDb::kCopyFiler), record);
     EXPECT_EQ(copy.endAngle(), 1.5);
 }
+
+TEST(AcDbArc, HasCentreEndsAndMiddleAsGrips) {
+    AcDbArc arc({1, 0, 0}, 2.0, 0.0, std::numbers::pi);
+    AcGePoint3dArray grips;
+    AcDbIntArray osnapModes, geomIds;
+    arc.getGripPoints(grips, osnapModes, geomIds);
+    ASSERT_EQ(grips.length(), 4);
+    EXPECT_EQ(grips[0], AcGePoint3d(1, 0, 0));
+    EXPECT_EQ(grips[1], AcGePoint3d(3, 0, 0));
+    EXPECT_NEAR(grips[2].distanceTo({-1, 0, 0}), 0.0, 1e-12);
+    EXPECT_NEAR(grips[3].distanceTo({1, 2, 0}), 0.0, 1e-12);
+    const auto move = [&](int index, const AcGeVector3d& offset) {
+        AcDbIntArray indices;
+        indices.append(index);
+        arc.moveGripPointsAt(indices, offset);
+    };
+    move(3, {0, 1, 0});
+    EXPECT_NEAR(arc.radius(), 3.0, 1e-12);
+    move(1, {-3, 3, 0});
+    EXPECT_NEAR(arc.startAngle(), std::numbers::pi / 2, 1e-12);
+    move(2, {3, -3, 0});
+    EXPECT_NEAR(arc.endAngle(), -std::numbers::pi / 2, 1e-12);
+    move(3, {3, 0, 0}); // onto the centre
+    EXPECT_NEAR(arc.radius(), 3.0, 1e-12);
+    move(0, {1, 1, 1});
+    EXPECT_EQ(arc.center(), AcGePoint3d(2, 1, 1));
+    move(4, {1, 1, 1});
+    EXPECT_EQ(arc.center(), AcGePoint3d(2, 1, 1));
+}

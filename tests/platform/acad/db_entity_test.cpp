@@ -95,6 +95,35 @@ TEST(AcDbEntity, DrawsItselfForTheFileThatKeepsItsPicture) {
     EXPECT_EQ(entity.Picture(), nullptr) << "what the host shows stays";
 }
 
+TEST(AcDbEntity, IsStretchedByItsGripsUnlessItHasOtherPoints) {
+    AcDbPolyline polyline;
+    polyline.addVertexAt(0, {1, 2});
+    AcGePoint3dArray points;
+    AcDbIntArray indices;
+    ASSERT_EQ(polyline.getStretchPoints(points), Acad::eOk);
+    ASSERT_EQ(points.length(), 1);
+    EXPECT_EQ(points[0], AcGePoint3d(1, 2, 0));
+    indices.append(0);
+    EXPECT_EQ(polyline.moveStretchPointsAt(indices, {1, 0, 0}), Acad::eOk);
+    EXPECT_EQ(polyline.Vertices()[0].m_pt.x, 2.0);
+    EXPECT_EQ(CSampleEntity().getStretchPoints(points), Acad::eNotApplicable);
+}
+
+TEST(AcDbEntity, IsHighlightedUntilTakenBackWithoutAChangeOfTheDrawing) {
+    AcDbDatabase database;
+    const AcDbObjectId id = Append(database, new AcDbPolyline);
+    database.TakeChangedEntities();
+    {
+        const CDbOpen<AcDbPolyline> polyline(id);
+        EXPECT_FALSE(polyline->IsHighlighted());
+        EXPECT_EQ(polyline->highlight(), Acad::eOk);
+        EXPECT_TRUE(polyline->IsHighlighted());
+        EXPECT_EQ(polyline->unhighlight(), Acad::eOk);
+        EXPECT_FALSE(polyline->IsHighlighted());
+    }
+    EXPECT_TRUE(database.TakeChangedEntities().empty());
+}
+
 TEST(AcDbEntity, IsAParentThatModulesDeriveTheirClassesFrom) {
     AcRxClass* const pClass = newAcRxClass(L"CEntityOfModule", L"AcDbEntity", 31, 55, 255);
     ASSERT_NE(pClass, nullptr);

@@ -1,5 +1,7 @@
 #include "platform/acad/db_polyline.h"
 
+#include "platform/acad/db_arc.h"
+#include "platform/acad/db_line.h"
 #include "platform/acad/display_recorder.h"
 
 #include <gtest/gtest.h>
@@ -123,4 +125,57 @@ TEST(AcDbPolyline, DrawsItselfAsOnePrimitive) {
     EXPECT_TRUE(shape.m_bClosed);
     EXPECT_EQ(shape.m_arVertices.size(), 3u);
     EXPECT_EQ(shape.m_arVertices[1].m_dBulge, 1.0);
+}
+
+TEST(AcDbPolyline, ExplodesIntoLinesAndArcsWithItsProperties) {
+    AcDbPolyline polyline;
+    polyline.addVertexAt(0, {0, 0}, 0.0, 1.0, 1.0);
+    polyline.addVertexAt(1, {2, 0}, -1.0); // clockwise
+    polyline.addVertexAt(2, {4, 0}, 1.0);
+    polyline.setClosed(Adesk::kTrue);
+    polyline.setColorIndex(3);
+    AcDbVoidPtrArray pointers;
+    ASSERT_EQ(polyline.explode(pointers), Acad::eOk);
+    std::vector<std::unique_ptr<AcDbEntity>> parts;
+    for (void* const pPart : pointers)
+        parts.emplace_back(static_cast<AcDbEntity*>(pPart));
+    ASSERT_EQ(parts.size(), 3U);
+    const auto* const pLine = AcDbLine::cast(parts[0].get());
+    const auto* const pClockwise = AcDbArc::cast(parts[1].get());
+    const auto* const pBack = AcDbArc::cast(parts[2].get());
+    ASSERT_TRUE(pLine && pClockwise && pBack);
+    EXPECT_EQ(pLine->endPoint(), AcGePoint3d(2, 0, 0));
+    EXPECT_EQ(pLine->colorIndex(), 3);
+    EXPECT_EQ(pClockwise->center(), AcGePoint3d(3, 0, 0));
+    EXPECT_EQ(pClockwise->radius(), 1.0);
+    AcDbExtents extents;
+    ASSERT_EQ(pClockwise->getGeomExtents(extents), Acad::eOk);
+    EXPECT_NEAR(extents.minPoint().y, 0.0, 1e-12);
+    EXPECT_NEAR(extents.maxPoint().y, 1.0, 1e-12);
+    ASSERT_EQ(pBack->getGeomExtents(extents), Acad::eOk); // from (4, 0) to (0, 0), counter-clockwise
+    EXPECT_NEAR(extents.maxPoint().y, 2.0, 1e-12);
+}
+
+TEST(AcDbPolyline, OfFewerThanTwoVerticesDoesNotExplode) {
+    AcDbPolyline polyline;
+    polyline.addVertexAt(0, {0, 0});
+    AcDbVoidPtrArray parts;
+    EXPECT_EQ(polyline.explode(parts), Acad::eNotApplicable);
+    EXPECT_TRUE(parts.isEmpty());
+}
+
+TEST(AcDbPolyline, HasItsVerticesAsGrips) {
+    AcDbPolyline polyline;
+    polyline.addVertexAt(0, {0, 0});
+    polyline.addVertexAt(1, {2, 0});
+    AcGePoint3dArray grips;
+    AcDbIntArray osnapModes, geomIds, indices;
+    polyline.getGripPoints(grips, osnapModes, geomIds);
+    ASSERT_EQ(grips.length(), 2);
+    EXPECT_EQ(grips[1], AcGePoint3d(2, 0, 0));
+    for (const int index : {1, 2, -1})
+        indices.append(index);
+    polyline.moveGripPointsAt(indices, {1, 3, 0});
+    EXPECT_EQ(polyline.Vertices()[1].m_pt.y, 3.0);
+    EXPECT_EQ(polyline.Vertices()[0].m_pt.y, 0.0);
 }

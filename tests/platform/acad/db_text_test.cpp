@@ -262,3 +262,21 @@ TEST(AcDbText, FilesItsAlignment) {
     EXPECT_EQ(copy.alignmentPoint(), AcGePoint3d(4, 5, 6));
     EXPECT_EQ(RecordOf(copy, AcDb::kCopyFiler), record);
 }
+
+TEST(AcDbText, MovesByItsPositionAndByTheAlignmentPointThatCounts) {
+    AcDbText text({2, 1, 0}, L"ABCD", AcDbObjectId::kNull, 1.0);
+    text.setAlignmentPoint({4, 1, 0});
+    AcGePoint3dArray plain, aligned;
+    AcDbIntArray osnapModes, geomIds, second;
+    text.getGripPoints(plain, osnapModes, geomIds);
+    EXPECT_EQ(plain.length(), 1);
+    second.append(1);
+    text.moveGripPointsAt(second, {1, 0, 0});
+    EXPECT_EQ(text.position(), AcGePoint3d(2, 1, 0));
+    text.setHorizontalMode(AcDb::kTextCenter);
+    text.getGripPoints(aligned, osnapModes, geomIds);
+    EXPECT_EQ(aligned.length(), 2);
+    text.moveGripPointsAt(second, {1, 0, 0});
+    EXPECT_EQ(text.position(), AcGePoint3d(3, 1, 0));
+    EXPECT_EQ(text.alignmentPoint(), AcGePoint3d(5, 1, 0));
+}
