@@ -138,11 +138,11 @@ void Load(void* pPackage) {
     stack.addCommand(L"SAMPLE", L"SHEET", L"SHEET", ACRX_CMD_MODAL, SheetCommand);
     stack.addCommand(L"SAMPLE", L"BROKEN", L"BROKEN", ACRX_CMD_TRANSPARENT, BrokenSheetCommand);
     stack.addCommand(L"SAMPLE", L"LINES", L"LINES", ACRX_CMD_MODAL, LinesCommand);
-    stack.addCommand(L"SAMPLE", L"FRAME", L"FRAME", ACRX_CMD_MODAL, FrameCommand);
     stack.addCommand(L"SAMPLE", L"BOXES", L"BOXES", ACRX_CMD_MODAL, BoxesCommand);
     stack.addCommand(L"SAMPLE", L"FIND", L"FIND", ACRX_CMD_MODAL, FindCommand);
     stack.addCommand(L"SAMPLE", L"TELL", L"TELL", ACRX_CMD_MODAL, TellCommand);
     stack.addCommand(L"SAMPLE", L"WATCH", L"WATCH", ACRX_CMD_MODAL, WatchCommand);
+    stack.addCommand(L"SAMPLE", L"FRAME", L"FRAME", ACRX_CMD_MODAL, FrameCommand);
 }
 
 void Unload() {
