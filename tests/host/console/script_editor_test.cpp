@@ -1,6 +1,7 @@
 #include "host/console/script_editor.h"
 
 #include "host/plot/fonts.h"
+#include "host/plot/headless.h"
 #include "tests/host/console/program_run.h"
 
 namespace {
@@ -86,6 +87,7 @@ TEST(ScriptEditor, SeeksBesideTheDrawingBeforeTheRoot) {
     drawings.CurrentDocument()->database()->SetFilename(
         WideFromGbk((base / "drawings/c.dwg").string()).c_str());
     CModules modules;
+    StartHeadlessQt();
     CFonts fonts([](const std::string&) {});
     CHost host{answers, commandInput, drawings, modules, fonts};
     CScriptEditor editor(output, host, (base / "root").string());
