@@ -35,7 +35,7 @@ CColumnBinding RecordColumn(int nOrdinal, Member Row::*pMember, DBSTATUS Row::*p
     };
     const std::size_t nLength = RecordType<Member>() == DBTYPE_STR ? g_nRecordTextLength : sizeof(Member);
     return {nOrdinal, RecordType<Member>(), nLength, offset(&(s_row.*pMember)),
-            pStatus ? offset(&(s_row.*pStatus)) : kNoStatus};
+            pStatus ? offset(&(s_row.*pStatus)) : g_nNoStatus};
 }
 
 /// One rowset over one fixed SELECT, whose columns bind by position: a table whose columns stand in another

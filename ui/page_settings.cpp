@@ -8,14 +8,14 @@
 
 namespace {
 
-constexpr const char* kSection = "CBRENDlg";
-constexpr std::size_t kTextSize = 15;
+constexpr const char* g_pSection = "CBRENDlg";
+constexpr std::size_t g_nTextSize = 15;
 
 } // namespace
 
 CString ReadPageText(const CPageSetting& setting) {
-    std::array<char, kTextSize> szText{};
-    GetPrivateProfileStringA(kSection, setting.m_pszKey, setting.m_pszDefault, szText.data(), szText.size(),
+    std::array<char, g_nTextSize> szText{};
+    GetPrivateProfileStringA(g_pSection, setting.m_pszKey, setting.m_pszDefault, szText.data(), szText.size(),
                              g_strSettingsIni);
     return szText.data();
 }
@@ -25,7 +25,7 @@ int ReadPageNumber(const CPageSetting& setting) {
 }
 
 void WritePageText(const CPageSetting& setting, const CString& strValue) {
-    WritePrivateProfileStringA(kSection, setting.m_pszKey, strValue, g_strSettingsIni);
+    WritePrivateProfileStringA(g_pSection, setting.m_pszKey, strValue, g_strSettingsIni);
 }
 
 void WritePageNumber(const CPageSetting& setting, int nValue) {

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr const char* kSection = "QSSet";
-constexpr const char* kDateRole = "日期";
+constexpr const char* g_pSection = "QSSet";
+constexpr const char* g_pDateRole = "日期";
 
 CString Today() {
     const CTime now = CTime::GetCurrentTime();
@@ -21,14 +21,14 @@ CString Today() {
 
 int CQSPara::Exchange(int bLoad) {
     m_bLoad = bLoad;
-    ExchangeInt(kSection, "bLB", 0, &m_bLB, 0);
-    ExchangeInt(kSection, "bRQNow", 0, &m_bRQNow, 0);
+    ExchangeInt(g_pSection, "bLB", 0, &m_bLB, 0);
+    ExchangeInt(g_pSection, "bRQNow", 0, &m_bRQNow, 0);
     return 1;
 }
 
 CString CQSPara::ShownName(const CString& strRole, const CString& strName) const {
     if (m_bLB) return {};
-    return m_bRQNow && strRole == kDateRole ? Today() : strName;
+    return m_bRQNow && strRole == g_pDateRole ? Today() : strName;
 }
 
 int CQSPara::GetPeople(const CString& strDrawingClass, CStringArray* psaKeys, CStringArray* psaValues) {

@@ -197,7 +197,7 @@ struct CVerb {
     void (*m_pRun)(CModalWindow& window, const CWords& words);
 };
 
-constexpr CVerb VERBS[] = {
+constexpr CVerb g_arVerbs[] = {
     {"page", ShowPage}, {"select", Select},   {"dblclick", DoubleClick},
     {"check", Check},   {"uncheck", Uncheck}, {"set", Set},
     {"click", Click},   {"ok", PressOk},      {"cancel", PressCancel},
@@ -218,7 +218,7 @@ std::vector<std::string> RunDialogLine(CModalWindow& window, const std::string& 
         NeedWords(words, 1, 1, "show");
         return DialogLines(window);
     }
-    for (const CVerb& verb : VERBS) {
+    for (const CVerb& verb : g_arVerbs) {
         if (strVerb != verb.m_name) continue;
         verb.m_pRun(window, words);
         return {};

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double PICK_DISTANCE = 1.0; // drawing units
+constexpr double g_dPickDistance = 1.0; // drawing units
 
 AcDbObjectId ByHandle(AcDbDatabase& drawing, std::string_view hex) {
     Adesk::UInt64 value = 0;
@@ -24,7 +24,7 @@ AcDbObjectId ByPoint(AcDbDatabase& drawing, const AcGePoint3d& point) {
     const std::vector<AcDbObjectId> shown = ModelSpaceEntities(drawing);
     const auto found = std::find_if(shown.rbegin(), shown.rend(), [&](const AcDbObjectId& id) {
         const CDbOpen<AcDbEntity> entity(id);
-        return entity && entity->Picture() && PassesNear(*entity->Picture(), point, PICK_DISTANCE);
+        return entity && entity->Picture() && PassesNear(*entity->Picture(), point, g_dPickDistance);
     });
     return found == shown.rend() ? AcDbObjectId::kNull : *found;
 }

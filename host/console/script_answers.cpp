@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr const char* COMMAND_PROMPT = "Command: ";
+constexpr const char* g_pCommandPrompt = "Command: ";
 
 } // namespace
 
@@ -36,14 +36,14 @@ std::optional<std::string> CScriptAnswers::Next(const std::string& strPrompt) {
 std::optional<std::string> CScriptAnswers::NextCommandLine() {
     if (HasFailed()) return std::nullopt;
     m_output.BeginLine();
-    if (std::optional<std::string> typed = TakeTyped(COMMAND_PROMPT)) return typed;
-    if (m_bAskFirst) ShowPrompt(COMMAND_PROMPT);
+    if (std::optional<std::string> typed = TakeTyped(g_pCommandPrompt)) return typed;
+    if (m_bAskFirst) ShowPrompt(g_pCommandPrompt);
     std::optional<std::string> line = ReadLine();
     if (!line) {
         m_output.BeginLine();
         return std::nullopt;
     }
-    if (!m_bAskFirst) ShowPrompt(COMMAND_PROMPT);
+    if (!m_bAskFirst) ShowPrompt(g_pCommandPrompt);
     ShowAnswer(*line);
     return line;
 }

@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr const char* STANDARD_INPUT = "-";
-constexpr const char* NO_MODULE = "none";
+constexpr const char* g_pStandardInput = "-";
+constexpr const char* g_pNoModule = "none";
 
 /// The fonts that measure and paint, registered as the text metrics while they live.
 class CRegisteredFonts {
@@ -71,7 +71,7 @@ public:
 };
 
 void LoadAtStart(CHost& host, const std::string& strModule) {
-    if (strModule == NO_MODULE) return;
+    if (strModule == g_pNoModule) return;
     std::string reason;
     const bool bDefault = strModule.empty();
     if (bDefault ? host.m_modules.LoadDefault(&reason) : host.m_modules.Load(strModule, &reason)) return;
@@ -95,7 +95,7 @@ int Finish(const CHost& host) {
 
 int RunFrom(std::istream& input, const CProgramOptions& options, const std::string& strRootGbk) {
     CTextOutput output;
-    CScriptAnswers answers(options.m_strScript, input, output, options.m_strScript == STANDARD_INPUT,
+    CScriptAnswers answers(options.m_strScript, input, output, options.m_strScript == g_pStandardInput,
                            options.m_bQuiet);
     StartHeadlessQt();
     CRegisteredFonts fonts(output);
@@ -132,7 +132,7 @@ int RunScript(const CProgramOptions& options) {
                   << InstallationRoot() << std::endl;
         return EXIT_BAD_USAGE;
     }
-    if (options.m_strScript == STANDARD_INPUT) return RunFrom(std::cin, options, strRootGbk);
+    if (options.m_strScript == g_pStandardInput) return RunFrom(std::cin, options, strRootGbk);
     std::ifstream script(options.m_strScript, std::ios::binary);
     // A folder opens, but gives nothing.
     if (!script || (script.peek() == std::ifstream::traits_type::eof() && !script.eof())) {

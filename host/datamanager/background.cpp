@@ -14,7 +14,7 @@
 namespace {
 
 /// What the new process says first: this byte when it is ready, else why it failed.
-constexpr char kReady = '\n';
+constexpr char g_cReady = '\n';
 
 void CloseAllBut(int nKept) {
     const int nLimit = static_cast<int>(sysconf(_SC_OPEN_MAX));
@@ -42,7 +42,7 @@ void Say(int nPipe, const std::string& strText) {
     bool bReady = false;
     try {
         fnWork([&] {
-            Say(nPipe, std::string(1, kReady));
+            Say(nPipe, std::string(1, g_cReady));
             close(nPipe);
             bReady = true;
         });
@@ -73,7 +73,7 @@ pid_t RunInBackground(const std::function<void(const std::function<void()>& fnRe
     close(pipe[1]);
     const std::string strSaid = nProcess > 0 ? ReadAll(pipe[0]) : "no process can be made";
     close(pipe[0]);
-    if (strSaid == std::string(1, kReady)) return nProcess;
+    if (strSaid == std::string(1, g_cReady)) return nProcess;
     if (nProcess > 0) waitpid(nProcess, nullptr, 0);
     throw CFailure(ExitStatus::NoAccess,
                    strSaid.empty() ? "the resident data manager ended at once" : strSaid);

@@ -3,7 +3,7 @@
 #include <string_view>
 
 namespace {
-constexpr int kEnd = std::char_traits<char>::eof();
+constexpr int g_nEnd = std::char_traits<char>::eof();
 }
 
 CCsvReader::CCsvReader(std::istream& stream)
@@ -12,9 +12,9 @@ CCsvReader::CCsvReader(std::istream& stream)
 }
 
 void CCsvReader::SkipMark() {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    for (std::size_t i = 0; i < kMark.size(); ++i) {
-        if (Peek() == static_cast<unsigned char>(kMark[i])) {
+    constexpr std::string_view strMark = "\xEF\xBB\xBF";
+    for (std::size_t i = 0; i < strMark.size(); ++i) {
+        if (Peek() == static_cast<unsigned char>(strMark[i])) {
             m_buffer.sbumpc();
             continue;
         }
@@ -36,7 +36,7 @@ int CCsvReader::Take() {
 
 /// Whether the line, or the file, ends here. A CR before the LF belongs to the end.
 bool CCsvReader::AtLineEnd() {
-    if (Peek() != '\r') return Peek() == '\n' || Peek() == kEnd;
+    if (Peek() != '\r') return Peek() == '\n' || Peek() == g_nEnd;
     m_buffer.sbumpc();
     if (Peek() == '\n') return true;
     m_buffer.sungetc();
@@ -44,9 +44,9 @@ bool CCsvReader::AtLineEnd() {
 }
 
 bool CCsvReader::Next(CCsvRecord* pRecord) {
-    while (Peek() != kEnd && AtLineEnd())
+    while (Peek() != g_nEnd && AtLineEnd())
         Take();
-    if (Peek() == kEnd) return false;
+    if (Peek() == g_nEnd) return false;
     pRecord->m_nLine = m_nLine;
     pRecord->m_arFields.clear();
     pRecord->m_strFault.clear();
@@ -83,7 +83,7 @@ void CCsvReader::ReadPlain(CCsvRecord* pRecord) {
 void CCsvReader::ReadQuoted(CCsvRecord* pRecord) {
     std::string& strField = pRecord->m_arFields.back();
     Take();
-    for (int c = Take(); c != kEnd; c = Take()) {
+    for (int c = Take(); c != g_nEnd; c = Take()) {
         if (c == '"' && Peek() != '"') {
             if (Peek() != ',' && !AtLineEnd()) pRecord->m_strFault = "text follows the closing quote";
             return;
@@ -95,6 +95,6 @@ void CCsvReader::ReadQuoted(CCsvRecord* pRecord) {
 }
 
 void CCsvReader::SkipLine() {
-    while (Peek() != '\n' && Peek() != kEnd)
+    while (Peek() != '\n' && Peek() != g_nEnd)
         Take();
 }

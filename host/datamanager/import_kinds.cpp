@@ -18,40 +18,41 @@ constexpr CImportColumn Optional(std::string_view strName, ColumnKind kind) {
     return {strName, kind, false, false, true};
 }
 
-constexpr std::array kReadings = {
+constexpr std::array g_arReadings = {
     Key("ZKBH", Text),         Key("QYBH", Text),        Key("SJBH", Int32),      Key("SHJHXH", Int32),
     Required("WY", Float),     Required("SYGD", Float),  Required("SYZJ", Float), Required("CLHXS", Float),
     Required("GJKXYL", Float), Required("CLHDS", Float), Required("ZXBX", Float), Required("JQPS", Float),
     Required("KXYL", Float),   Required("GJPS", Float),  Required("JLLX", Int8),
 };
-constexpr std::array<std::string_view, 11> kReadingValues = {
+constexpr std::array<std::string_view, 11> g_arReadingValues = {
     "WY", "SYGD", "SYZJ", "CLHXS", "GJKXYL", "CLHDS", "ZXBX", "JQPS", "KXYL", "GJPS", "JLLX"};
-constexpr std::array kReadingParts = {CImportPart{&g_tableSanZhouCSXM, kReadingValues}};
+constexpr std::array g_arReadingParts = {CImportPart{&g_tableSanZhouCSXM, g_arReadingValues}};
 
 // The method may be empty though its column must be there.
-constexpr std::array kSamples = {
+constexpr std::array g_arSamples = {
     Key("ZKBH", Text),       Key("QYBH", Text),       CImportColumn{"SYFF", Text, false, true, true},
     Optional("QYSD", Float), Optional("QYHD", Float), Optional("QYHSL", Float),
     Optional("QYLX", UInt8), Optional("QYSY", Float), Optional("QYYX", Float),
 };
-constexpr std::array<std::string_view, 6> kSampleValues = {"QYSD", "QYHD", "QYHSL", "QYLX", "QYSY", "QYYX"};
-constexpr std::array<std::string_view, 1> kSampleMethod = {"SYFF"};
-constexpr std::array kSampleParts = {CImportPart{&g_tableQuYang, kSampleValues},
-                                     CImportPart{&g_tableSanZhou, kSampleMethod}};
+constexpr std::array<std::string_view, 6> g_arSampleValues = {"QYSD", "QYHD", "QYHSL",
+                                                              "QYLX", "QYSY", "QYYX"};
+constexpr std::array<std::string_view, 1> g_arSampleMethod = {"SYFF"};
+constexpr std::array g_arSampleParts = {CImportPart{&g_tableQuYang, g_arSampleValues},
+                                        CImportPart{&g_tableSanZhou, g_arSampleMethod}};
 
-constexpr std::array kLayers = {
+constexpr std::array g_arLayers = {
     Key("ZKBH", Text),
     Key("TCCDSD", Float),
     Required("TCHD", Float),
     Required("TCMC", Text),
 };
-constexpr std::array<std::string_view, 2> kLayerValues = {"TCHD", "TCMC"};
-constexpr std::array kLayerParts = {CImportPart{&g_tableTuCeng, kLayerValues}};
+constexpr std::array<std::string_view, 2> g_arLayerValues = {"TCHD", "TCMC"};
+constexpr std::array g_arLayerParts = {CImportPart{&g_tableTuCeng, g_arLayerValues}};
 
-constexpr std::array kKinds = {
-    CImportKind{"readings", "CLHDS", kReadings, kReadingParts},
-    CImportKind{"samples", "SYFF", kSamples, kSampleParts},
-    CImportKind{"layers", "TCCDSD", kLayers, kLayerParts},
+constexpr std::array g_arKinds = {
+    CImportKind{"readings", "CLHDS", g_arReadings, g_arReadingParts},
+    CImportKind{"samples", "SYFF", g_arSamples, g_arSampleParts},
+    CImportKind{"layers", "TCCDSD", g_arLayers, g_arLayerParts},
 };
 
 } // namespace
@@ -63,5 +64,5 @@ int CImportKind::FindColumn(std::string_view strName) const {
 }
 
 std::span<const CImportKind> ImportKinds() {
-    return kKinds;
+    return g_arKinds;
 }

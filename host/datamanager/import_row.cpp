@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t kLongestText = 255; // bytes, the buffers of the suite
+constexpr std::size_t g_nLongestText = 255; // bytes, the buffers of the suite
 
 /// A character for a message: `"𠀀" (U+20000)`; broken bytes have no form of their own.
 std::string CharacterName(const std::string& strCharacter) {
@@ -31,7 +31,7 @@ std::string TakeText(const std::string& strField, CDbValue* pValue) {
     std::string strRefused;
     if (!Utf8ToGbk(strField, &strText, &strRefused)) return CharacterName(strRefused);
     if (strText.find('\0') != std::string::npos) return "the text holds a zero byte";
-    if (strText.size() > kLongestText)
+    if (strText.size() > g_nLongestText)
         return "the text has " + std::to_string(strText.size()) + " bytes in code page 936, more than 255";
     *pValue = std::move(strText);
     return {};
@@ -81,9 +81,9 @@ std::string TakeField(const std::string& strField, const CImportColumn& column, 
 }
 
 bool IsKnownMethod(const CDbValue& value) {
-    constexpr std::array<std::string_view, 3> kMethods = {"不固结不排水剪", "固结不排水剪", "固结排水剪"};
+    constexpr std::array<std::string_view, 3> arMethods = {"不固结不排水剪", "固结不排水剪", "固结排水剪"};
     const auto* pText = std::get_if<std::string>(&value);
-    return !pText || std::ranges::find(kMethods, *pText) != kMethods.end();
+    return !pText || std::ranges::find(arMethods, *pText) != arMethods.end();
 }
 
 } // namespace

@@ -10,9 +10,9 @@ namespace {
 
 /// Reading takes off blanks at the ends and one pair of quotes around the value.
 bool NeedsQuotes(const std::string& strValue) {
-    constexpr std::string_view kTakenOff = " \t\"'";
-    return !strValue.empty() && (kTakenOff.find(strValue.front()) != std::string_view::npos ||
-                                 kTakenOff.find(strValue.back()) != std::string_view::npos);
+    constexpr std::string_view strTakenOff = " \t\"'";
+    return !strValue.empty() && (strTakenOff.find(strValue.front()) != std::string_view::npos ||
+                                 strTakenOff.find(strValue.back()) != std::string_view::npos);
 }
 
 } // namespace

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 CInstallation::CInstallation()
     : m_root(InstallationRoot())
     , m_strRoot(FromTerminal(m_root.string())) {
-    if (!fs::is_regular_file(m_root / kInstallationIni))
+    if (!fs::is_regular_file(m_root / g_pInstallationIni))
         throw CFailure(ExitStatus::NoAccess, m_root.string() + ": there is no installation (no tervo.ini)");
 }
 
@@ -34,7 +34,7 @@ CIniFile CInstallation::ProjectIni() const {
 }
 
 std::string CInstallation::ProjectConnect() const {
-    return CIniFile(Below(kInstallationIni)).Text("TVTool", "ProjectConnect");
+    return CIniFile(Below(g_pInstallationIni)).Text("TVTool", "ProjectConnect");
 }
 
 CInstallationLock::CInstallationLock(const CInstallation& installation)

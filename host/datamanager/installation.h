@@ -28,7 +28,7 @@ private:
 };
 
 /// The installation's own ini file in a root.
-inline constexpr const char* kInstallationIni = "tervo.ini";
+inline constexpr const char* g_pInstallationIni = "tervo.ini";
 
 /// Only one call at a time changes an installation; waits for its turn.
 class CInstallationLock {

@@ -14,7 +14,7 @@ struct CLineType {
 
 // Each pattern also comes with half and double lengths, under the names that drawings use for them. On paper
 // Dashed2 has dashes of 2 mm and gaps of 1 mm.
-constexpr std::array kLineTypes = {
+constexpr std::array g_arLineTypes = {
     CLineType{"Dashed", "__ __ __ __ __ __ __", "0.4,-0.2"},
     CLineType{"Dashed2", "_ _ _ _ _ _ _ _ _ _", "0.2,-0.1"},
     CLineType{"DashedX2", "____  ____  ____", "0.8,-0.4"},
@@ -45,7 +45,7 @@ constexpr std::array kLineTypes = {
 
 std::string LineTypeFile() {
     std::string strFile = ";; Line types for sheets in millimetres, LTSCALE 10\n";
-    for (const CLineType& type : kLineTypes) {
+    for (const CLineType& type : g_arLineTypes) {
         strFile.append("*").append(type.m_strName).append(",").append(type.m_strName);
         strFile.append(" ").append(type.m_strPicture).append("\n");
         strFile.append("A,").append(type.m_strPattern).append("\n");

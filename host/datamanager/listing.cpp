@@ -48,7 +48,7 @@ std::vector<CListedSample> ReadSamples(CDbConnection& database, std::int32_t nGC
     const auto pSamples = database.Query("SELECT ZKBH, QYBH FROM (SELECT ZKBH, QYBH FROM z_c_SanZhou" +
                                          strOfProject + " UNION SELECT ZKBH, QYBH FROM z_c_SanZhouCSXM" +
                                          strOfProject + " UNION SELECT ZKBH, QYBH FROM z_c_QuYang" +
-                                         strOfProject + ") AS samples ORDER BY " + kNaturalOrder);
+                                         strOfProject + ") AS samples ORDER BY " + g_pNaturalOrder);
     const auto mapMethods = BySample(*pMethods);
     const auto mapReadings = BySample(*pReadings);
     std::vector<CListedSample> arSamples;

@@ -33,7 +33,7 @@ void MakeDatabase(const std::string& strPath, std::span<const CTable* const> arT
 void MakeInstallation(const std::string& strRoot) {
     const fs::path root = fs::absolute(strRoot).lexically_normal();
     const std::string strBelow = FromTerminal(root.string()) + "/";
-    if (fs::exists(root / kInstallationIni))
+    if (fs::exists(root / g_pInstallationIni))
         throw CFailure(ExitStatus::Refused, root.string() + ": the folder already holds an installation");
     for (const char* pszFolder : {"Data", "Projects", "Templates", "Support/Block", "Output"})
         fs::create_directories(root / pszFolder);
@@ -46,12 +46,12 @@ void MakeInstallation(const std::string& strRoot) {
     project.SetNumber("GLOBAL", "LOCALVER", 4);
     project.SetNumber("Project", "GCSY", -1);
     // This file makes the folder an installation, so it comes last.
-    WriteFile(root / kInstallationIni, "[TVTool]\n"
-                                       "ProjectIni=Project.ini\n"
-                                       "SettingsIni=Settings.ini\n"
-                                       "MarksIni=Marks.ini\n"
-                                       "CommonDb=Data/common.db\n"
-                                       "ConfigDb=Data/config.db\n"
-                                       "ProjectConnect=\n"
-                                       "Provider=SQLite\n");
+    WriteFile(root / g_pInstallationIni, "[TVTool]\n"
+                                         "ProjectIni=Project.ini\n"
+                                         "SettingsIni=Settings.ini\n"
+                                         "MarksIni=Marks.ini\n"
+                                         "CommonDb=Data/common.db\n"
+                                         "ConfigDb=Data/config.db\n"
+                                         "ProjectConnect=\n"
+                                         "Provider=SQLite\n");
 }

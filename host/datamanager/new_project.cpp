@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kLongestText = 255; // bytes of a text column
+constexpr std::size_t g_nLongestText = 255; // bytes of a text column
 
 bool IsControl(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
@@ -34,7 +34,7 @@ void CheckNumber(const std::string& strGCBH) {
         return IsControl(c) || std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
     });
     if (strGCBH.empty() || bBadCharacter || IsBlank(strGCBH.front()) || IsBlank(strGCBH.back()) ||
-        strUtf8.back() == '.' || strUtf8.size() > kLongestText)
+        strUtf8.back() == '.' || strUtf8.size() > g_nLongestText)
         throw CFailure(ExitStatus::Refused,
                        "\"" + strUtf8 + "\" cannot be a project number: it names a folder");
 }
@@ -42,7 +42,7 @@ void CheckNumber(const std::string& strGCBH) {
 void CheckName(const std::string& strGCMC) {
     if (std::ranges::any_of(strGCMC, IsControl))
         throw CFailure(ExitStatus::Refused, "the name has a control character");
-    if (strGCMC.size() > kLongestText)
+    if (strGCMC.size() > g_nLongestText)
         throw CFailure(ExitStatus::Refused, "the name has more than 255 bytes in code page 936");
 }
 

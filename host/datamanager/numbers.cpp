@@ -79,8 +79,8 @@ double CellNumber(const CDbCell& cell) {
 
 std::int64_t CellWhole(const CDbCell& cell) {
     if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return *pWhole;
-    constexpr double kExactBelow = 9007199254740992.0; // every whole number below it is a double
+    constexpr double dExactBelow = 9007199254740992.0; // every whole number below it is a double
     const double dValue = CellNumber(cell);
-    return std::abs(dValue) < kExactBelow && dValue == std::trunc(dValue) ? static_cast<std::int64_t>(dValue)
+    return std::abs(dValue) < dExactBelow && dValue == std::trunc(dValue) ? static_cast<std::int64_t>(dValue)
                                                                           : 0;
 }

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kSection = "Project";
+constexpr const char* g_pSection = "Project";
 
 CIniFile ProjectFile(const CInstallation& installation, const std::string& strGCBH) {
     return CIniFile(installation.Below("Projects/" + strGCBH + "/project.ini"));
@@ -22,11 +22,11 @@ CIniFile ProjectFile(const CInstallation& installation, const std::string& strGC
 CProject ReadProject(const CInstallation& installation, const std::string& strFolder) {
     const CIniFile file = ProjectFile(installation, strFolder);
     CProject project;
-    project.m_nGCSY = file.Number(kSection, "GCSY", -1);
-    project.m_strGCBH = file.Text(kSection, "GCBH", strFolder);
-    project.m_strGCMC = file.Text(kSection, "GCMC");
-    project.m_nGCBZ = file.Number(kSection, "GCBZ", 0);
-    project.m_strConnect = file.Text(kSection, "Connect");
+    project.m_nGCSY = file.Number(g_pSection, "GCSY", -1);
+    project.m_strGCBH = file.Text(g_pSection, "GCBH", strFolder);
+    project.m_strGCMC = file.Text(g_pSection, "GCMC");
+    project.m_nGCBZ = file.Number(g_pSection, "GCBZ", 0);
+    project.m_strConnect = file.Text(g_pSection, "Connect");
     return project;
 }
 
@@ -60,11 +60,11 @@ CProject FindProject(const CInstallation& installation, const std::string& strGC
 
 void WriteProject(const CInstallation& installation, const CProject& project) {
     const CIniFile file = ProjectFile(installation, project.m_strGCBH);
-    file.SetNumber(kSection, "GCSY", project.m_nGCSY);
-    file.SetText(kSection, "GCBH", project.m_strGCBH);
-    file.SetText(kSection, "GCMC", project.m_strGCMC);
-    file.SetNumber(kSection, "GCBZ", project.m_nGCBZ);
-    file.SetText(kSection, "Connect", project.m_strConnect);
+    file.SetNumber(g_pSection, "GCSY", project.m_nGCSY);
+    file.SetText(g_pSection, "GCBH", project.m_strGCBH);
+    file.SetText(g_pSection, "GCMC", project.m_strGCMC);
+    file.SetNumber(g_pSection, "GCBZ", project.m_nGCBZ);
+    file.SetText(g_pSection, "Connect", project.m_strConnect);
 }
 
 std::string ProjectDatabase(const std::string& strGCBH) {

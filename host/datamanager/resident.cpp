@@ -12,7 +12,7 @@
 #include "host/datamanager/failure.h"
 
 std::string ResidentClass(std::int32_t nEdition) {
-    if (nEdition < 0 || nEdition >= kEditions) return {};
+    if (nEdition < 0 || nEdition >= g_nEditions) return {};
     return "QMDBMANAGERE" + std::to_string(nEdition);
 }
 
@@ -35,7 +35,7 @@ void CResident::Serve() {
 
 LRESULT CResident::Handle(UINT nMessage, WPARAM wParam, LPARAM lParam) {
     Note(nMessage, wParam, lParam);
-    if (nMessage == kMessageEnd) m_window.Quit();
+    if (nMessage == g_nMessageEnd) m_window.Quit();
     return getpid();
 }
 

@@ -8,13 +8,13 @@
 #include "platform/windows/types.h"
 
 /// From modules of the suite: one is going to use the project.
-constexpr UINT kMessageUse = 2534;
+constexpr UINT g_nMessageUse = 2534;
 /// From another call of this program: the project whose index is wParam is the running one now.
-constexpr UINT kMessageTake = 0x8001;
+constexpr UINT g_nMessageTake = 0x8001;
 /// From another call of this program: end.
-constexpr UINT kMessageEnd = 0x8002;
+constexpr UINT g_nMessageEnd = 0x8002;
 
-constexpr std::int32_t kEditions = 5;
+constexpr std::int32_t g_nEditions = 5;
 
 /// The window class that modules look for, by the installed edition (0 to 4); empty for any other number.
 std::string ResidentClass(std::int32_t nEdition);

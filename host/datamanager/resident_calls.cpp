@@ -47,7 +47,7 @@ bool IsThere(const std::string& strClass) {
 
 /// Ends the resident one of that class and waits until it is gone.
 void End(const std::string& strClass) {
-    if (!Ask(strClass, kMessageEnd, 0)) {
+    if (!Ask(strClass, g_nMessageEnd, 0)) {
         if (IsThere(strClass)) FailHung();
         return;
     }
@@ -61,7 +61,7 @@ void End(const std::string& strClass) {
 
 /// Ends those that answer for another edition's class than the one that holds now.
 void EndOthers(const std::string& strClass) {
-    for (std::int32_t nEdition = 0; nEdition < kEditions; ++nEdition)
+    for (std::int32_t nEdition = 0; nEdition < g_nEditions; ++nEdition)
         if (ResidentClass(nEdition) != strClass) End(ResidentClass(nEdition));
 }
 
@@ -82,7 +82,7 @@ void PrintProcess(std::intptr_t nProcess) {
 std::unique_ptr<CResident> HaveResident(const CInstallation& installation, const CProject& project,
                                         const std::string& strClass, bool bForeground) {
     EndOthers(strClass);
-    if (const auto nProcess = Ask(strClass, kMessageTake, static_cast<WPARAM>(project.m_nGCSY))) {
+    if (const auto nProcess = Ask(strClass, g_nMessageTake, static_cast<WPARAM>(project.m_nGCSY))) {
         PrintProcess(*nProcess);
         return nullptr;
     }

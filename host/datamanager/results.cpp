@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kColumns = {"ZKBH", "QYBH", "SYFF", "SYRQ", "UUC", "UUF",
-                                                       "CUC",  "CUF",  "CUCE", "CUFE", "CDC", "CDF"};
+constexpr std::array<std::string_view, 12> g_arColumns = {"ZKBH", "QYBH", "SYFF", "SYRQ", "UUC", "UUF",
+                                                          "CUC",  "CUF",  "CUCE", "CUFE", "CDC", "CDF"};
 
 /// A field of a result: its text, GBK, and whether it is a number. Nothing for NULL.
 struct CResultField {
@@ -36,15 +36,16 @@ std::optional<CResultField> Field(const CDbCell& cell, ColumnKind kind) {
 
 std::vector<CResultRow> ReadResults(CDbConnection& database, std::int32_t nGCSY) {
     std::string strColumns;
-    for (const std::string_view strColumn : kColumns)
+    for (const std::string_view strColumn : g_arColumns)
         strColumns.append(strColumns.empty() ? "" : ",").append(strColumn);
     const std::array<CDbValue, 1> arParameters = {std::int64_t{nGCSY}};
-    const auto pRows = database.Query(
-        "SELECT " + strColumns + " FROM z_c_SanZhou WHERE GCSY = ? ORDER BY " + kNaturalOrder, arParameters);
+    const auto pRows = database.Query("SELECT " + strColumns + " FROM z_c_SanZhou WHERE GCSY = ? ORDER BY " +
+                                          g_pNaturalOrder,
+                                      arParameters);
     std::vector<CResultRow> arRows(pRows->RowCount());
     for (std::size_t nRow = 0; nRow < arRows.size(); ++nRow)
-        for (std::size_t i = 0; i < kColumns.size(); ++i)
-            arRows[nRow].push_back(Field(pRows->Cell(nRow, i), g_tableSanZhou.Column(kColumns[i]).m_kind));
+        for (std::size_t i = 0; i < g_arColumns.size(); ++i)
+            arRows[nRow].push_back(Field(pRows->Cell(nRow, i), g_tableSanZhou.Column(g_arColumns[i]).m_kind));
     return arRows;
 }
 
@@ -58,8 +59,8 @@ std::string CsvField(const std::string& strUtf8) {
 
 std::string Csv(const std::vector<CResultRow>& arRows) {
     std::string strText;
-    for (std::size_t i = 0; i < kColumns.size(); ++i)
-        strText.append(i ? "," : "").append(kColumns[i]);
+    for (std::size_t i = 0; i < g_arColumns.size(); ++i)
+        strText.append(i ? "," : "").append(g_arColumns[i]);
     strText += "\n";
     for (const CResultRow& row : arRows) {
         for (std::size_t i = 0; i < row.size(); ++i)
@@ -75,7 +76,7 @@ std::string Json(const std::vector<CResultRow>& arRows) {
     for (const CResultRow& row : arRows) {
         strText += strText.size() > 1 ? ",\n{" : "\n{";
         for (std::size_t i = 0; i < row.size(); ++i) {
-            strText.append(i ? "," : "").append("\"").append(kColumns[i]).append("\":");
+            strText.append(i ? "," : "").append("\"").append(g_arColumns[i]).append("\":");
             if (!row[i])
                 strText += "null";
             else
@@ -88,7 +89,7 @@ std::string Json(const std::vector<CResultRow>& arRows) {
 }
 
 std::string Aligned(const std::vector<CResultRow>& arRows) {
-    std::vector<std::vector<std::string>> arTable = {{kColumns.begin(), kColumns.end()}};
+    std::vector<std::vector<std::string>> arTable = {{g_arColumns.begin(), g_arColumns.end()}};
     for (const CResultRow& row : arRows) {
         std::vector<std::string>& arLine = arTable.emplace_back();
         for (const auto& field : row)

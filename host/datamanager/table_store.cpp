@@ -28,8 +28,8 @@ void AppendKey(std::string* pKey, const CImportColumn& column, const CDbValue& v
 
 /// Whether the value is a whole number of the column's range that an engine gives as a real one.
 bool IsWhole(const CImportColumn& column, double dValue) {
-    constexpr double kBeyond = 2147483648.0;
-    return column.m_kind != ColumnKind::Float && std::abs(dValue) < kBeyond && dValue == std::trunc(dValue);
+    constexpr double dBeyond = 2147483648.0;
+    return column.m_kind != ColumnKind::Float && std::abs(dValue) < dBeyond && dValue == std::trunc(dValue);
 }
 
 /// A stored key value; NULL and values of another type than the column's are no key of an import.

@@ -7,10 +7,10 @@ namespace {
 /// Indices 10 to 249 are 24 hues of 15 degrees, each in five brightnesses, full (even) and half saturated
 /// (odd).
 QColor HueColor(int nIndex) {
-    static constexpr std::array<int, 5> BRIGHTNESS = {255, 204, 153, 127, 76};
+    static constexpr std::array<int, 5> g_arBrightness = {255, 204, 153, 127, 76};
     const int nHue = (nIndex / 10 - 1) * 15;
     const int nSaturation = nIndex % 2 == 0 ? 255 : 127;
-    return QColor::fromHsv(nHue, nSaturation, BRIGHTNESS[static_cast<std::size_t>(nIndex % 10 / 2)]);
+    return QColor::fromHsv(nHue, nSaturation, g_arBrightness[static_cast<std::size_t>(nIndex % 10 / 2)]);
 }
 
 QColor Grey(int nLevel) {

@@ -22,7 +22,7 @@ QString RestFamily() {
 
 /// Names that stand for the main family: what Chinese drawings ask for and no Linux system has.
 bool IsMapped(const QString& strName) {
-    static constexpr std::array NAMES = {
+    static constexpr std::array g_arNames = {
         // Outline fonts.
         u"仿宋_GB2312", u"仿宋", u"FangSong", u"FangSong_GB2312", u"宋体", u"SimSun", u"新宋体", u"NSimSun",
         // Shape fonts, and the big fonts that go with them.
@@ -31,7 +31,7 @@ bool IsMapped(const QString& strName) {
         u"bigfont", u"chineset"};
     QStringView name(strName);
     if (name.endsWith(u".shx", Qt::CaseInsensitive)) name.chop(4);
-    return name.isEmpty() || std::any_of(NAMES.begin(), NAMES.end(), [&](const char16_t* strKnown) {
+    return name.isEmpty() || std::any_of(g_arNames.begin(), g_arNames.end(), [&](const char16_t* strKnown) {
                return name.compare(QStringView(strKnown), Qt::CaseInsensitive) == 0;
            });
 }

@@ -11,9 +11,9 @@ CPageBox SheetFor(const AcDbExtents& extents) {
     struct CSheet {
         double m_dShort, m_dLong;
     };
-    static constexpr std::array<CSheet, 5> SHEETS = {
+    static constexpr std::array<CSheet, 5> g_arSheets = {
         {{210, 297}, {297, 420}, {420, 594}, {594, 841}, {841, 1189}}};
-    constexpr double ROUNDING = 1e-6; // sums of coordinates must not push a full sheet onto the next
+    constexpr double dRounding = 1e-6; // sums of coordinates must not push a full sheet onto the next
     const CPageBox box = PageOf(extents);
     const auto around = [&](double dWidth, double dHeight) {
         const double dMidX = box.m_dLeft + box.Width() / 2.0;
@@ -22,9 +22,9 @@ CPageBox SheetFor(const AcDbExtents& extents) {
                         dMidY + dHeight / 2.0};
     };
     const auto fits = [&](double dWidth, double dHeight) {
-        return box.Width() <= dWidth + ROUNDING && box.Height() <= dHeight + ROUNDING;
+        return box.Width() <= dWidth + dRounding && box.Height() <= dHeight + dRounding;
     };
-    for (const CSheet& sheet : SHEETS) {
+    for (const CSheet& sheet : g_arSheets) {
         if (fits(sheet.m_dShort, sheet.m_dLong)) return around(sheet.m_dShort, sheet.m_dLong);
         if (fits(sheet.m_dLong, sheet.m_dShort)) return around(sheet.m_dLong, sheet.m_dShort);
     }

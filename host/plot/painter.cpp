@@ -17,8 +17,8 @@
 namespace {
 
 bool IsContinuous(const std::string& strName) {
-    static constexpr std::array NAMES = {"", "ByLayer", "ByBlock", "Continuous"};
-    return std::any_of(NAMES.begin(), NAMES.end(),
+    static constexpr std::array g_arNames = {"", "ByLayer", "ByBlock", "Continuous"};
+    return std::any_of(g_arNames.begin(), g_arNames.end(),
                        [&](const char* strOne) { return strcasecmp(strName.c_str(), strOne) == 0; });
 }
 
@@ -75,14 +75,14 @@ private:
     }
 
     void Draw(const CArcPrimitive& arc) {
-        constexpr double FULL_TURN = 2.0 * std::numbers::pi;
+        constexpr double dFullTurn = 2.0 * std::numbers::pi;
         const auto center = PaintablePoint(arc.m_ptCenter.x, arc.m_ptCenter.y);
         const AcGeVector3d u = arc.m_vecStart.normal();
         const AcGeVector3d v = arc.m_vecNormal.normal().crossProduct(u);
         if (!center || !IsPaintable(arc.m_dRadius, 0.0) || !std::isfinite(arc.m_dSweep)) return;
         if (!IsPaintable(u.x, u.y) || !IsPaintable(v.x, v.y)) return;
         const CPlaneArc plane{*center, QPointF(u.x, -u.y), QPointF(v.x, -v.y), arc.m_dRadius,
-                              std::clamp(arc.m_dSweep, -FULL_TURN, FULL_TURN)};
+                              std::clamp(arc.m_dSweep, -dFullTurn, dFullTurn)};
         QPainterPath path(plane.At(0.0));
         AppendArc(path, plane);
         Stroke(path);

@@ -44,7 +44,7 @@ void CPainterCanvas::DrawText(const CTextRun& run) {
 /// the size more keeps words together.
 void CPainterCanvas::DrawAsText(const CTextRun& run) {
     m_painter.setPen(run.m_color);
-    constexpr double APART = CFonts::PixelSize * 1e-4;
+    constexpr double dApart = CFonts::PixelSize * 1e-4;
     const double dPixel = CFonts::PixelSize / run.m_dEm;
     for (std::size_t i = 0; i < run.m_arGlyphs.size();) {
         const QRawFont* pFont = run.m_arGlyphs[i].m_glyph.m_pFont;
@@ -52,7 +52,7 @@ void CPainterCanvas::DrawAsText(const CTextRun& run) {
         QList<QPointF> arPositions;
         for (; i < run.m_arGlyphs.size() && run.m_arGlyphs[i].m_glyph.m_pFont == pFont; ++i) {
             arIndexes << run.m_arGlyphs[i].m_glyph.m_nIndex;
-            arPositions << QPointF(run.m_arGlyphs[i].m_dX * dPixel + static_cast<double>(i) * APART, 0.0);
+            arPositions << QPointF(run.m_arGlyphs[i].m_dX * dPixel + static_cast<double>(i) * dApart, 0.0);
         }
         QGlyphRun glyphs;
         glyphs.setRawFont(*pFont);

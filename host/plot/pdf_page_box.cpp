@@ -6,20 +6,20 @@
 
 namespace {
 
-constexpr double POINTS_PER_MM = 72.0 / 25.4;
+constexpr double g_dPointsPerMm = 72.0 / 25.4;
 const QByteArray BOX_START = "/MediaBox [0 0 ";
 
 } // namespace
 
 QSizeF PointsOf(const QSizeF& sizeMm) {
-    return sizeMm * POINTS_PER_MM;
+    return sizeMm * g_dPointsPerMm;
 }
 
 QSize WholePointsOf(const QSizeF& sizeMm) {
-    constexpr double ROUNDING = 1e-6;
+    constexpr double dRounding = 1e-6;
     const QSizeF points = PointsOf(sizeMm);
-    return {static_cast<int>(std::ceil(points.width() - ROUNDING)),
-            static_cast<int>(std::ceil(points.height() - ROUNDING))};
+    return {static_cast<int>(std::ceil(points.width() - dRounding)),
+            static_cast<int>(std::ceil(points.height() - dRounding))};
 }
 
 bool ExactPageBoxes(QByteArray* pPdf, const std::vector<QSizeF>& arSizesMm) {

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr double MM_PER_INCH = 25.4;
+constexpr double g_dMmPerInch = 25.4;
 
 /// Carries a sentence (GBK) from the place that fails to Plot, which gives it to the caller.
 class CPlotError : public std::exception {
@@ -62,13 +62,13 @@ void Save(const std::filesystem::path& path, const QByteArray& bytes) {
 }
 
 QByteArray MakePdf(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts) {
-    constexpr int RESOLUTION = 7200;
+    constexpr int nResolution = 7200;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setCreator(u"Tervo"_qs);
-    writer.setResolution(RESOLUTION);
+    writer.setResolution(nResolution);
     std::vector<QSizeF> arSizes;
     QPainter painter;
     for (const CPlotPage& page : arPages) {
@@ -80,8 +80,8 @@ QByteArray MakePdf(const std::vector<CPlotPage>& arPages, const CPlotOptions& op
             throw CPlotError("can't make a page");
         // The page ends at its exact height, a fraction of a point above the bottom of the whole points.
         painter.resetTransform();
-        painter.scale(RESOLUTION / MM_PER_INCH, RESOLUTION / MM_PER_INCH);
-        painter.translate(0.0, whole.height() * MM_PER_INCH / 72.0 - size.height());
+        painter.scale(nResolution / g_dMmPerInch, nResolution / g_dMmPerInch);
+        painter.translate(0.0, whole.height() * g_dMmPerInch / 72.0 - size.height());
         CPainterCanvas canvas(painter);
         PaintPage(page, options, fonts, canvas);
         arSizes.push_back(size);
@@ -102,11 +102,11 @@ QByteArray MakeSvg(const CPlotPage& page, const CPlotOptions& options, CFonts& f
 }
 
 QByteArray MakePng(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts) {
-    const double dDotsPerMm = options.m_dDotsPerInch / MM_PER_INCH;
+    const double dDotsPerMm = options.m_dDotsPerInch / g_dMmPerInch;
     const QSizeF dots = SizeOf(page) * dDotsPerMm;
-    constexpr double MOST_DOTS = 32767.0; // the raster's own limit
-    if (!(dots.width() >= 0.5) || !(dots.height() >= 0.5) || dots.width() > MOST_DOTS ||
-        dots.height() > MOST_DOTS)
+    constexpr double dMostDots = 32767.0; // the raster's own limit
+    if (!(dots.width() >= 0.5) || !(dots.height() >= 0.5) || dots.width() > dMostDots ||
+        dots.height() > dMostDots)
         throw CPlotError("the page is too large or too small for a picture at this resolution");
     QImage image(static_cast<int>(std::lround(dots.width())), static_cast<int>(std::lround(dots.height())),
                  QImage::Format_RGB32);

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double CHORD_TOLERANCE = 0.002; // mm between a wide arc's edge and its polygon
+constexpr double g_dChordTolerance = 0.002; // mm between a wide arc's edge and its polygon
 
 double Length(const QPointF& vector) {
     return std::hypot(vector.x(), vector.y());
@@ -49,7 +49,7 @@ struct CPiece {
     int Steps(double dFraction) const {
         if (!m_arc) return 1;
         const double dOuter = m_arc->m_dRadius + std::max(m_dStartWidth, m_dEndWidth) / 2.0;
-        const double dStep = 2.0 * std::acos(std::max(0.0, 1.0 - CHORD_TOLERANCE / dOuter));
+        const double dStep = 2.0 * std::acos(std::max(0.0, 1.0 - g_dChordTolerance / dOuter));
         return static_cast<int>(
             std::clamp(std::ceil(std::abs(m_arc->m_dSweep) * dFraction / dStep), 1.0, 2000.0));
     }
@@ -93,12 +93,12 @@ void AddWide(QPainterPath& path, const CPiece& piece, double dFrom, double dTo) 
 }
 
 void AddWideDashes(QPainterPath& path, const CPiece& piece, const CDashes& dashes) {
-    constexpr double MOST_DASHES = 10000.0;
+    constexpr double dMostDashes = 10000.0;
     const double dLength = piece.PieceLength();
     double dPeriod = 0.0;
     for (const double dOne : dashes.m_arLengths)
         dPeriod += dOne;
-    if (dashes.m_arLengths.empty() || dLength / dPeriod > MOST_DASHES) return AddWide(path, piece, 0.0, 1.0);
+    if (dashes.m_arLengths.empty() || dLength / dPeriod > dMostDashes) return AddWide(path, piece, 0.0, 1.0);
     double dAt = -dashes.m_dPhase;
     for (std::size_t i = 0; dAt < dLength; ++i) {
         const double dNext = dAt + dashes.m_arLengths[i % dashes.m_arLengths.size()];
@@ -110,7 +110,7 @@ void AddWideDashes(QPainterPath& path, const CPiece& piece, const CDashes& dashe
 
 /// Fills the wedge that stays open on the outer side where two wide pieces meet at an angle.
 void AddCorner(QPainterPath& path, const CPiece& before, const CPiece& after) {
-    constexpr double SHARPEST = 0.05; // below this a mitre runs far out: the corner is cut off
+    constexpr double dSharpest = 0.05; // below this a mitre runs far out: the corner is cut off
     const double dHalf = before.HalfWidth(1.0);
     if (before.m_to != after.m_from || !(dHalf > 0.0) || !(after.HalfWidth(0.0) > 0.0)) return;
     const QPointF in = before.Direction(1.0);
@@ -121,7 +121,7 @@ void AddCorner(QPainterPath& path, const CPiece& before, const CPiece& after) {
     if (std::abs(dTurn) < 1e-9 && dOnePlusCos > 1.0) return;
     QPolygonF polygon;
     polygon << before.m_to << before.Edge(1.0, dSide);
-    if (dOnePlusCos > SHARPEST && before.m_dEndWidth == after.m_dStartWidth) {
+    if (dOnePlusCos > dSharpest && before.m_dEndWidth == after.m_dStartWidth) {
         const QPointF between(-in.y() - out.y(), in.x() + out.x());
         polygon << before.m_to + between * (dSide * dHalf / dOnePlusCos);
     }

@@ -16,7 +16,7 @@ using namespace ADODB;
 namespace {
 
 /// The command types among the options; the other bits say how to run.
-constexpr long kTypes = adCmdText | adCmdTable | adCmdStoredProc | adCmdUnknown | adCmdTableDirect;
+constexpr long g_nTypes = adCmdText | adCmdTable | adCmdStoredProc | adCmdUnknown | adCmdTableDirect;
 
 bool IsName(const CSqlToken& token) {
     return token.m_kind == SqlTokenKind::Word || token.m_kind == SqlTokenKind::QuotedName;
@@ -57,7 +57,7 @@ void CheckParameters(const std::vector<CSqlToken>& arTokens, std::size_t nGiven)
 CStatement ADODB::MakeStatement(const CDbConnection& database, const std::wstring& strText, long nOptions,
                                 std::vector<CDbValue> arParameters) {
     const std::string strGbk(TrimBlanks(GbkOrRaise(strText)));
-    const long nType = nOptions < 0 ? 0 : nOptions & kTypes;
+    const long nType = nOptions < 0 ? 0 : nOptions & g_nTypes;
     if (nType == adCmdStoredProc)
         return {database.ProcedureCall(strGbk, arParameters.size()), std::move(arParameters), true};
     std::string strUtf8;

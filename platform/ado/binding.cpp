@@ -50,7 +50,7 @@ float Narrowed(double dValue) {
 }
 
 bool IsNull(const CColumnBinding& binding, const unsigned char* pBuffer) {
-    return binding.m_nStatusOffset != kNoStatus &&
+    return binding.m_nStatusOffset != g_nNoStatus &&
            Get<DBSTATUS>(pBuffer + binding.m_nStatusOffset) == DBSTATUS_S_ISNULL;
 }
 
@@ -86,7 +86,7 @@ void FetchCell(const CDbCell& cell, const CColumnBinding& binding, unsigned char
         PutText(cell, binding, pPlace);
     }
     const bool bNull = std::holds_alternative<std::monostate>(cell);
-    if (binding.m_nStatusOffset != kNoStatus)
+    if (binding.m_nStatusOffset != g_nNoStatus)
         Put(pBuffer + binding.m_nStatusOffset, bNull ? DBSTATUS_S_ISNULL : DBSTATUS_S_OK);
 }
 

@@ -16,7 +16,7 @@ struct CMeaning {
     const char* m_pszText;
 };
 
-constexpr std::array kMeanings = {
+constexpr std::array g_arMeanings = {
     CMeaning{E_FAIL, "Unspecified error"},
     CMeaning{DB_E_BADBOOKMARK, "The bookmark is not one of this recordset"},
     CMeaning{DB_E_PARAMNOTOPTIONAL, "A parameter has no value"},
@@ -78,9 +78,9 @@ CComError::CComError(HRESULT nCode, std::wstring strSource, std::wstring strDesc
     , m_strWhat(GbkFromWide(m_strDescription)) {}
 
 std::string CComError::ErrorMessage() const {
-    const auto* pFound = std::find_if(kMeanings.begin(), kMeanings.end(),
+    const auto* pFound = std::find_if(g_arMeanings.begin(), g_arMeanings.end(),
                                       [this](const CMeaning& meaning) { return meaning.m_nCode == m_nCode; });
-    if (pFound != kMeanings.end()) return pFound->m_pszText;
+    if (pFound != g_arMeanings.end()) return pFound->m_pszText;
     std::array<char, 32> szText{};
     std::snprintf(szText.data(), szText.size(), "Unknown error 0x%08X", static_cast<unsigned>(m_nCode));
     return szText.data();

@@ -17,7 +17,7 @@ namespace {
 using CGroups = std::vector<std::vector<CCriterion>>;
 
 /// Brackets multiply out; more groups than this are no filter that anybody wrote.
-constexpr std::size_t kMostGroups = 10000;
+constexpr std::size_t g_nMostGroups = 10000;
 
 [[noreturn]] void Raise(const std::string& strWhy) {
     ADODB::RaiseAdoError(ADODB::adErrInvalidArgument, "The criteria are not understood: " + strWhy + ".");
@@ -85,7 +85,7 @@ private:
             ++m_nAt;
             const CGroups arOthers = One();
             CGroups arBoth;
-            if (arGroups.size() * arOthers.size() > kMostGroups) Raise("there are too many conditions");
+            if (arGroups.size() * arOthers.size() > g_nMostGroups) Raise("there are too many conditions");
             for (const auto& arGroup : arGroups)
                 for (const auto& arOther : arOthers) {
                     arBoth.push_back(arGroup);
@@ -98,7 +98,7 @@ private:
 
     CGroups One() {
         if (!Here(SqlTokenKind::Open)) return {{Condition()}};
-        if (++m_nDepth > kDeepest) Raise("there are too many brackets");
+        if (++m_nDepth > g_nDeepest) Raise("there are too many brackets");
         ++m_nAt;
         CGroups arGroups = Either();
         if (!Here(SqlTokenKind::Close)) Raise("a bracket is missing at " + Shown());
@@ -211,7 +211,7 @@ private:
         pValue->m_strPattern = strFolded;
     }
 
-    static constexpr int kDeepest = 100;
+    static constexpr int g_nDeepest = 100;
     std::string m_strText; ///< UTF-8
     std::vector<CSqlToken> m_arTokens;
     std::size_t m_nAt = 0;

@@ -17,7 +17,7 @@ struct CDataType {
 };
 
 /// The first row of a column type is what its fields show.
-constexpr std::array kDataTypes = {
+constexpr std::array g_arDataTypes = {
     CDataType{adSmallInt, DBTYPE_I2, 2},      CDataType{adInteger, DBTYPE_I4, 4},
     CDataType{adSingle, DBTYPE_R4, 4},        CDataType{adDouble, DBTYPE_R8, 8},
     CDataType{adDate, DBTYPE_DATE, 8},        CDataType{adBoolean, DBTYPE_BOOL, 2},
@@ -33,11 +33,11 @@ constexpr std::array kDataTypes = {
     CDataType{adBinary, DBTYPE_BYTES, 0},     CDataType{adLongVarBinary, DBTYPE_BYTES, 0},
 };
 
-constexpr long kLongText = 1073741823;
-constexpr long kLongBytes = 2147483647;
+constexpr long g_nLongText = 1073741823;
+constexpr long g_nLongBytes = 2147483647;
 
 const CDataType& ShownAs(DBTYPE wColumn) {
-    return *std::find_if(kDataTypes.begin(), kDataTypes.end() - 1,
+    return *std::find_if(g_arDataTypes.begin(), g_arDataTypes.end() - 1,
                          [wColumn](const CDataType& type) { return type.m_wColumn == wColumn; });
 }
 
@@ -53,11 +53,11 @@ long ADODB::DefinedSizeOf(const CDbColumn& column) {
     const CDataType& type = ShownAs(column.m_wType);
     if (type.m_nSize > 0) return type.m_nSize;
     if (column.m_nSize > 0) return static_cast<long>(column.m_nSize);
-    return type.m_type == adVarWChar ? kLongText : kLongBytes;
+    return type.m_type == adVarWChar ? g_nLongText : g_nLongBytes;
 }
 
 DBTYPE ADODB::ColumnTypeOf(DataTypeEnum type) {
-    for (const CDataType& known : kDataTypes)
+    for (const CDataType& known : g_arDataTypes)
         if (known.m_type == type) return known.m_wColumn;
     RaiseAdoError(adErrDataConversion, "Data type " + std::to_string(type) + " is not supported.");
 }

@@ -13,10 +13,10 @@ namespace {
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr sys_days kDayZero = std::chrono::year(1899) / 12 / 30;
-constexpr double kFirstDay = -657434;  // 0100-01-01
-constexpr double kEndOfDays = 2958466; // 10000-01-01
-constexpr int kSecondsOfDay = 86400;
+constexpr sys_days g_dayZero = std::chrono::year(1899) / 12 / 30;
+constexpr double g_dFirstDay = -657434;  // 0100-01-01
+constexpr double g_dEndOfDays = 2958466; // 10000-01-01
+constexpr int g_nSecondsOfDay = 86400;
 
 /// Takes numbers and the signs between them off the front of a text.
 class CDateReader {
@@ -57,7 +57,7 @@ std::optional<double> FractionOfDay(CDateReader* pReader) {
     const bool bWhole = !bFraction || pReader->Number(1, 9) >= 0; // a variant's date is taken to the second
     if (nHour < 0 || nHour > 23 || nMinute < 0 || nMinute > 59 || nSecond < 0 || nSecond > 59 || !bWhole)
         return std::nullopt;
-    return ((nHour * 60.0 + nMinute) * 60.0 + nSecond) / kSecondsOfDay;
+    return ((nHour * 60.0 + nMinute) * 60.0 + nSecond) / g_nSecondsOfDay;
 }
 
 } // namespace
@@ -72,7 +72,7 @@ std::optional<double> DaysFromText(std::string_view strText) {
     if (nYear < 100 || !bMonth || nMonth < 1 || !bDay || nDay < 1) return std::nullopt;
     const year_month_day date = std::chrono::year(nYear) / nMonth / nDay;
     if (!date.ok()) return std::nullopt;
-    const double dDays = static_cast<double>((sys_days(date) - kDayZero).count());
+    const double dDays = static_cast<double>((sys_days(date) - g_dayZero).count());
     if (reader.AtEnd()) return dDays;
     if (!reader.Sign('T') && !reader.Sign(' ')) return std::nullopt;
     const std::optional<double> dFraction = FractionOfDay(&reader);
@@ -81,14 +81,14 @@ std::optional<double> DaysFromText(std::string_view strText) {
 }
 
 std::string DateText(double dDays) {
-    if (!(dDays > kFirstDay - 1 && dDays < kEndOfDays)) return {};
+    if (!(dDays > g_dFirstDay - 1 && dDays < g_dEndOfDays)) return {};
     int nDay = static_cast<int>(std::trunc(dDays));
-    int nSecond = static_cast<int>(std::lround(std::fabs(dDays - std::trunc(dDays)) * kSecondsOfDay));
-    if (nSecond == kSecondsOfDay) {
+    int nSecond = static_cast<int>(std::lround(std::fabs(dDays - std::trunc(dDays)) * g_nSecondsOfDay));
+    if (nSecond == g_nSecondsOfDay) {
         ++nDay;
         nSecond = 0;
     }
-    const year_month_day date(kDayZero + std::chrono::days(nDay));
+    const year_month_day date(g_dayZero + std::chrono::days(nDay));
     std::array<char, 64> szText{};
     std::snprintf(szText.data(), szText.size(), "%04d-%02u-%02u", static_cast<int>(date.year()),
                   static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));

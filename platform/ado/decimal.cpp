@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kMaxScale = 28;
+constexpr int g_nMaxScale = 28;
 
 /// 96 bits as three words, the lowest first, since no plain type is that wide.
 class CDigits {
@@ -65,7 +65,7 @@ std::optional<int> TakeExponent(std::string_view* pText) {
 std::optional<DECIMAL> DecimalFromText(std::string_view strText) {
     strText = TrimBlanks(strText);
     DECIMAL decimal;
-    if (strText.starts_with('-')) decimal.sign = kDecimalNegative;
+    if (strText.starts_with('-')) decimal.sign = g_nDecimalNegative;
     if (strText.starts_with('-') || strText.starts_with('+')) strText.remove_prefix(1);
     const std::optional<int> nExponent = TakeExponent(&strText);
     if (!nExponent) return std::nullopt;
@@ -84,7 +84,7 @@ std::optional<DECIMAL> DecimalFromText(std::string_view strText) {
     }
     for (; nScale < 0 && !digits.IsZero(); ++nScale)
         if (!digits.Append(0)) return std::nullopt;
-    if (!bDigit || nScale > kMaxScale) return std::nullopt;
+    if (!bDigit || nScale > g_nMaxScale) return std::nullopt;
     decimal.scale = static_cast<std::uint8_t>(std::max(nScale, 0));
     digits.Into(&decimal);
     return decimal;
@@ -103,7 +103,7 @@ std::string DecimalText(const DECIMAL& decimal) {
     while (!digits.IsZero() || strReversed.size() <= decimal.scale)
         strReversed += digits.Take();
     if (decimal.scale > 0) strReversed.insert(decimal.scale, 1, '.');
-    if (decimal.sign == kDecimalNegative) strReversed += '-';
+    if (decimal.sign == g_nDecimalNegative) strReversed += '-';
     return {strReversed.rbegin(), strReversed.rend()};
 }
 
@@ -111,5 +111,5 @@ double DecimalNumber(const DECIMAL& decimal) {
     const double dWhole =
         std::ldexp(static_cast<double>(decimal.Hi32), 64) + static_cast<double>(decimal.Lo64);
     const double dValue = dWhole / std::pow(10.0, decimal.scale);
-    return decimal.sign == kDecimalNegative ? -dValue : dValue;
+    return decimal.sign == g_nDecimalNegative ? -dValue : dValue;
 }

@@ -6,7 +6,7 @@
 #include "platform/ado/postgresql_dialect.h"
 
 namespace {
-constexpr std::size_t kMostRows = 200; // more in one go gain nothing
+constexpr std::size_t g_nMostRows = 200; // more in one go gain nothing
 }
 
 COdbcBatch::COdbcBatch(COdbcHandle pLink, std::string strSql)
@@ -26,7 +26,7 @@ void COdbcBatch::Queue(std::span<const CDbValue> arParameters) {
         m_nValues = arParameters.size();
         const std::size_t nFit = m_pLink->Engine().InsertParameters() / std::max<std::size_t>(m_nValues, 1);
         const bool bInsert = nFit > 1 && !InsertOfRows(m_strSql, 2).empty();
-        m_nRowsAtOnce = bInsert ? std::min(nFit, kMostRows) : 1;
+        m_nRowsAtOnce = bInsert ? std::min(nFit, g_nMostRows) : 1;
     }
     if (m_nRowsAtOnce == 1) return m_pOne->Run(arParameters);
     m_arQueued.insert(m_arQueued.end(), arParameters.begin(), arParameters.end());

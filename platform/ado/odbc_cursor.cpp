@@ -10,7 +10,7 @@
 namespace {
 
 /// How often a row is sought that other programs keep changing.
-constexpr int kMostSearches = 5;
+constexpr int g_nMostSearches = 5;
 
 [[noreturn]] void Refuse(DbFailure failure, const char* pszWhy) {
     throw CDbError(failure, 0, "ODBC", pszWhy);
@@ -58,7 +58,7 @@ void COdbcCursor::RunWithMarks(COdbcStatement& statement) {
 void COdbcCursor::ReadColumns(const COdbcStatement& statement) {
     std::vector<COdbcColumn> arGiven = statement.Columns();
     if (arGiven.empty()) Refuse(DbFailure::General, "The statement gives no rows.");
-    if (m_select) arGiven.resize(arGiven.size() - kMarkColumns);
+    if (m_select) arGiven.resize(arGiven.size() - g_nMarkColumns);
     std::vector<CDbColumn> arColumns;
     arColumns.reserve(arGiven.size());
     for (const COdbcColumn& column : arGiven)
@@ -165,7 +165,7 @@ bool COdbcCursor::ReadRowAgain(std::size_t nRow) {
     const std::string strSql = "SELECT " + m_select->m_strColumns + ", " +
                                std::string(m_pLink->Engine().MarkColumns()) + " FROM " + m_select->Target() +
                                " WHERE ";
-    for (int i = 0; i < kMostSearches; ++i) {
+    for (int i = 0; i < g_nMostSearches; ++i) {
         COdbcStatement statement(m_pLink);
         statement.Run(strSql + m_pLink->Engine().RowCondition(m_arMarks[nRow]), {});
         if (statement.Fetch()) {
@@ -180,7 +180,7 @@ bool COdbcCursor::ReadRowAgain(std::size_t nRow) {
 
 void COdbcCursor::RunOnRow(const std::string& strSql, std::span<const CDbValue> arValues, std::size_t nRow) {
     const COdbcEngine& engine = m_pLink->Engine();
-    for (int i = 0; i < kMostSearches; ++i) {
+    for (int i = 0; i < g_nMostSearches; ++i) {
         COdbcStatement statement(m_pLink);
         statement.Run(strSql + " WHERE " + engine.RowCondition(m_arMarks[nRow]) + " RETURNING " +
                           std::string(engine.MarkColumns()),

@@ -15,7 +15,7 @@ struct CRowMark {
 };
 
 /// The number of hidden columns that make a CRowMark, in its order.
-inline constexpr std::size_t kMarkColumns = 3;
+inline constexpr std::size_t g_nMarkColumns = 3;
 
 /// What the ODBC provider has to know of the engine behind a driver. Statements are UTF-8. This one stands
 /// for every engine that nothing is known of: its results can be read, and rows are written by statements
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] virtual std::string Opening(int /*nLockTimeout*/) const { return {}; }
     /// Sent first in a transaction, to take the write lock; empty for nothing.
     [[nodiscard]] virtual std::string TransactionLock() const { return {}; }
-    /// The columns that tell a table's rows apart, kMarkColumns of them; empty where there are none.
+    /// The columns that tell a table's rows apart, g_nMarkColumns of them; empty where there are none.
     [[nodiscard]] virtual std::string_view MarkColumns() const { return {}; }
     /// The condition that only the row with this mark meets.
     [[nodiscard]] virtual std::string RowCondition(const CRowMark& /*mark*/) const { return {}; }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::intptr_t kLoginTimeout = 10; // seconds
+constexpr std::intptr_t g_nLoginTimeout = 10; // seconds
 
 /// A number in the place of a pointer, as attributes take it.
 SQLPOINTER Number(std::intptr_t nValue) {
@@ -75,8 +75,8 @@ std::string OneLine(std::string_view strText) {
         if (nClose == std::string_view::npos) break;
         strText = TrimBlanks(strText.substr(nClose + 1));
     }
-    constexpr std::string_view kGrade = "ERROR: ";
-    if (strText.starts_with(kGrade)) strText.remove_prefix(kGrade.size());
+    constexpr std::string_view strGrade = "ERROR: ";
+    if (strText.starts_with(strGrade)) strText.remove_prefix(strGrade.size());
     std::string strLine;
     while (!strText.empty()) {
         const std::size_t nEnd = std::min(strText.find('\n'), strText.size());
@@ -132,7 +132,7 @@ COdbcLink::COdbcLink(std::string_view strConnection)
 }
 
 void COdbcLink::Connect(std::string_view strConnection) {
-    SQLSetConnectAttrW(m_hConnection, SQL_ATTR_LOGIN_TIMEOUT, Number(kLoginTimeout), 0);
+    SQLSetConnectAttrW(m_hConnection, SQL_ATTR_LOGIN_TIMEOUT, Number(g_nLoginTimeout), 0);
     std::u16string strWide = Utf16FromUtf8(strConnection);
     CheckOdbc(SQLDriverConnectW(m_hConnection, nullptr, Wide(strWide),
                                 static_cast<SQLSMALLINT>(strWide.size()), nullptr, 0, nullptr,

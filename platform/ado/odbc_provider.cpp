@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr const char* kSource = "ODBC";
+constexpr const char* g_pSource = "ODBC";
 
 class COdbcConnection : public CDbConnection {
 public:
@@ -60,8 +60,8 @@ public:
 
 private:
     [[nodiscard]] std::string EngineStatement(std::string_view strSql) const {
-        std::string strStatement = m_pLink->Engine().Statement(StatementToUtf8(strSql, kSource));
-        if (strStatement.empty()) throw CDbError(DbFailure::General, 0, kSource, "The statement is empty.");
+        std::string strStatement = m_pLink->Engine().Statement(StatementToUtf8(strSql, g_pSource));
+        if (strStatement.empty()) throw CDbError(DbFailure::General, 0, g_pSource, "The statement is empty.");
         return strStatement;
     }
 
@@ -70,18 +70,18 @@ private:
 
 class COdbcProvider : public CDbProvider {
 public:
-    [[nodiscard]] std::string_view Name() const override { return kSource; }
+    [[nodiscard]] std::string_view Name() const override { return g_pSource; }
 
     [[nodiscard]] std::shared_ptr<CDbConnection> Open(const CConnectionText& text) const override {
         const std::string strDriver = CConnectionText(text.Without("Provider")).Without("Lock Timeout");
         if (strDriver.empty())
-            throw CDbError(DbFailure::General, 0, kSource,
+            throw CDbError(DbFailure::General, 0, g_pSource,
                            "The connection text names neither a driver nor a data source.");
         COdbcHandle pLink;
         try {
-            pLink = std::make_shared<COdbcLink>(StatementToUtf8(strDriver, kSource));
+            pLink = std::make_shared<COdbcLink>(StatementToUtf8(strDriver, g_pSource));
         } catch (const CDbError& error) {
-            throw CDbError(error.Failure(), error.Code(), kSource, OdbcPlace(text) + ": " + error.what());
+            throw CDbError(error.Failure(), error.Code(), g_pSource, OdbcPlace(text) + ": " + error.what());
         }
         const std::string strOpening = pLink->Engine().Opening(LockTimeout(text));
         if (!strOpening.empty()) COdbcStatement(pLink).Run(strOpening, {});

@@ -18,7 +18,7 @@ struct CDriverType {
     DBTYPE m_wType;
 };
 
-constexpr std::array kDriverTypes = {
+constexpr std::array g_arDriverTypes = {
     CDriverType{SQL_INTEGER, DBTYPE_I4},
     CDriverType{SQL_BIGINT, DBTYPE_I4},
     CDriverType{SQL_SMALLINT, DBTYPE_I2},
@@ -37,7 +37,7 @@ constexpr std::array kDriverTypes = {
     CDriverType{SQL_LONGVARBINARY, DBTYPE_BYTES},
 };
 
-constexpr std::size_t kFirstBuffer = 256; // characters; what is longer is read in several goes
+constexpr std::size_t g_nFirstBuffer = 256; // characters; what is longer is read in several goes
 
 SQLWCHAR* Wide(std::u16string& strText) {
     return reinterpret_cast<SQLWCHAR*>(strText.data());
@@ -55,7 +55,7 @@ bool IsTruthType(SQLHSTMT hStatement, SQLUSMALLINT nColumn) {
 }
 
 DBTYPE TypeOf(SQLHSTMT hStatement, SQLUSMALLINT nColumn, SQLSMALLINT nType) {
-    for (const CDriverType& type : kDriverTypes)
+    for (const CDriverType& type : g_arDriverTypes)
         if (type.m_nType == nType) return type.m_wType;
     const bool bShort = nType == SQL_CHAR || nType == SQL_VARCHAR;
     return bShort && IsTruthType(hStatement, nColumn) ? DBTYPE_BOOL : DBTYPE_BSTR;
@@ -69,9 +69,9 @@ std::string NumberText(Number value) {
 
 /// A number as every column takes it: a whole one without exponent, also for columns of whole numbers.
 std::string RealText(double dValue) {
-    constexpr double kWholeBelow = 1e15;
+    constexpr double dWholeBelow = 1e15;
     const bool bNegativeZero = dValue == 0.0 && std::signbit(dValue);
-    if (std::abs(dValue) < kWholeBelow && dValue == std::trunc(dValue) && !bNegativeZero)
+    if (std::abs(dValue) < dWholeBelow && dValue == std::trunc(dValue) && !bNegativeZero)
         return NumberText(static_cast<std::int64_t>(dValue));
     return NumberText(dValue);
 }
@@ -80,7 +80,7 @@ std::string RealText(double dValue) {
 
 COdbcStatement::COdbcStatement(COdbcHandle pLink)
     : m_pLink(std::move(pLink))
-    , m_strBuffer(kFirstBuffer, u'\0') {
+    , m_strBuffer(g_nFirstBuffer, u'\0') {
     CheckOdbc(SQLAllocHandle(SQL_HANDLE_STMT, m_pLink->Get(), &m_hStatement), SQL_HANDLE_DBC, m_pLink->Get());
 }
 

@@ -11,9 +11,9 @@
 namespace {
 
 /// The function that stands for `left`.
-constexpr std::string_view kLeft = "tervo_left";
+constexpr std::string_view g_strLeft = "tervo_left";
 /// Behind a text: it compares by code point.
-constexpr std::string_view kByCodePoint = " COLLATE \"C\"";
+constexpr std::string_view g_strByCodePoint = " COLLATE \"C\"";
 
 bool GivesText(const CSqlToken& token) {
     static constexpr std::array<std::string_view, 3> s_arFunctions = {"left", "string", "trim"};
@@ -72,7 +72,7 @@ private:
             break;
         case SqlTokenKind::Close:
             m_strText += token.m_strText;
-            if (!m_arTextCalls.empty() && m_arTextCalls.back()) m_strText += kByCodePoint;
+            if (!m_arTextCalls.empty() && m_arTextCalls.back()) m_strText += g_strByCodePoint;
             if (!m_arTextCalls.empty()) m_arTextCalls.pop_back();
             break;
         case SqlTokenKind::Text:
@@ -84,7 +84,7 @@ private:
                 token.m_strText.front() == '"' ? std::string(token.m_strText) : FoldedName(token.m_strText);
             break;
         default:
-            m_strText += bCall && token.IsWord("left") ? kLeft : token.m_strText;
+            m_strText += bCall && token.IsWord("left") ? g_strLeft : token.m_strText;
         }
     }
 

@@ -16,7 +16,7 @@ std::array<const CDbProvider*, 2> Providers() {
 
 int LockTimeout(const CConnectionText& text) {
     const std::string strTimeout = text.Value("Lock Timeout");
-    int nTimeout = kLockTimeout;
+    int nTimeout = g_nLockTimeout;
     std::from_chars(strTimeout.data(), strTimeout.data() + strTimeout.size(), nTimeout);
     return nTimeout;
 }

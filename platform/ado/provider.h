@@ -70,9 +70,9 @@ public:
 };
 
 /// How long a statement waits for another program's lock, in ms, unless its connection text says otherwise.
-inline constexpr int kLockTimeout = 10000;
+inline constexpr int g_nLockTimeout = 10000;
 
-/// The wait of a connection text: its key `Lock Timeout`, in ms, else kLockTimeout.
+/// The wait of a connection text: its key `Lock Timeout`, in ms, else g_nLockTimeout.
 int LockTimeout(const CConnectionText& text);
 
 /// A kind of database.

@@ -62,15 +62,15 @@ int CDbRowset::Open(const CDbSession& session, const char* pszSql, const CRowset
 }
 
 int CDbRowset::Fetch(std::size_t nRow) {
-    if (!m_pCursor) return kRowsetFailed;
+    if (!m_pCursor) return g_nRowsetFailed;
     m_nRow = std::min(nRow, m_pCursor->RowCount());
     m_bOnRow = m_nRow < m_pCursor->RowCount();
-    if (!m_bOnRow) return kRowsetEnd;
+    if (!m_bOnRow) return g_nRowsetEnd;
     for (const CColumnBinding& binding : m_arBindings)
         FetchCell(m_pCursor->Cell(m_nRow, static_cast<std::size_t>(binding.m_nOrdinal) - 1), binding,
                   m_pBuffer);
     std::copy_n(m_pBuffer, m_arFetched.size(), m_arFetched.begin());
-    return kRowsetOk;
+    return g_nRowsetOk;
 }
 
 int CDbRowset::MoveFirst() {
@@ -82,7 +82,7 @@ int CDbRowset::MoveNext() {
 }
 
 int CDbRowset::Store() {
-    if (!m_pCursor || !m_bOnRow || !m_bChange) return kRowsetFailed;
+    if (!m_pCursor || !m_bOnRow || !m_bChange) return g_nRowsetFailed;
     try {
         std::vector<CDbChange> arChanges;
         for (const CColumnBinding& binding : m_arBindings)
@@ -91,10 +91,10 @@ int CDbRowset::Store() {
                     {static_cast<std::size_t>(binding.m_nOrdinal) - 1, BoundValue(binding, m_pBuffer)});
         if (!arChanges.empty()) m_pCursor->UpdateRow(m_nRow, arChanges);
         std::copy_n(m_pBuffer, m_arFetched.size(), m_arFetched.begin());
-        return kRowsetOk;
+        return g_nRowsetOk;
     } catch (const std::exception& error) {
         m_strLastError = error.what();
-        return kRowsetFailed;
+        return g_nRowsetFailed;
     }
 }
 

@@ -12,13 +12,13 @@ class CDbConnection;
 class CDbCursor;
 
 /// A rowset call did what it says: 0.
-inline constexpr int kRowsetOk = 0;
+inline constexpr int g_nRowsetOk = 0;
 /// There is no row there: a positive status.
-inline constexpr int kRowsetEnd = 0x00040EC6;
+inline constexpr int g_nRowsetEnd = 0x00040EC6;
 /// The call failed: a negative status. The reason is kept as the object's LastError.
-inline constexpr int kRowsetFailed = std::numeric_limits<int>::min() + 0x4005;
+inline constexpr int g_nRowsetFailed = std::numeric_limits<int>::min() + 0x4005;
 
-inline constexpr std::size_t kNoStatus = static_cast<std::size_t>(-1);
+inline constexpr std::size_t g_nNoStatus = static_cast<std::size_t>(-1);
 
 /// Where one column of a row lies in the caller's buffer.
 struct CColumnBinding {
@@ -26,7 +26,7 @@ struct CColumnBinding {
     DBTYPE m_wType;        ///< DBTYPE_I4, _I2, _I1, _UI1, _R4, _R8 or _STR
     std::size_t m_nLength; ///< bytes of the value; of a text without its ending zero
     std::size_t m_nValueOffset;
-    std::size_t m_nStatusOffset; ///< of a DBSTATUS; kNoStatus where the column has none
+    std::size_t m_nStatusOffset; ///< of a DBSTATUS; g_nNoStatus where the column has none
 };
 
 /// What an opened rowset must be able to do.
@@ -81,15 +81,15 @@ public:
              std::vector<CColumnBinding> arBindings, void* pBuffer, std::size_t nBytes);
     [[nodiscard]] int IsOpen() const { return m_pCursor ? 1 : 0; }
 
-    /// Fetches a row into the buffer: kRowsetOk, kRowsetEnd where there is none, kRowsetFailed when closed.
-    /// NULL leaves zeros (no text) and status 3. A value of another kind than the buffer's is taken as far as
-    /// it goes, since columns bind by position alone: a text as the number it begins with, a number out of
-    /// range as the nearest end of it.
+    /// Fetches a row into the buffer: g_nRowsetOk, g_nRowsetEnd where there is none, g_nRowsetFailed when
+    /// closed. NULL leaves zeros (no text) and status 3. A value of another kind than the buffer's is taken
+    /// as far as it goes, since columns bind by position alone: a text as the number it begins with, a number
+    /// out of range as the nearest end of it.
     int MoveFirst();
     int MoveNext();
 
     /// Writes what differs in the buffer, values and status words, since the row was fetched; nothing else of
-    /// the row is touched and no other row. kRowsetOk also when nothing differs; kRowsetFailed without a
+    /// the row is touched and no other row. g_nRowsetOk also when nothing differs; g_nRowsetFailed without a
     /// current row, in a rowset not opened for change, and when the write is given up (which the text window
     /// tells).
     int Store();

@@ -17,10 +17,10 @@
 namespace {
 
 // Names come as "namespace|name".
-constexpr std::string_view kSchema = "uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882|";
-constexpr std::string_view kTypes = "uuid:C2F41010-65B3-11d1-A29F-00AA00C14882|";
-constexpr std::string_view kRowset = "urn:schemas-microsoft-com:rowset|";
-constexpr std::string_view kRow = "#RowsetSchema|row";
+constexpr std::string_view g_strSchema = "uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882|";
+constexpr std::string_view g_strTypes = "uuid:C2F41010-65B3-11d1-A29F-00AA00C14882|";
+constexpr std::string_view g_strRowset = "urn:schemas-microsoft-com:rowset|";
+constexpr std::string_view g_strRow = "#RowsetSchema|row";
 
 [[noreturn]] void RaiseUnreadable(const std::string& strWhy) {
     ADODB::RaiseAdoError(ADODB::adErrReadFile, "The file holds no rows in XML: " + strWhy);
@@ -73,7 +73,7 @@ public:
         XML_SetUserData(m_pParser, this);
         XML_SetElementHandler(m_pParser, OnStart, OnEnd);
         XML_SetStartDoctypeDeclHandler(m_pParser, OnDoctype);
-        const bool bLong = strXml.size() > kLongest;
+        const bool bLong = strXml.size() > g_nLongest;
         const auto result =
             bLong ? XML_STATUS_ERROR
                   : XML_Parse(m_pParser, strXml.data(), static_cast<int>(strXml.size()), XML_TRUE);
@@ -92,7 +92,7 @@ private:
         void operator()(XML_Parser pParser) const { XML_ParserFree(pParser); }
     };
     using CAttributes = std::map<std::string, std::string, std::less<>>; // as the parser gives them, UTF-8
-    static constexpr std::size_t kLongest = 1U << 30U;
+    static constexpr std::size_t g_nLongest = 1U << 30U;
 
     template <class Call>
     void Guard(const Call& call) {
@@ -131,30 +131,31 @@ private:
     }
 
     void Start(std::string_view strName, const CAttributes& attributes) {
-        if (strName == In(kSchema, "AttributeType") && !m_pCursor) {
+        if (strName == In(g_strSchema, "AttributeType") && !m_pCursor) {
             const std::string strAttribute = Value(attributes, "name");
-            const std::string strOwnName = Value(attributes, In(kRowset, "name"));
+            const std::string strOwnName = Value(attributes, In(g_strRowset, "name"));
             m_arAttributes.push_back(strAttribute);
             m_arColumns.push_back(
                 {GbkFromUtf8OrRaise(strOwnName.empty() ? strAttribute : UnescapedFromXml(strOwnName)),
-                 TypeOfXml(Value(attributes, In(kTypes, "type")), Value(attributes, In(kRowset, "dbtype")))});
-        } else if (strName == In(kSchema, "datatype") && !m_arColumns.empty() && !m_pCursor) {
+                 TypeOfXml(Value(attributes, In(g_strTypes, "type")),
+                           Value(attributes, In(g_strRowset, "dbtype")))});
+        } else if (strName == In(g_strSchema, "datatype") && !m_arColumns.empty() && !m_pCursor) {
             CDbColumn& column = m_arColumns.back();
-            column.m_wType =
-                TypeOfXml(Value(attributes, In(kTypes, "type")), Value(attributes, In(kRowset, "dbtype")));
+            column.m_wType = TypeOfXml(Value(attributes, In(g_strTypes, "type")),
+                                       Value(attributes, In(g_strRowset, "dbtype")));
             column.m_nSize =
-                NumberFromText<std::size_t>(Value(attributes, In(kTypes, "maxLength"))).value_or(0);
-        } else if (strName == In(kRowset, "data")) {
+                NumberFromText<std::size_t>(Value(attributes, In(g_strTypes, "maxLength"))).value_or(0);
+        } else if (strName == In(g_strRowset, "data")) {
             m_bData = true;
-        } else if (strName == In(kRowset, "update") || strName == In(kRowset, "delete")) {
+        } else if (strName == In(g_strRowset, "update") || strName == In(g_strRowset, "delete")) {
             RaiseUnreadable("it has changes that are not stored yet.");
-        } else if (strName == kRow && m_bData) {
+        } else if (strName == g_strRow && m_bData) {
             AddRow(attributes);
         }
     }
 
     void End(std::string_view strName) {
-        if (strName == In(kRowset, "data")) StartRows();
+        if (strName == In(g_strRowset, "data")) StartRows();
     }
 
     /// The schema is complete.

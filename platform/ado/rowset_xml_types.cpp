@@ -11,7 +11,7 @@
 namespace {
 
 /// The first row that fits is taken, so the plain names come first.
-constexpr std::array kTypes = {
+constexpr std::array g_arTypes = {
     CXmlType{DBTYPE_I1, "i1", ""},          CXmlType{DBTYPE_I2, "i2", ""},
     CXmlType{DBTYPE_I4, "int", ""},         CXmlType{DBTYPE_UI1, "ui1", ""},
     CXmlType{DBTYPE_UI4, "ui4", ""},        CXmlType{DBTYPE_R4, "r4", ""},
@@ -22,11 +22,11 @@ constexpr std::array kTypes = {
     CXmlType{DBTYPE_R8, "r8", ""},
 };
 
-constexpr std::size_t kEscapeLength = 7; // _xHHHH_
+constexpr std::size_t g_nEscapeLength = 7; // _xHHHH_
 
 /// The character that an escape at a place of the text stands for.
 std::optional<char32_t> EscapedCharacter(std::string_view strText, std::size_t nAt) {
-    if (strText.size() - nAt < kEscapeLength || !strText.substr(nAt).starts_with("_x") ||
+    if (strText.size() - nAt < g_nEscapeLength || !strText.substr(nAt).starts_with("_x") ||
         strText[nAt + 6] != '_')
         return std::nullopt;
     unsigned nCode = 0;
@@ -50,13 +50,13 @@ std::string Escape(char32_t character) {
 } // namespace
 
 const CXmlType& XmlTypeOf(DBTYPE wType) {
-    return *std::find_if(kTypes.begin(), kTypes.end() - 1,
+    return *std::find_if(g_arTypes.begin(), g_arTypes.end() - 1,
                          [wType](const CXmlType& type) { return type.m_wType == wType; });
 }
 
 DBTYPE TypeOfXml(std::string_view strType, std::string_view strDbType) {
     const bool bVariant = strDbType == "variant";
-    for (const CXmlType& type : kTypes)
+    for (const CXmlType& type : g_arTypes)
         if (type.m_strType == strType && (type.m_strDbType == "variant") == bVariant) return type.m_wType;
     return DBTYPE_BSTR;
 }
@@ -81,7 +81,7 @@ std::string UnescapedFromXml(std::string_view strUtf8) {
     for (std::size_t nAt = 0; nAt < strUtf8.size();) {
         if (const std::optional<char32_t> character = EscapedCharacter(strUtf8, nAt)) {
             AppendUtf8(*character, &strText);
-            nAt += kEscapeLength;
+            nAt += g_nEscapeLength;
         } else {
             strText += strUtf8[nAt++];
         }

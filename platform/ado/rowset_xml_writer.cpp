@@ -8,18 +8,18 @@
 
 namespace {
 
-constexpr std::string_view kBeginning =
+constexpr std::string_view g_strBeginning =
     "<xml xmlns:s='uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882'\n"
     "    xmlns:dt='uuid:C2F41010-65B3-11d1-A29F-00AA00C14882'\n"
     "    xmlns:rs='urn:schemas-microsoft-com:rowset'\n"
     "    xmlns:z='#RowsetSchema'>\n"
     "<s:Schema id='RowsetSchema'>\n"
     "  <s:ElementType name='row' content='eltOnly' rs:updatable='true'>\n";
-constexpr std::string_view kAfterColumns = "    <s:extends type='rs:rowbase'/>\n"
-                                           "  </s:ElementType>\n"
-                                           "</s:Schema>\n"
-                                           "<rs:data>\n";
-constexpr std::string_view kEnd = "</rs:data>\n</xml>\n";
+constexpr std::string_view g_strAfterColumns = "    <s:extends type='rs:rowbase'/>\n"
+                                               "  </s:ElementType>\n"
+                                               "</s:Schema>\n"
+                                               "<rs:data>\n";
+constexpr std::string_view g_strEnd = "</rs:data>\n</xml>\n";
 
 /// An attribute with a value, UTF-8. Line ends and tabs are written as references: a reader would make blanks
 /// of them.
@@ -102,10 +102,10 @@ std::string ValueText(const CDbCell& cell, DBTYPE wDeclared) {
 std::string RowsetXml(const CDbCursor& cursor, std::span<const std::size_t> arRows) {
     const std::vector<CDbColumn>& arColumns = cursor.Columns();
     const std::vector<std::string> arNames = AttributeNames(arColumns);
-    std::string strXml(kBeginning);
+    std::string strXml(g_strBeginning);
     for (std::size_t i = 0; i < arColumns.size(); ++i)
         strXml += ColumnXml(arColumns[i], arNames[i], i + 1);
-    strXml += kAfterColumns;
+    strXml += g_strAfterColumns;
     for (const std::size_t nRow : arRows) {
         strXml += "  <z:row";
         for (std::size_t i = 0; i < arColumns.size(); ++i) {
@@ -115,5 +115,5 @@ std::string RowsetXml(const CDbCursor& cursor, std::span<const std::size_t> arRo
         }
         strXml += "/>\n";
     }
-    return strXml.append(kEnd);
+    return strXml.append(g_strEnd);
 }

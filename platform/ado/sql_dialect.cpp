@@ -72,7 +72,7 @@ public:
 private:
     void Fold() {
         if (m_bPlus && !(m_bSumIsNumber && m_bTermIsNumber)) {
-            m_strSum = m_strSum.substr(0, m_nBlanks) + std::string(kAddFunction) + "(" +
+            m_strSum = m_strSum.substr(0, m_nBlanks) + std::string(g_strAddFunction) + "(" +
                        m_strSum.substr(m_nBlanks) + "," + m_strTerm + ")";
             m_bSumIsNumber = false;
         } else {

@@ -17,7 +17,7 @@ struct CDeclaredType {
 };
 
 /// What tables call their column types, the part before any length.
-constexpr std::array kDeclaredTypes = {
+constexpr std::array g_arDeclaredTypes = {
     CDeclaredType{"integer", DBTYPE_I4},      CDeclaredType{"int", DBTYPE_I4},
     CDeclaredType{"long", DBTYPE_I4},         CDeclaredType{"bigint", DBTYPE_I4},
     CDeclaredType{"smallint", DBTYPE_I2},     CDeclaredType{"short", DBTYPE_I2},
@@ -37,7 +37,7 @@ constexpr std::array kDeclaredTypes = {
 DBTYPE DeclaredType(const char* pszDeclared) {
     std::string_view strName = pszDeclared ? std::string_view(pszDeclared) : std::string_view();
     strName = strName.substr(0, strName.find_first_of(" ("));
-    for (const CDeclaredType& type : kDeclaredTypes)
+    for (const CDeclaredType& type : g_arDeclaredTypes)
         if (EqualNoCase(type.m_strName, strName)) return type.m_wType;
     return DBTYPE_EMPTY;
 }

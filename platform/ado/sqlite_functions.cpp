@@ -17,7 +17,7 @@ namespace {
 using CArguments = sqlite3_value**;
 
 /// No text longer than this is made by string(n, ch).
-constexpr std::int64_t kLongestFill = 65535;
+constexpr std::int64_t g_nLongestFill = 65535;
 
 std::string_view Text(sqlite3_value* pValue) {
     const auto* pText = reinterpret_cast<const char*>(sqlite3_value_text(pValue));
@@ -67,7 +67,7 @@ void String(sqlite3_context* pContext, int /*nArguments*/, CArguments arArgument
     const std::string_view strFill = Text(arArguments[1]);
     const std::string_view strOne = strFill.substr(0, BytesOf(strFill, 1));
     const auto nCount = static_cast<std::size_t>(
-        std::clamp<std::int64_t>(sqlite3_value_int64(arArguments[0]), 0, kLongestFill));
+        std::clamp<std::int64_t>(sqlite3_value_int64(arArguments[0]), 0, g_nLongestFill));
     std::string strText;
     strText.reserve(nCount * strOne.size());
     for (std::size_t i = 0; i < nCount; ++i)
@@ -120,20 +120,20 @@ struct CDialectFunction {
     CFunction m_function;
 };
 
-constexpr std::array kFunctions = {
+constexpr std::array g_arFunctions = {
     CDialectFunction{"isnumeric", 1, Guarded<IsNumeric>},
     CDialectFunction{"left", 2, Guarded<Left>},
     CDialectFunction{"val", 1, Guarded<Val>},
     CDialectFunction{"string", 2, Guarded<String>},
     CDialectFunction{"len", 1, Guarded<Len>},
-    CDialectFunction{kAddFunction.data(), 2, Guarded<Add>},
+    CDialectFunction{g_strAddFunction.data(), 2, Guarded<Add>},
 };
 
 } // namespace
 
 int RegisterDialectFunctions(sqlite3* pDatabase) {
     constexpr int nFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    for (const CDialectFunction& function : kFunctions) {
+    for (const CDialectFunction& function : g_arFunctions) {
         const int nResult =
             sqlite3_create_function_v2(pDatabase, function.m_pszName, function.m_nArguments, nFlags, nullptr,
                                        function.m_function, nullptr, nullptr, nullptr);

@@ -109,5 +109,5 @@ const CDbProvider& SqliteProvider() {
 }
 
 std::shared_ptr<CDbConnection> CreateSqliteDatabase(std::string_view strPath) {
-    return OpenFile(strPath, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, kLockTimeout);
+    return OpenFile(strPath, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, g_nLockTimeout);
 }

@@ -8,7 +8,7 @@
 namespace {
 
 /// -12.50
-constexpr DECIMAL g_decimal = {.scale = 2, .sign = kDecimalNegative, .Hi32 = 0, .Lo64 = 1250};
+constexpr DECIMAL g_decimal = {.scale = 2, .sign = g_nDecimalNegative, .Hi32 = 0, .Lo64 = 1250};
 
 /// The text of a value; "?" where it has none.
 std::string Text(const CVariant& value) {
@@ -38,7 +38,7 @@ TEST(DoubleOfValue, ReadsADecimalWithItsSign) {
     EXPECT_EQ(DoubleOfValue(CVariant(g_decimal)), -12.5);
     DECIMAL large = {.scale = 1, .sign = 0, .Hi32 = 1, .Lo64 = 0};
     EXPECT_EQ(DoubleOfValue(CVariant(large)), 1844674407370955161.6);
-    large.sign = kDecimalNegative;
+    large.sign = g_nDecimalNegative;
     EXPECT_EQ(DoubleOfValue(CVariant(large)), -1844674407370955161.6);
 }
 

@@ -37,19 +37,19 @@ protected:
     }
 };
 
-constexpr const char* kColumns = "GCSY,ZKBH,QYBH,SYFF,SYRQ,UUC,UUF,CUC,CUF,CUCE,CUFE,CDC,CDF";
-constexpr const char* kStored = "1|ZK1|1-1|固结排水剪|2024.3.9|||||||10.5|30.25";
+constexpr const char* g_pColumns = "GCSY,ZKBH,QYBH,SYFF,SYRQ,UUC,UUF,CUC,CUF,CUCE,CUFE,CDC,CDF";
+constexpr const char* g_pStored = "1|ZK1|1-1|固结排水剪|2024.3.9|||||||10.5|30.25";
 
 } // namespace
 
 TEST_F(ForeignTables, WithoutTypesAndIndexReadAndStore) {
-    Replace(std::string("create table z_c_SanZhou(") + kColumns + ")");
+    Replace(std::string("create table z_c_SanZhou(") + g_pColumns + ")");
     Fill("z_c_SanZhou");
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));
     EXPECT_EQ(record.m_fCDC, 7.5F);
     EXPECT_EQ(Store(record), 0);
-    EXPECT_EQ(Rows("select * from z_c_SanZhou"), CTexts{kStored});
+    EXPECT_EQ(Rows("select * from z_c_SanZhou"), CTexts{g_pStored});
 }
 
 TEST_F(ForeignTables, WithOtherTypesFurtherColumnsAndIndicesReadAndStore) {
@@ -66,11 +66,11 @@ TEST_F(ForeignTables, WithOtherTypesFurtherColumnsAndIndicesReadAndStore) {
     EXPECT_EQ(record.m_fUUF, 2.0F); // numbers that are stored as texts are numbers
     EXPECT_EQ(record.m_fCDF, 8.25F);
     EXPECT_EQ(Store(record), 0);
-    EXPECT_EQ(Rows("select * from z_c_SanZhou"), CTexts{std::string(kStored) + "|kept|9"});
+    EXPECT_EQ(Rows("select * from z_c_SanZhou"), CTexts{std::string(g_pStored) + "|kept|9"});
 }
 
 TEST_F(ForeignTables, WhoseRowsHaveNoNumberAreReadAndTellOfAStoreThatFails) {
-    Replace(std::string("create table z_c_SanZhou(") + kColumns +
+    Replace(std::string("create table z_c_SanZhou(") + g_pColumns +
             ",primary key(GCSY,ZKBH,QYBH)) without rowid");
     Fill("z_c_SanZhou");
     CSanZhouRecord record;
@@ -83,8 +83,8 @@ TEST_F(ForeignTables, WhoseRowsHaveNoNumberAreReadAndTellOfAStoreThatFails) {
 }
 
 TEST_F(ForeignTables, ThatAreViewsAreReadAndTellOfAStoreThatFails) {
-    Replace(std::string("create table base(") + kColumns + ")");
-    Execute(std::string("create view z_c_SanZhou as select ") + kColumns + " from base");
+    Replace(std::string("create table base(") + g_pColumns + ")");
+    Execute(std::string("create view z_c_SanZhou as select ") + g_pColumns + " from base");
     Fill("base");
     CSanZhouRecord record;
     ASSERT_TRUE(Open(record));

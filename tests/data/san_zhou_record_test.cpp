@@ -29,7 +29,7 @@ protected:
     }
 };
 
-constexpr const char* kAll = "select * from z_c_SanZhou order by UUC is not null";
+constexpr const char* g_pAll = "select * from z_c_SanZhou order by UUC is not null";
 
 INSTANTIATE_TEST_SUITE_P(Engines, SanZhouRecord, TestEngines(), TestEngineName);
 
@@ -68,7 +68,7 @@ TEST_P(SanZhouRecord, AStoreErasesTheValuesOfOtherMethods) {
     ASSERT_TRUE(Open(record));
     StoreConsolidatedUndrained(record);
     EXPECT_EQ(record.StoreRow(), 0);
-    EXPECT_EQ(Rows(kAll), CTexts{"1|ZK1|1-1|固结不排水剪|2024.3.9|||12.5|20.25|5|28.75||"});
+    EXPECT_EQ(Rows(g_pAll), CTexts{"1|ZK1|1-1|固结不排水剪|2024.3.9|||12.5|20.25|5|28.75||"});
     EXPECT_EQ(Rows("select count(*) from z_c_SanZhou where UUC is null and UUF is null and CDC is null and "
                    "CDF is null"),
               CTexts{"1"});
@@ -81,7 +81,7 @@ TEST_P(SanZhouRecord, AStoreTouchesOneOfTwoRowsWithEqualKeys) {
     ASSERT_TRUE(Open(record));
     StoreConsolidatedUndrained(record);
     EXPECT_EQ(record.StoreRow(), 0);
-    EXPECT_EQ(Rows(kAll),
+    EXPECT_EQ(Rows(g_pAll),
               (CTexts{"1|ZK1|1-1|a|2024.3.9|||12.5|20.25|5|28.75||", "1|ZK1|1-1|a||1|2|3|4|5|6|7|8"}));
 }
 

@@ -16,9 +16,9 @@
 namespace {
 using CJson = nlohmann::json;
 
-const std::string kSet = TERVO_TEST_DATA "/readings/smith-exc4.4/";
-constexpr double kC = 11.03; // its published cohesion and angle
-constexpr double kPhi = 17.35;
+const std::string g_strSet = TERVO_TEST_DATA "/readings/smith-exc4.4/";
+constexpr double g_dC = 11.03; // its published cohesion and angle
+constexpr double g_dPhi = 17.35;
 
 class DatabaseRoad : public testing::Test {
 protected:
@@ -34,7 +34,7 @@ protected:
     }
     void Import(const std::string& strNumber, const std::string& strHole) const {
         const CRun run = m_program.Shell(
-            "cd '" + kSet + "' && for f in samples layers readings; do sed \"2,\\$s/^1,/" + strHole +
+            "cd '" + g_strSet + "' && for f in samples layers readings; do sed \"2,\\$s/^1,/" + strHole +
             ",/\" $f.csv > \"$ROOT/../$f.csv\"; done; cd \"$ROOT/..\"; "
             "$T import --root root --number " +
             strNumber + " samples.csv layers.csv readings.csv");
@@ -59,8 +59,8 @@ protected:
             CJson::parse(m_program.Do("results --root \"$ROOT\" --number " + strNumber + " --json"));
         ASSERT_EQ(rows.size(), 1U);
         EXPECT_EQ(rows[0]["ZKBH"], strHole);
-        EXPECT_EQ(rows[0]["CDC"], kC);
-        EXPECT_EQ(rows[0]["CDF"], kPhi);
+        EXPECT_EQ(rows[0]["CDC"], g_dC);
+        EXPECT_EQ(rows[0]["CDF"], g_dPhi);
         EXPECT_FALSE(rows[0]["SYRQ"].is_null());
     }
     std::string Path(const std::string& strName) const { return m_program.Folder().Path(strName); }
@@ -199,8 +199,8 @@ TEST_F(DatabaseRoad, LeadsThroughAFolderWhosePathIsLongerThanASocketsName) {
     const std::string strRoot = Path(std::string(60, 'd') + "/" + std::string(60, 'e'));
     m_program.Do("init '" + strRoot + "'");
     m_program.Do("new --root '" + strRoot + "' --number L --name long");
-    m_program.Do("import --root '" + strRoot + "' --number L '" + kSet + "samples.csv' '" + kSet +
-                 "layers.csv' '" + kSet + "readings.csv'");
+    m_program.Do("import --root '" + strRoot + "' --number L '" + g_strSet + "samples.csv' '" + g_strSet +
+                 "layers.csv' '" + g_strSet + "readings.csv'");
     m_program.Do("open --root '" + strRoot + "' --number L");
     const std::string strScript = m_program.Folder().Write("sheet.scr", Generation("sheet.json"));
     const CRun run =

@@ -26,8 +26,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kUser = "tervo";
-constexpr const char* kPassword = "only for tests";
+constexpr const char* g_pUser = "tervo";
+constexpr const char* g_pPassword = "only for tests";
 
 /// The folder of the newest server's programs.
 fs::path ProgramFolder() {
@@ -111,13 +111,13 @@ public:
 private:
     bool MakeFiles() {
         const std::string strPasswordFile = m_strFolder + "/password";
-        WriteText(strPasswordFile, kPassword, std::ios::out);
+        WriteText(strPasswordFile, g_pPassword, std::ios::out);
         if (m_pUser && (chown(m_strFolder.c_str(), m_pUser->pw_uid, m_pUser->pw_gid) != 0 ||
                         chown(strPasswordFile.c_str(), m_pUser->pw_uid, m_pUser->pw_gid) != 0))
             return false;
         const pid_t nChild =
             Start(m_pUser, m_strFolder + "/log",
-                  {m_programs / "initdb", "-D", m_strFolder + "/data", "-U", kUser, "--pwfile",
+                  {m_programs / "initdb", "-D", m_strFolder + "/data", "-U", g_pUser, "--pwfile",
                    strPasswordFile, "--auth=scram-sha-256", "--encoding=UTF8", "--locale=C.UTF-8",
                    "--locale-provider=icu", "--icu-locale=zh", "--no-sync"});
         int nStatus = 0;
@@ -194,7 +194,7 @@ void CPostgresqlServer::AwaitStart() const {
 
 std::string CPostgresqlServer::ConnectionText(const std::string& strDatabase) const {
     return "Provider=ODBC;Driver=PostgreSQL Unicode;Server=127.0.0.1;Port=" + std::to_string(m_nPort) +
-           ";Database=" + strDatabase + ";Uid=" + kUser + ";Pwd=" + kPassword;
+           ";Database=" + strDatabase + ";Uid=" + g_pUser + ";Pwd=" + g_pPassword;
 }
 
 std::string CPostgresqlServer::MakeDatabase() {

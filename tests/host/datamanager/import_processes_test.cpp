@@ -16,7 +16,7 @@
 
 namespace {
 
-const std::string kHeader =
+const std::string g_strHeader =
     "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
 
 std::string Reading(const std::string& strZKBH, int nSHJHXH) {
@@ -67,9 +67,9 @@ protected:
 } // namespace
 
 TEST_F(ImportProcesses, TwoAtOnceBringInTheirRows) {
-    m_program.Folder().Write("second.csv", kHeader + Reading("ZK2", 1) + Reading("ZK2", 2));
+    m_program.Folder().Write("second.csv", g_strHeader + Reading("ZK2", 1) + Reading("ZK2", 2));
     CDescriptor pipe = StartFed("first");
-    Feed(pipe, kHeader + Reading("ZK1", 1));
+    Feed(pipe, g_strHeader + Reading("ZK1", 1));
     Start("second.csv", "second");
     Feed(pipe, Reading("ZK1", 2));
     pipe.Close();
@@ -80,10 +80,10 @@ TEST_F(ImportProcesses, TwoAtOnceBringInTheirRows) {
 }
 
 TEST_F(ImportProcesses, OfTwoWithTheSameRowsTheLaterIsRefused) {
-    m_program.Folder().Write("second.csv", kHeader + Reading("ZK2", 1) + Reading("ZK1", 1));
+    m_program.Folder().Write("second.csv", g_strHeader + Reading("ZK2", 1) + Reading("ZK1", 1));
     CDescriptor pipe = StartFed("first");
     Start("second.csv", "second");
-    Feed(pipe, kHeader + Reading("ZK1", 1));
+    Feed(pipe, g_strHeader + Reading("ZK1", 1));
     pipe.Close();
     EXPECT_EQ(StatusOf("first"), "0\n") << m_program.Folder().Read("first.out");
     EXPECT_EQ(StatusOf("second"), "1\n");
@@ -93,7 +93,7 @@ TEST_F(ImportProcesses, OfTwoWithTheSameRowsTheLaterIsRefused) {
 }
 
 TEST_F(ImportProcesses, ManyWithTheSameRowsLeaveOneSetOfThem) {
-    std::string strRows = kHeader;
+    std::string strRows = g_strHeader;
     for (int i = 0; i < 500; ++i)
         strRows += Reading("ZK1", i);
     m_program.Folder().Write("same.csv", strRows);
@@ -108,11 +108,11 @@ TEST_F(ImportProcesses, ManyWithTheSameRowsLeaveOneSetOfThem) {
 }
 
 TEST_F(ImportProcesses, ReadersSeeTheFormerStateMeanwhile) {
-    m_program.Folder().Write("before.csv", kHeader + Reading("ZK0", 1));
+    m_program.Folder().Write("before.csv", g_strHeader + Reading("ZK0", 1));
     m_program.Do("import --root \"$ROOT\" --number A '" + Path("before.csv") + "'");
     const std::string strBefore = m_program.Do("list --root \"$ROOT\"");
     CDescriptor pipe = StartFed("first");
-    Feed(pipe, kHeader + Reading("ZK1", 1));
+    Feed(pipe, g_strHeader + Reading("ZK1", 1));
     EXPECT_EQ(m_program.Do("list --root \"$ROOT\""), strBefore);
     pipe.Close();
     EXPECT_EQ(StatusOf("first"), "0\n");
@@ -120,10 +120,10 @@ TEST_F(ImportProcesses, ReadersSeeTheFormerStateMeanwhile) {
 }
 
 TEST_F(ImportProcesses, OneThatIsKilledLeavesTheDatabaseAsItWas) {
-    m_program.Folder().Write("before.csv", kHeader + Reading("ZK0", 1));
+    m_program.Folder().Write("before.csv", g_strHeader + Reading("ZK0", 1));
     m_program.Do("import --root \"$ROOT\" --number A '" + Path("before.csv") + "'");
     // More rows than the engine keeps in memory, so that part of them stands in the file already.
-    std::string strRows = kHeader;
+    std::string strRows = g_strHeader;
     for (int i = 0; i < 60000; ++i)
         strRows += Reading("ZK1", i);
     m_program.Folder().Write("after.csv", strRows);
@@ -145,9 +145,9 @@ TEST_F(ImportProcesses, OneThatIsKilledLeavesTheDatabaseAsItWas) {
 TEST_F(ImportProcesses, OneThatIsKeptOutTooLongTellsSo) {
     m_program.Do("new --root \"$ROOT\" --number B --name x --connect \"Provider=SQLite;Lock Timeout=50;Data "
                  "Source=$ROOT/Projects/A/project.db\"");
-    m_program.Folder().Write("second.csv", kHeader + Reading("ZK2", 1));
+    m_program.Folder().Write("second.csv", g_strHeader + Reading("ZK2", 1));
     CDescriptor pipe = StartFed("first");
-    Feed(pipe, kHeader + Reading("ZK1", 1));
+    Feed(pipe, g_strHeader + Reading("ZK1", 1));
     const CRun run = m_program.Tvdata("import --root \"$ROOT\" --number B '" + Path("second.csv") + "'");
     EXPECT_EQ(run.m_nStatus, 4);
     EXPECT_EQ(run.m_strErrors,

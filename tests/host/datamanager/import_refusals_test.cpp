@@ -10,9 +10,9 @@
 
 namespace {
 
-const std::string kReadingHeader =
+const std::string g_strReadingHeader =
     "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
-const std::string kLayerHeader = "ZKBH,TCCDSD,TCHD,TCMC\n";
+const std::string g_strLayerHeader = "ZKBH,TCCDSD,TCHD,TCMC\n";
 
 class ImportRefusals : public testing::Test {
 protected:
@@ -58,7 +58,7 @@ protected:
         std::vector<std::string> arFields = {"ZK1", "1-1", "1", "1", "50", "80", "39.1", "1",
                                              "0",   "1",   "2", "0", "0",  "0",  "2"};
         arFields[nPlace] = strText;
-        std::string strLine = kReadingHeader;
+        std::string strLine = g_strReadingHeader;
         for (std::size_t i = 0; i < arFields.size(); ++i)
             strLine += (i ? "," : "") + arFields[i];
         return strLine + "\n";
@@ -67,68 +67,70 @@ protected:
     const CProgram m_program;
 };
 
-constexpr std::size_t kSJBH = 2;
-constexpr std::size_t kSHJHXH = 3;
-constexpr std::size_t kWY = 4;
-constexpr std::size_t kJLLX = 14;
+constexpr std::size_t g_nSJBH = 2;
+constexpr std::size_t g_nSHJHXH = 3;
+constexpr std::size_t g_nWY = 4;
+constexpr std::size_t g_nJLLX = 14;
 
 } // namespace
 
 TEST_F(ImportRefusals, TakesTheNumberFormsOfTheFormat) {
     for (const char* pszText :
          {"-0.01", "80", "1e-05", "+5", ".5", "5.", "2E3", "-0", "3.4028234e38", "1e-400"})
-        Takes({Reading(kWY, pszText)}, "--replace ");
-    Takes({Reading(kWY, "-0.01")}, "--replace ");
+        Takes({Reading(g_nWY, pszText)}, "--replace ");
+    Takes({Reading(g_nWY, "-0.01")}, "--replace ");
     EXPECT_EQ(m_program.Sql("Projects/A/project.db", "SELECT WY FROM z_c_SanZhouCSXM"), "-0.01\n");
 }
 
 TEST_F(ImportRefusals, OtherFormsOfNumbers) {
     for (const char* pszText : {"1e999", "-1e999", "3.5e38", "nan", "NaN", "inf", "-inf", "Infinity", "0x10",
                                 "1 ", " 1", "1e", "e5", "--1", "1.2.3", "ten", "."})
-        Refuses({Reading(kWY, pszText)}, "1.csv:2: WY: \"" + std::string(pszText) +
-                                             "\" is no decimal number within the range of a 4-byte float\n");
-    Refuses({Reading(kWY, "\"1,5\"")},
+        Refuses({Reading(g_nWY, pszText)},
+                "1.csv:2: WY: \"" + std::string(pszText) +
+                    "\" is no decimal number within the range of a 4-byte float\n");
+    Refuses({Reading(g_nWY, "\"1,5\"")},
             "1.csv:2: WY: \"1,5\" is no decimal number within the range of a 4-byte float\n");
-    Refuses({Reading(kWY, Utf8(u8"５"))},
+    Refuses({Reading(g_nWY, Utf8(u8"５"))},
             Utf8(u8"1.csv:2: WY: \"５\" is no decimal number within the range of a 4-byte float\n"));
 }
 
 TEST_F(ImportRefusals, WholeNumbersOutOfTheirRange) {
     const std::string strInt32 = " is no whole number from -2147483648 to 2147483647\n";
     for (const char* pszText : {"2147483648", "-2147483649", "1.0", "1e3", "99999999999999999999", "x"}) {
-        Refuses({Reading(kSJBH, pszText)}, "1.csv:2: SJBH: \"" + std::string(pszText) + "\"" + strInt32);
-        Refuses({Reading(kSHJHXH, pszText)}, "1.csv:2: SHJHXH: \"" + std::string(pszText) + "\"" + strInt32);
+        Refuses({Reading(g_nSJBH, pszText)}, "1.csv:2: SJBH: \"" + std::string(pszText) + "\"" + strInt32);
+        Refuses({Reading(g_nSHJHXH, pszText)},
+                "1.csv:2: SHJHXH: \"" + std::string(pszText) + "\"" + strInt32);
     }
     for (const char* pszText : {"128", "-129", "2.0", "a"})
-        Refuses({Reading(kJLLX, pszText)},
+        Refuses({Reading(g_nJLLX, pszText)},
                 "1.csv:2: JLLX: \"" + std::string(pszText) + "\" is no whole number from -128 to 127\n");
     for (const char* pszText : {"256", "-1"})
         Refuses({"ZKBH,QYBH,SYFF,QYLX\nZK1,1-1,," + std::string(pszText) + "\n"},
                 "1.csv:2: QYLX: \"" + std::string(pszText) + "\" is no whole number from 0 to 255\n");
-    Takes({Reading(kSJBH, "-2147483648"), Reading(kSJBH, "+2147483647")});
-    Takes({Reading(kJLLX, "-128")}, "--replace ");
+    Takes({Reading(g_nSJBH, "-2147483648"), Reading(g_nSJBH, "+2147483647")});
+    Takes({Reading(g_nJLLX, "-128")}, "--replace ");
     EXPECT_EQ(m_program.Sql("Projects/A/project.db", "SELECT SJBH FROM z_c_SanZhouCSXM ORDER BY SJBH"),
               "-2147483648\n1\n2147483647\n");
 }
 
 TEST_F(ImportRefusals, EmptyFieldsThatMayNotBeEmpty) {
     for (const auto& [nPlace, pszColumn] : std::vector<std::pair<std::size_t, const char*>>{
-             {0, "ZKBH"}, {1, "QYBH"}, {kSJBH, "SJBH"}, {kWY, "WY"}, {kJLLX, "JLLX"}})
+             {0, "ZKBH"}, {1, "QYBH"}, {g_nSJBH, "SJBH"}, {g_nWY, "WY"}, {g_nJLLX, "JLLX"}})
         Refuses({Reading(nPlace, "")}, "1.csv:2: " + std::string(pszColumn) + ": the field is empty\n");
     Refuses({"ZKBH,QYBH,SYFF\n,1-1,\nZK1,,\n"},
             "1.csv:2: ZKBH: the field is empty\n1.csv:3: QYBH: the field is empty\n");
-    Refuses({kLayerHeader + "ZK1,4,,\n"},
+    Refuses({g_strLayerHeader + "ZK1,4,,\n"},
             "1.csv:2: TCHD: the field is empty\n1.csv:2: TCMC: the field is empty\n");
 }
 
 TEST_F(ImportRefusals, TextsLongerThanTheirColumn) {
-    Takes({kLayerHeader + "ZK1,4,4," + std::string(255, 'x') + "\n"});
-    Refuses({kLayerHeader + "ZK1,5,4," + std::string(256, 'x') + "\n"},
+    Takes({g_strLayerHeader + "ZK1,4,4," + std::string(255, 'x') + "\n"});
+    Refuses({g_strLayerHeader + "ZK1,5,4," + std::string(256, 'x') + "\n"},
             "1.csv:2: TCMC: the text has 256 bytes in code page 936, more than 255\n");
     std::string strWide;
     for (int i = 0; i < 128; ++i)
         strWide += Utf8(u8"土");
-    Refuses({kLayerHeader + strWide + ",5,4,x\n"},
+    Refuses({g_strLayerHeader + strWide + ",5,4,x\n"},
             "1.csv:2: ZKBH: the text has 256 bytes in code page 936, more than 255\n");
 }
 
@@ -140,13 +142,13 @@ TEST_F(ImportRefusals, CharactersThatTheCodePageLacks) {
 }
 
 TEST_F(ImportRefusals, BrokenQuotes) {
-    Refuses({kLayerHeader + "ZK1,4,4,\"a\nb\"\nZK1,x,4,c\n"}, // the second row stands in the fourth line
+    Refuses({g_strLayerHeader + "ZK1,4,4,\"a\nb\"\nZK1,x,4,c\n"}, // the second row stands in the fourth line
             "1.csv:4: TCCDSD: \"x\" is no decimal number within the range of a 4-byte float\n");
-    Refuses({kLayerHeader + "ZK1,4,4,a\"b\n"},
+    Refuses({g_strLayerHeader + "ZK1,4,4,a\"b\n"},
             "1.csv:2: TCMC: a quote stands inside a field that is not quoted\n");
-    Refuses({kLayerHeader + "ZK1,4,4,\"a\"b\n"}, "1.csv:2: TCMC: text follows the closing quote\n");
-    Refuses({kLayerHeader + "ZK1,4,4,\"a\n"}, "1.csv:2: TCMC: the quote is never closed\n");
-    Refuses({kLayerHeader + "ZK1,4,\"a\nb\",c\n"},
+    Refuses({g_strLayerHeader + "ZK1,4,4,\"a\"b\n"}, "1.csv:2: TCMC: text follows the closing quote\n");
+    Refuses({g_strLayerHeader + "ZK1,4,4,\"a\n"}, "1.csv:2: TCMC: the quote is never closed\n");
+    Refuses({g_strLayerHeader + "ZK1,4,\"a\nb\",c\n"},
             "1.csv:2: TCHD: \"a\\nb\" is no decimal number within the range of a 4-byte float\n");
     Refuses({"ZKBH,TCCDSD,TCHD,\"TC\nMC\"\n"},
             "1.csv:1: TC\\nMC: unknown column in a file of layers\n"
@@ -184,17 +186,18 @@ TEST_F(ImportRefusals, BadHeaders) {
 
 TEST_F(ImportRefusals, KeysThatStandTwice) {
     const std::string strRow = "ZK1,1-1,1,1,50,80,39.1,1,0,1,2,0,0,0,2\n";
-    Refuses({kReadingHeader + strRow + strRow}, "1.csv:3: SHJHXH: the same key stands in 1.csv:2\n");
-    Refuses({kReadingHeader + strRow, kReadingHeader + strRow},
+    Refuses({g_strReadingHeader + strRow + strRow}, "1.csv:3: SHJHXH: the same key stands in 1.csv:2\n");
+    Refuses({g_strReadingHeader + strRow, g_strReadingHeader + strRow},
             "2.csv:2: SHJHXH: the same key stands in 1.csv:2\n");
-    Refuses({kReadingHeader + strRow + strRow}, "1.csv:3: SHJHXH: the same key stands in 1.csv:2\n",
+    Refuses({g_strReadingHeader + strRow + strRow}, "1.csv:3: SHJHXH: the same key stands in 1.csv:2\n",
             "--replace ");
-    Takes({kReadingHeader + strRow});
-    Refuses({kReadingHeader + strRow}, "1.csv:2: SHJHXH: a row of this key is stored already\n");
-    Takes({kReadingHeader + strRow}, "--replace ");
-    Refuses({kLayerHeader + "ZK1,0.1,4,a\nZK1,0.10000000001,4,b\n"}, // one number in a 4-byte column
+    Takes({g_strReadingHeader + strRow});
+    Refuses({g_strReadingHeader + strRow}, "1.csv:2: SHJHXH: a row of this key is stored already\n");
+    Takes({g_strReadingHeader + strRow}, "--replace ");
+    Refuses({g_strLayerHeader + "ZK1,0.1,4,a\nZK1,0.10000000001,4,b\n"}, // one number in a 4-byte column
             "1.csv:3: TCCDSD: the same key stands in 1.csv:2\n");
-    Refuses({kLayerHeader + "ZK1,0,4,a\nZK1,-0,4,b\n"}, "1.csv:3: TCCDSD: the same key stands in 1.csv:2\n");
+    Refuses({g_strLayerHeader + "ZK1,0,4,a\nZK1,-0,4,b\n"},
+            "1.csv:3: TCCDSD: the same key stands in 1.csv:2\n");
     Takes({"ZKBH,QYBH,SYFF\nzk1,1-1,\nZK1,1-1,\nZK1,1-1 ,\n"}); // other texts, other keys
 }
 
@@ -214,9 +217,9 @@ TEST_F(ImportRefusals, ASampleThatStandsInOneOfItsTwoTables) {
 }
 
 TEST_F(ImportRefusals, OneBadFileOfSeveralKeepsAllOut) {
-    Refuses({kLayerHeader + "ZK1,4,4,a\n", "ZKBH,QYBH,SYFF\nZK1,1-1,\n", Reading(kWY, "x")},
+    Refuses({g_strLayerHeader + "ZK1,4,4,a\n", "ZKBH,QYBH,SYFF\nZK1,1-1,\n", Reading(g_nWY, "x")},
             "3.csv:2: WY: \"x\" is no decimal number within the range of a 4-byte float\n");
-    const CRun run = Run({kLayerHeader + "ZK1,4,4,a\n"}, "missing.csv ");
+    const CRun run = Run({g_strLayerHeader + "ZK1,4,4,a\n"}, "missing.csv ");
     EXPECT_EQ(run.m_nStatus, 4);
     EXPECT_EQ(run.m_strErrors, "tvdata: missing.csv: the file cannot be read\n");
     EXPECT_EQ(m_program.Sql("Projects/A/project.db", "SELECT COUNT(*) FROM z_g_TuCeng"), "0\n");

@@ -86,7 +86,7 @@ TEST_F(Open, LetsTheResidentOneTakeOverAProject) {
     const std::string strFirst = m_program.Do("open --root \"$ROOT\" --number A");
     EXPECT_EQ(m_program.Do("open --root \"$ROOT\" --number B"), strFirst);
     EXPECT_EQ(m_program.Do("open --root \"$ROOT\" --number A --foreground"), strFirst);
-    EXPECT_EQ(Log(), std::to_string(kMessageTake) + " 2 0\n" + std::to_string(kMessageTake) + " 1 0\n");
+    EXPECT_EQ(Log(), std::to_string(g_nMessageTake) + " 2 0\n" + std::to_string(g_nMessageTake) + " 1 0\n");
     EXPECT_NE(m_program.Read("Project.ini").find("GCSY=1\nGCBH=A\n"), std::string::npos);
 }
 
@@ -94,7 +94,7 @@ TEST_F(Open, IsEndedByClose) {
     m_program.Do("open --root \"$ROOT\" --number A");
     m_program.Do("close --root \"$ROOT\"");
     EXPECT_FALSE(IsThere());
-    EXPECT_EQ(Log(), std::to_string(kMessageEnd) + " 0 0\n");
+    EXPECT_EQ(Log(), std::to_string(g_nMessageEnd) + " 0 0\n");
     m_program.Do("close --root \"$ROOT\"");
 }
 

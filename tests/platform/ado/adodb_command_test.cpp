@@ -75,7 +75,7 @@ TEST_F(CommandObject, SaysThatADatabaseHasNoProcedures) {
         m_pCommand->Execute();
         ADD_FAILURE() << "ran";
     } catch (const CComError& error) {
-        EXPECT_EQ(static_cast<std::uint32_t>(error.Error()), kStatementError);
+        EXPECT_EQ(static_cast<std::uint32_t>(error.Error()), g_nStatementError);
         EXPECT_EQ(error.Description(), L"This database has no stored procedures: 统计");
     }
 }
@@ -83,15 +83,15 @@ TEST_F(CommandObject, SaysThatADatabaseHasNoProcedures) {
 TEST_F(CommandObject, NeedsAnOpenConnection) {
     m_pCommand->PutCommandText(L"select 1");
     m_pConnection->Close();
-    EXPECT_EQ(CodeOf([&] { m_pCommand->Execute(); }), kInvalidConnection);
+    EXPECT_EQ(CodeOf([&] { m_pCommand->Execute(); }), g_nInvalidConnection);
     m_pCommand->PutActiveConnection(nullptr);
-    EXPECT_EQ(CodeOf([&] { m_pCommand->Execute(); }), kInvalidConnection);
-    EXPECT_EQ(CodeOf([&] { Recordset().Open(CommandPtr()); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pCommand->Execute(); }), g_nInvalidConnection);
+    EXPECT_EQ(CodeOf([&] { Recordset().Open(CommandPtr()); }), g_nInvalidArgument);
 }
 
 TEST_F(CommandObject, KeepsItsTimeout) {
     EXPECT_EQ(m_pCommand->GetCommandTimeout(), 30);
     m_pCommand->PutCommandTimeout(0);
     EXPECT_EQ(m_pCommand->GetCommandTimeout(), 0);
-    EXPECT_EQ(CodeOf([&] { m_pCommand->PutCommandTimeout(-1); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pCommand->PutCommandTimeout(-1); }), g_nInvalidArgument);
 }

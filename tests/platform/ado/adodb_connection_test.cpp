@@ -12,11 +12,11 @@ class ConnectionObject : public CRecordsetTest {};
 
 TEST_F(ConnectionObject, OpensOnceAndCloses) {
     EXPECT_EQ(m_pConnection->GetState(), adStateOpen);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Open(L""); }), kObjectOpen);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Open(L""); }), g_nObjectOpen);
     m_pConnection->Close();
     EXPECT_EQ(m_pConnection->GetState(), adStateClosed);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Close(); }), kObjectClosed);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select 1"); }), kObjectClosed);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Close(); }), g_nObjectClosed);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select 1"); }), g_nObjectClosed);
 }
 
 TEST_F(ConnectionObject, KeepsItsConnectionString) {
@@ -50,9 +50,9 @@ TEST_F(ConnectionObject, TakesATimeoutWhileClosed) {
     EXPECT_EQ(pConnection->GetConnectionTimeout(), 15);
     pConnection->PutConnectionTimeout(3);
     EXPECT_EQ(pConnection->GetConnectionTimeout(), 3);
-    EXPECT_EQ(CodeOf([&] { pConnection->PutConnectionTimeout(-1); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->PutConnectionTimeout(3); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->PutConnectionString(L"x"); }), kObjectOpen);
+    EXPECT_EQ(CodeOf([&] { pConnection->PutConnectionTimeout(-1); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->PutConnectionTimeout(3); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->PutConnectionString(L"x"); }), g_nObjectOpen);
 }
 
 TEST_F(ConnectionObject, CountsTheRowsThatAStatementChanges) {
@@ -69,7 +69,7 @@ TEST_F(ConnectionObject, GivesRowsThatRunForwardAndAreReadOnly) {
     EXPECT_EQ(pRows->GetCursorType(), adOpenForwardOnly);
     EXPECT_EQ(pRows->GetRecordCount(), -1);
     EXPECT_EQ(Column(*pRows, L"name"), L"甲,乙,丙");
-    EXPECT_EQ(CodeOf([&] { pRows->MovePrevious(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->MovePrevious(); }), g_nNotAvailable);
     m_pConnection->PutCursorLocation(adUseClient);
     EXPECT_EQ(m_pConnection->Execute(L"t", nullptr, adCmdTable)->GetRecordCount(), 3);
     EXPECT_EQ(m_pConnection->Execute(L"t", nullptr, adCmdTable | adExecuteNoRecords)->GetState(),
@@ -77,12 +77,12 @@ TEST_F(ConnectionObject, GivesRowsThatRunForwardAndAreReadOnly) {
 }
 
 TEST_F(ConnectionObject, RaisesACodeForEachKindOfFault) {
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"selekt"); }), kNoTable); // a lone name is a table
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select * from missing"); }), kNoTable);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select from where"); }), kStatementError);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"", nullptr, adCmdText); }), kStatementError);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"selekt"); }), g_nNoTable); // a lone name is a table
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select * from missing"); }), g_nNoTable);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select from where"); }), g_nStatementError);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"", nullptr, adCmdText); }), g_nStatementError);
     EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"insert into t values(1,'',0)"); }), 0x80040E2FU);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"proc", nullptr, adCmdStoredProc); }), kStatementError);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"proc", nullptr, adCmdStoredProc); }), g_nStatementError);
 }
 
 TEST_F(ConnectionObject, RaisesWhenAnotherProgramKeepsTheLock) {
@@ -99,8 +99,8 @@ TEST_F(ConnectionObject, ClosesTheRecordsetsOpenedOnIt) {
     m_pConnection->Close();
     EXPECT_EQ(pRows->GetState(), adStateClosed);
     EXPECT_EQ(pClone->GetState(), adStateClosed);
-    EXPECT_EQ(CodeOf([&] { pRows->MoveNext(); }), kObjectClosed);
-    EXPECT_EQ(CodeOf([&] { (void)pRows->GetFields(); }), kObjectClosed);
+    EXPECT_EQ(CodeOf([&] { pRows->MoveNext(); }), g_nObjectClosed);
+    EXPECT_EQ(CodeOf([&] { (void)pRows->GetFields(); }), g_nObjectClosed);
     m_pConnection->Open(L"");
     pRows->Open(L"select * from t", m_pConnection);
     EXPECT_EQ(Text(*pRows, L"id"), L"1");

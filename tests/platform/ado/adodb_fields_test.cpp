@@ -31,9 +31,9 @@ TEST_F(FieldObject, IsFoundByNameWithoutCaseAndByNumber) {
     EXPECT_EQ(fields.GetCount(), 11);
     EXPECT_EQ(fields.GetItem(L"c").GetName(), L"C");
     EXPECT_EQ(fields.GetItem(0L).GetName(), L"S");
-    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(L"深度"); }), kItemNotFound);
-    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(11); }), kItemNotFound);
-    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(-1); }), kItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(L"深度"); }), g_nItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(11); }), g_nItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)fields.GetItem(-1); }), g_nItemNotFound);
 }
 
 TEST_F(FieldObject, ShowsTypesAndSizes) {
@@ -70,8 +70,8 @@ TEST_F(FieldObject, IsReadPieceByPiece) {
     EXPECT_EQ(Item(L"X").GetChunk(99), CVariant(L"g"));
     EXPECT_EQ(Item(L"P").GetChunk(1), CVariant(CBytes{0})); // from the start again after another field
     EXPECT_EQ(Item(L"V").GetChunk(1), CVariant::Null());
-    EXPECT_EQ(CodeOf([&] { (void)Item(L"L").GetChunk(1); }), kIllegalOperation);
-    EXPECT_EQ(CodeOf([&] { (void)Item(L"P").GetChunk(-1); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { (void)Item(L"L").GetChunk(1); }), g_nIllegalOperation);
+    EXPECT_EQ(CodeOf([&] { (void)Item(L"P").GetChunk(-1); }), g_nInvalidArgument);
 }
 
 TEST_F(FieldObject, IsWrittenPieceByPiece) {
@@ -88,15 +88,15 @@ TEST_F(FieldObject, IsWrittenPieceByPiece) {
 }
 
 TEST_F(FieldObject, TakesPiecesOfItsOwnKindOnly) {
-    EXPECT_EQ(CodeOf([&] { Item(L"P").AppendChunk(CVariant(L"x")); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { Item(L"X").AppendChunk(CVariant(CBytes{1})); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { Item(L"X").AppendChunk(CVariant(5)); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { Item(L"L").AppendChunk(CVariant(CBytes{1})); }), kIllegalOperation);
+    EXPECT_EQ(CodeOf([&] { Item(L"P").AppendChunk(CVariant(L"x")); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { Item(L"X").AppendChunk(CVariant(CBytes{1})); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { Item(L"X").AppendChunk(CVariant(5)); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { Item(L"L").AppendChunk(CVariant(CBytes{1})); }), g_nIllegalOperation);
     EXPECT_EQ(m_pRows->GetEditMode(), adEditNone);
 }
 
 TEST_F(FieldObject, RefusesAValueThatDoesNotSuitItsType) {
-    EXPECT_EQ(CodeOf([&] { Item(L"L").PutValue(CVariant(L"x")); }), kWrongType);
+    EXPECT_EQ(CodeOf([&] { Item(L"L").PutValue(CVariant(L"x")); }), g_nWrongType);
     EXPECT_EQ(CodeOf([&] { Item(L"S").PutValue(CVariant(40000)); }), 0x80040E57U);
     EXPECT_EQ(CodeOf([&] { Item(L"C").PutValue(CVariant(L"\U0001F600")); }), 0x80040E21U);
     EXPECT_EQ(m_pRows->GetEditMode(), adEditNone);

@@ -15,13 +15,13 @@ TEST(ParameterObject, BindsItsValueInItsType) {
     pParameter->PutType(adVarWChar);
     EXPECT_EQ(pParameter->BoundValue(), CDbValue("12"));
     pParameter->PutType(adDate);
-    EXPECT_EQ(CodeOf([&] { (void)pParameter->BoundValue(); }), kWrongType);
+    EXPECT_EQ(CodeOf([&] { (void)pParameter->BoundValue(); }), g_nWrongType);
     pParameter->PutValue(CVariant::Date(2.0));
     EXPECT_EQ(pParameter->BoundValue(), CDbValue("1900-01-01"));
     pParameter->PutValue(CVariant::Null());
     EXPECT_EQ(pParameter->BoundValue(), CDbValue());
     pParameter->PutType(adEmpty);
-    EXPECT_EQ(CodeOf([&] { (void)pParameter->BoundValue(); }), kWrongType);
+    EXPECT_EQ(CodeOf([&] { (void)pParameter->BoundValue(); }), g_nWrongType);
 }
 
 TEST(ParameterObject, KeepsItsProperties) {
@@ -48,11 +48,11 @@ TEST(ParametersObject, FindsByNameWithoutCaseAndByNumber) {
     EXPECT_EQ(parameters.GetCount(), 2);
     EXPECT_EQ(parameters.GetItem(L"HOLE"), pFirst);
     EXPECT_EQ(parameters.GetItem(1)->GetName(), L"深");
-    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(L"x"); }), kItemNotFound);
-    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(2); }), kItemNotFound);
-    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(-1); }), kItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(L"x"); }), g_nItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(2); }), g_nItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)parameters.GetItem(-1); }), g_nItemNotFound);
     EXPECT_EQ(CodeOf([&] { parameters.Append(pFirst); }), 0x800A0D27U);
-    EXPECT_EQ(CodeOf([&] { parameters.Append(nullptr); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { parameters.Append(nullptr); }), g_nInvalidArgument);
     parameters.Delete(0);
     EXPECT_EQ(parameters.GetItem(0)->GetName(), L"深");
 }
@@ -60,5 +60,5 @@ TEST(ParametersObject, FindsByNameWithoutCaseAndByNumber) {
 TEST(ParametersObject, RefusesToGiveValuesBack) {
     Parameters parameters;
     parameters.Append(Command::CreateParameter(L"p", adInteger, adParamOutput, 0, CVariant(1)));
-    EXPECT_EQ(CodeOf([&] { (void)parameters.BoundValues(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { (void)parameters.BoundValues(); }), g_nNotAvailable);
 }

@@ -30,23 +30,23 @@ TEST_F(RecordsetObject, OpensByItsProperties) {
     recordset.PutLockType(adLockOptimistic);
     EXPECT_EQ(recordset.Open(L"", ConnectionPtr()), S_OK);
     EXPECT_EQ(recordset.GetRecordCount(), 3);
-    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", m_pConnection); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { recordset.PutCursorType(adOpenStatic); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { recordset.PutCursorLocation(adUseClient); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { recordset.PutLockType(adLockReadOnly); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { recordset.PutSource(L""); }), kObjectOpen);
-    EXPECT_EQ(CodeOf([&] { recordset.PutActiveConnection(nullptr); }), kObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", m_pConnection); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.PutCursorType(adOpenStatic); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.PutCursorLocation(adUseClient); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.PutLockType(adLockReadOnly); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.PutSource(L""); }), g_nObjectOpen);
+    EXPECT_EQ(CodeOf([&] { recordset.PutActiveConnection(nullptr); }), g_nObjectOpen);
     recordset.Close();
     EXPECT_EQ(recordset.GetState(), adStateClosed);
-    EXPECT_EQ(CodeOf([&] { recordset.Close(); }), kObjectClosed);
-    EXPECT_EQ(CodeOf([&] { (void)recordset.IsEOF(); }), kObjectClosed);
+    EXPECT_EQ(CodeOf([&] { recordset.Close(); }), g_nObjectClosed);
+    EXPECT_EQ(CodeOf([&] { (void)recordset.IsEOF(); }), g_nObjectClosed);
     EXPECT_EQ(recordset.Open(L"", ConnectionPtr()), S_OK);
 }
 
 TEST_F(RecordsetObject, NeedsAnOpenConnection) {
     Recordset recordset;
-    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", ConnectionPtr()); }), kInvalidConnection);
-    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", Connection::CreateInstance()); }), kInvalidConnection);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", ConnectionPtr()); }), g_nInvalidConnection);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(L"t", Connection::CreateInstance()); }), g_nInvalidConnection);
     EXPECT_EQ(recordset.GetState(), adStateClosed);
 }
 
@@ -59,8 +59,8 @@ TEST_F(RecordsetObject, OpensOnAConnectionOfItsOwn) {
 
 TEST_F(RecordsetObject, RaisesForAStatementThatFails) {
     Recordset recordset;
-    EXPECT_EQ(CodeOf([&] { recordset.Open(L"select * from missing", m_pConnection); }), kNoTable);
-    EXPECT_EQ(CodeOf([&] { recordset.Open(L"select nothing from t", m_pConnection); }), kStatementError);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(L"select * from missing", m_pConnection); }), g_nNoTable);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(L"select nothing from t", m_pConnection); }), g_nStatementError);
     EXPECT_EQ(recordset.GetState(), adStateClosed);
 }
 
@@ -102,8 +102,8 @@ TEST_F(RecordsetObject, RaisesForAKeysetsRowThatAnotherProgramDeleted) {
     const RecordsetPtr pRows = OpenedKeyset(L"select * from t order by id");
     m_pDatabase->Execute("delete from t where id = 2");
     pRows->MoveNext();
-    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"name"); }), kDeletedRow);
-    EXPECT_EQ(CodeOf([&] { Put(*pRows, L"name", CVariant(L"x")); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"name"); }), g_nDeletedRow);
+    EXPECT_EQ(CodeOf([&] { Put(*pRows, L"name", CVariant(L"x")); }), g_nDeletedRow);
     EXPECT_FALSE(pRows->IsEOF());
     EXPECT_EQ(pRows->GetRecordCount(), 3);
     pRows->MoveNext();
@@ -121,12 +121,12 @@ TEST_F(RecordsetObject, ReadsRowsAnewOnRequest) {
     pRows->PutFilter(adFilterNone);
     EXPECT_EQ(Column(*pRows, L"name"), L"甲,丁,丁");
     m_pDatabase->Execute("delete from t where id = 1");
-    EXPECT_EQ(CodeOf([&] { pRows->Resync(); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { pRows->Resync(); }), g_nDeletedRow);
     pRows->MoveFirst();
-    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"name"); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"name"); }), g_nDeletedRow);
     pRows->MoveLast();
     pRows->MoveNext();
-    EXPECT_EQ(CodeOf([&] { pRows->Resync(adAffectCurrent); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { pRows->Resync(adAffectCurrent); }), g_nNoCurrentRecord);
 }
 
 TEST_F(RecordsetObject, KeepsFilterAndOrderThroughRequery) {
@@ -141,8 +141,8 @@ TEST_F(RecordsetObject, KeepsFilterAndOrderThroughRequery) {
 TEST_F(RecordsetObject, DoesNotCloseOrRequeryWhileARowIsEdited) {
     const RecordsetPtr pRows = Opened(L"t");
     Put(*pRows, L"name", CVariant(L"x"));
-    EXPECT_EQ(CodeOf([&] { pRows->Close(); }), kIllegalOperation);
-    EXPECT_EQ(CodeOf([&] { pRows->Requery(); }), kIllegalOperation);
+    EXPECT_EQ(CodeOf([&] { pRows->Close(); }), g_nIllegalOperation);
+    EXPECT_EQ(CodeOf([&] { pRows->Requery(); }), g_nIllegalOperation);
     pRows->CancelUpdate();
     pRows->Close();
     EXPECT_EQ(Rows(*m_pDatabase, "select name from t where id = 1"), CRows{"甲"});
@@ -152,7 +152,7 @@ TEST_F(RecordsetObject, LosesAnEditWhenItsConnectionCloses) {
     const RecordsetPtr pRows = Opened(L"t");
     Put(*pRows, L"name", CVariant(L"x"));
     m_pConnection->Close();
-    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), kObjectClosed);
+    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), g_nObjectClosed);
     m_pConnection->Open(L"");
     pRows->Open(L"", ConnectionPtr());
     EXPECT_EQ(Text(*pRows, L"name"), L"甲");
@@ -174,7 +174,7 @@ TEST_F(RecordsetObject, SharesRowsWithItsClonesButNotThePlace) {
     pRows->MoveFirst();
     pClone->MoveFirst();
     pClone->Delete();
-    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"id"); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { Text(*pRows, L"id"); }), g_nNoCurrentRecord);
     EXPECT_EQ(Column(*pRows, L"id"), L"2,3,8");
     pRows->Close();
     EXPECT_EQ(Column(*pClone, L"id"), L"2,3,8");
@@ -237,8 +237,8 @@ TEST_P(RecordsetOnEngine, SeesWhatOthersDoThroughAKeyset) {
     EXPECT_EQ(Item(L"D").GetValue(), CVariant(9.0));
     m_pDatabase->Execute("delete from r where N = 3");
     m_pRows->MoveLast();
-    EXPECT_EQ(CodeOf([&] { (void)Item(L"D").GetValue(); }), kDeletedRow);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Resync(adAffectCurrent); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { (void)Item(L"D").GetValue(); }), g_nDeletedRow);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Resync(adAffectCurrent); }), g_nDeletedRow);
 }
 
 TEST_P(RecordsetOnEngine, IsStaticOverAJoin) {
@@ -247,12 +247,12 @@ TEST_P(RecordsetOnEngine, IsStaticOverAJoin) {
     EXPECT_EQ(join.GetCursorType(), adOpenStatic);
     EXPECT_EQ(join.GetRecordCount(), 9);
     join.GetFields().GetItem(L"n").PutValue(CVariant(5));
-    EXPECT_EQ(CodeOf([&] { join.Update(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { join.Update(); }), g_nNotAvailable);
 }
 
 TEST_P(RecordsetOnEngine, RaisesTheCodeOfTheFault) {
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select * from missing"); }), kNoTable);
-    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select nothing from r"); }), kStatementError);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select * from missing"); }), g_nNoTable);
+    EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"select nothing from r"); }), g_nStatementError);
     m_pConnection->Execute(L"create unique index i on r(N, ZKBH, QYBH, D) where N > 2", nullptr, adCmdText);
     m_pDatabase->Execute("insert into r values('孔4','4',4,4)");
     EXPECT_EQ(CodeOf([&] { m_pConnection->Execute(L"insert into r values('孔4','4',4,4)"); }), 0x80040E2FU);

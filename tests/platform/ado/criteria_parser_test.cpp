@@ -78,13 +78,13 @@ TEST(ParseCriteria, RefusesWhatItDoesNotUnderstand) {
                                 "a between 1 and 2",
                                 "1=1",
                                 "a=9x"})
-        EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(pszText); }), kInvalidArgument) << pszText;
+        EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(pszText); }), g_nInvalidArgument) << pszText;
 }
 
 TEST(ParseCriteria, RefusesWhatWouldFillTheMemoryOrTheStack) {
     std::string strProduct = "(a=1 or a=2)";
     for (int i = 0; i < 20; ++i)
         strProduct += " and (a=1 or a=2)";
-    EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(strProduct); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(std::string(100000, '(')); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(strProduct); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { (void)ParseCriteria(std::string(100000, '(')); }), g_nInvalidArgument);
 }

@@ -97,5 +97,5 @@ TEST_F(Criteria, JoinsConditions) {
 }
 
 TEST_F(Criteria, NamesAColumnThatTheRowsLack) {
-    EXPECT_EQ(CodeOf([&] { (void)Meets("n = 5 and 深度 = 1"); }), kItemNotFound);
+    EXPECT_EQ(CodeOf([&] { (void)Meets("n = 5 and 深度 = 1"); }), g_nItemNotFound);
 }

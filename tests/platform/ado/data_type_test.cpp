@@ -37,5 +37,5 @@ TEST(DataType, TakesEveryTypeOfParameters) {
     EXPECT_EQ(ColumnTypeOf(adDecimal), DBTYPE_DECIMAL);
     EXPECT_EQ(ColumnTypeOf(adLongVarBinary), DBTYPE_BYTES);
     EXPECT_EQ(ColumnTypeOf(adVariant), DBTYPE_EMPTY);
-    EXPECT_EQ(CodeOf([] { ColumnTypeOf(adEmpty); }), kWrongType);
+    EXPECT_EQ(CodeOf([] { ColumnTypeOf(adEmpty); }), g_nWrongType);
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-const std::string kClay = "\xE7\xB2\x98\xE5\x9C\x9F"; // 粘土, UTF-8
+const std::string g_strClay = "\xE7\xB2\x98\xE5\x9C\x9F"; // 粘土, UTF-8
 
 /// What a call throws; empty when it does not.
 template <class Call>
@@ -23,10 +23,10 @@ std::string Thrown(const Call& call) {
 } // namespace
 
 TEST(DatabaseText, ConvertsBothWays) {
-    EXPECT_EQ(StatementToUtf8("粘土", "X"), kClay);
-    EXPECT_EQ(ValueToUtf8("粘土", "X"), kClay);
-    EXPECT_EQ(TextFromUtf8(kClay, "t", "c", "X"), "粘土");
-    EXPECT_EQ(NameFromUtf8(kClay), "粘土");
+    EXPECT_EQ(StatementToUtf8("粘土", "X"), g_strClay);
+    EXPECT_EQ(ValueToUtf8("粘土", "X"), g_strClay);
+    EXPECT_EQ(TextFromUtf8(g_strClay, "t", "c", "X"), "粘土");
+    EXPECT_EQ(NameFromUtf8(g_strClay), "粘土");
 }
 
 TEST(DatabaseText, NamesTheCharacterThatTheCodePageLacksAndWhereItStands) {

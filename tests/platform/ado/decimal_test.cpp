@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr const char* kLargest = "79228162514264337593543950335"; // 2^96 - 1
+constexpr const char* g_pLargest = "79228162514264337593543950335"; // 2^96 - 1
 
 std::string Again(std::string_view strText) {
     const auto decimal = DecimalFromText(strText);
@@ -16,14 +16,14 @@ std::string Again(std::string_view strText) {
 } // namespace
 
 TEST(DecimalFromText, KeepsEveryDigit) {
-    for (const char* pszText : {"0", "0.00", "1.50", "-12.50", "0.001", "-0.5", kLargest,
+    for (const char* pszText : {"0", "0.00", "1.50", "-12.50", "0.001", "-0.5", g_pLargest,
                                 "7.9228162514264337593543950335", "-4294967296.4294967296"})
         EXPECT_EQ(Again(pszText), pszText);
 }
 
 TEST(DecimalFromText, FillsSignScaleAndBits) {
     EXPECT_EQ(DecimalFromText("-1.25"), (DECIMAL{2, 0x80, 0, 125}));
-    EXPECT_EQ(DecimalFromText(kLargest), (DECIMAL{0, 0, 0xFFFFFFFF, 0xFFFFFFFFFFFFFFFF}));
+    EXPECT_EQ(DecimalFromText(g_pLargest), (DECIMAL{0, 0, 0xFFFFFFFF, 0xFFFFFFFFFFFFFFFF}));
     EXPECT_EQ(DecimalFromText("18446744073709551616"), (DECIMAL{0, 0, 1, 0})); // 2^64
 }
 

@@ -30,7 +30,7 @@ std::tuple<int, double, std::string> NaturalKey(const std::string& strName) {
             std::string(255 - strName.size(), '0') + strName};
 }
 
-constexpr const char* kNaturalOrder =
+constexpr const char* g_pNaturalOrder =
     "isnumeric(left(ZKBH,1)),val(ZKBH), string(255-len(trim(ZKBH)),'0')+trim(ZKBH),"
     "isnumeric(left(qybh,1)),val(qybh), string(255-len(trim(qybh)),'0')+trim(qybh)";
 
@@ -141,14 +141,15 @@ TEST_P(DialectFunctions, NaturalOrderEqualsASortByItsThreeKeys) {
     CRows arExpected;
     for (const auto& [strHole, strSample] : arPairs)
         arExpected.push_back(std::string(strHole).append("|").append(strSample));
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select * from t order by ").append(kNaturalOrder)), arExpected);
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select * from t order by ").append(g_pNaturalOrder)),
+              arExpected);
 }
 
 TEST_P(DialectFunctions, NaturalOrderPutsTenBehindNineAndLettersBehindDigits) {
     m_pDatabase->Execute("create table t(ZKBH text, QYBH text)");
     m_pDatabase->Execute(
         "insert into t values('A1','1'),('10','1'),('ZK10','1'),('9','1'),('ZK9','1'),('1-2','1')");
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(kNaturalOrder)),
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(g_pNaturalOrder)),
               (CRows{"1-2", "9", "10", "A1", "ZK9", "ZK10"}));
 }
 
@@ -156,6 +157,6 @@ TEST_P(DialectFunctions, ThirdKeyComparesByCodePointWhateverTheColumnSays) {
     m_pDatabase->Execute(In("create table t(ZKBH text collate nocase, QYBH text)",
                             "create table t(ZKBH text collate \"en-x-icu\", QYBH text)"));
     m_pDatabase->Execute("insert into t values('b','1'),('B','1'),('a','1'),('_','1')");
-    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(kNaturalOrder)),
+    EXPECT_EQ(Rows(*m_pDatabase, std::string("select ZKBH from t order by ").append(g_pNaturalOrder)),
               (CRows{"B", "_", "a", "b"}));
 }

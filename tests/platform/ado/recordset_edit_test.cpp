@@ -59,7 +59,7 @@ TEST_F(RecordsetEdit, AddsARowThatBecomesTheLastAndCurrent) {
     EXPECT_EQ(m_pRows->GetEditMode(), adEditAdd);
     EXPECT_FALSE(m_pRows->IsEOF());
     EXPECT_EQ(m_pRows->GetFields().GetItem(L"name").GetValue(), CVariant());
-    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), kIllegalOperation);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), g_nIllegalOperation);
     Put(*m_pRows, L"name", CVariant(L"丁"));
     m_pRows->Update();
     EXPECT_EQ(Table()[3], "4|丁|");
@@ -103,8 +103,8 @@ TEST_F(RecordsetEdit, DeletesTheCurrentRow) {
     EXPECT_EQ(m_pRows->GetEditMode(), adEditDelete);
     EXPECT_EQ(m_pRows->GetRecordCount(), 2);
     EXPECT_EQ(m_pRows->GetAbsolutePosition(), adPosUnknown);
-    EXPECT_EQ(CodeOf([&] { Text(*m_pRows, L"name"); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { Text(*m_pRows, L"name"); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), g_nNoCurrentRecord);
     m_pRows->Move(0); // stays
     m_pRows->MoveNext();
     EXPECT_EQ(Text(*m_pRows, L"name"), L"丙");
@@ -123,34 +123,34 @@ TEST_F(RecordsetEdit, DeletesTheRowsOfAFilter) {
     EXPECT_EQ(Table(), CRows{"1|甲|1.5"});
     m_pRows->PutFilter(adFilterNone);
     EXPECT_EQ(m_pRows->GetRecordCount(), 1);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(adAffectAll); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(adAffectAll); }), g_nInvalidArgument);
 }
 
 TEST_F(RecordsetEdit, ChangesNothingThroughAReadOnlyRecordset) {
     const RecordsetPtr pRows = Opened(L"t", adUseClient, adOpenStatic, adLockReadOnly);
-    EXPECT_EQ(CodeOf([&] { Put(*pRows, L"name", CVariant(L"x")); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { pRows->AddNew(); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { pRows->Delete(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { Put(*pRows, L"name", CVariant(L"x")); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->AddNew(); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->Delete(); }), g_nNotAvailable);
 }
 
 TEST_F(RecordsetEdit, ChangesNothingOfAJoin) {
     const RecordsetPtr pRows = Opened(L"select a.name from t a, t b");
     Put(*pRows, L"name", CVariant(L"x"));
-    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), g_nNotAvailable);
     pRows->CancelUpdate();
-    EXPECT_EQ(CodeOf([&] { pRows->Delete(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->Delete(); }), g_nNotAvailable);
     pRows->AddNew();
-    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { pRows->Update(); }), g_nNotAvailable);
     EXPECT_EQ(Table()[0], "1|甲|1.5");
 }
 
 TEST_F(RecordsetEdit, RaisesForARowThatAnotherProgramDeleted) {
     m_pDatabase->Execute("delete from t where id = 1");
     Put(*m_pRows, L"name", CVariant(L"x"));
-    EXPECT_EQ(CodeOf([&] { m_pRows->Update(); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Update(); }), g_nDeletedRow);
     EXPECT_EQ(m_pRows->GetEditMode(), adEditInProgress);
     m_pRows->CancelUpdate();
-    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), kDeletedRow);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Delete(); }), g_nDeletedRow);
 }
 
 TEST_F(RecordsetEdit, ReportsWritesGivenUpForALock) {

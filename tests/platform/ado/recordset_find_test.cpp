@@ -26,7 +26,7 @@ TEST_F(RecordsetFind, BeginsWithTheCurrentRow) {
     EXPECT_EQ(Here(), L"4");
     m_pRows->Find(L"name = '甲'", 1);
     EXPECT_TRUE(m_pRows->IsEOF());
-    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1"); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1"); }), g_nNoCurrentRecord);
 }
 
 TEST_F(RecordsetFind, SearchesBackwardAndFromAnyStart) {
@@ -48,11 +48,11 @@ TEST_F(RecordsetFind, FindsNull) {
 }
 
 TEST_F(RecordsetFind, TakesOneConditionOnly) {
-    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1 AND depth > 1"); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L""); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"nothing = 1"); }), kItemNotFound);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1 AND depth > 1"); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L""); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"nothing = 1"); }), g_nItemNotFound);
     EXPECT_EQ(Here(), L"1");
-    EXPECT_EQ(CodeOf([&] { Opened(L"select * from t where id > 99")->Find(L"id = 1"); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { Opened(L"select * from t where id > 99")->Find(L"id = 1"); }), g_nNoCurrentRecord);
 }
 
 TEST_F(RecordsetFind, SeesOthersValuesThroughAKeyset) {
@@ -84,9 +84,9 @@ TEST_F(RecordsetFind, FiltersAndGoesToTheFirstRowShown) {
 
 TEST_F(RecordsetFind, KeepsTheFilterThatWasThereWhenANewOneIsWrong) {
     m_pRows->PutFilter(L"id = 3");
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(L"id ="); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(L"nothing = 1"); }), kItemNotFound);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(adFilterPendingRecords); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(L"id ="); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(L"nothing = 1"); }), g_nItemNotFound);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutFilter(adFilterPendingRecords); }), g_nNotAvailable);
     EXPECT_EQ(m_pRows->GetFilter(), L"id = 3");
     EXPECT_EQ(m_pRows->GetRecordCount(), 1);
 }
@@ -113,9 +113,9 @@ TEST_F(RecordsetFind, SortsByColumns) {
 
 TEST_F(RecordsetFind, RefusesASortOrderItDoesNotUnderstand) {
     for (const wchar_t* pszSort : {L"nothing", L"id,", L"id up", L"desc", L","})
-        EXPECT_EQ(CodeOf([&] { m_pRows->PutSort(pszSort); }), kItemNotFound) << GbkFromWide(pszSort);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutSort(L"[id"); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { OpenedKeyset(L"t")->PutSort(L"id"); }), kNotAvailable);
+        EXPECT_EQ(CodeOf([&] { m_pRows->PutSort(pszSort); }), g_nItemNotFound) << GbkFromWide(pszSort);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutSort(L"[id"); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { OpenedKeyset(L"t")->PutSort(L"id"); }), g_nNotAvailable);
     EXPECT_EQ(m_pRows->GetSort(), L"");
 }
 

@@ -12,18 +12,18 @@
 #include "tests/platform/ado/database_fixture.h"
 
 // Result codes that the tests expect, as callers see them.
-inline constexpr std::uint32_t kNoCurrentRecord = 0x800A0BCD;
-inline constexpr std::uint32_t kInvalidArgument = 0x800A0BB9;
-inline constexpr std::uint32_t kIllegalOperation = 0x800A0C93;
-inline constexpr std::uint32_t kNotAvailable = 0x800A0CB3;
-inline constexpr std::uint32_t kItemNotFound = 0x800A0CC1;
-inline constexpr std::uint32_t kWrongType = 0x800A0D5D;
-inline constexpr std::uint32_t kObjectClosed = 0x800A0E78;
-inline constexpr std::uint32_t kObjectOpen = 0x800A0E79;
-inline constexpr std::uint32_t kInvalidConnection = 0x800A0E7D;
-inline constexpr std::uint32_t kStatementError = 0x80040E14;
-inline constexpr std::uint32_t kDeletedRow = 0x80040E23;
-inline constexpr std::uint32_t kNoTable = 0x80040E37;
+inline constexpr std::uint32_t g_nNoCurrentRecord = 0x800A0BCD;
+inline constexpr std::uint32_t g_nInvalidArgument = 0x800A0BB9;
+inline constexpr std::uint32_t g_nIllegalOperation = 0x800A0C93;
+inline constexpr std::uint32_t g_nNotAvailable = 0x800A0CB3;
+inline constexpr std::uint32_t g_nItemNotFound = 0x800A0CC1;
+inline constexpr std::uint32_t g_nWrongType = 0x800A0D5D;
+inline constexpr std::uint32_t g_nObjectClosed = 0x800A0E78;
+inline constexpr std::uint32_t g_nObjectOpen = 0x800A0E79;
+inline constexpr std::uint32_t g_nInvalidConnection = 0x800A0E7D;
+inline constexpr std::uint32_t g_nStatementError = 0x80040E14;
+inline constexpr std::uint32_t g_nDeletedRow = 0x80040E23;
+inline constexpr std::uint32_t g_nNoTable = 0x80040E37;
 
 /// The code of the error that a call raises; 0 when it raises none.
 template <class Call>

@@ -21,8 +21,8 @@ TEST_F(RecordsetMoves, LeadBehindTheLastRowAndNoFurther) {
     m_pRows->MoveNext();
     EXPECT_TRUE(m_pRows->IsEOF());
     EXPECT_FALSE(m_pRows->IsBOF());
-    EXPECT_EQ(CodeOf([&] { (void)Here(); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MoveNext(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { (void)Here(); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MoveNext(); }), g_nNoCurrentRecord);
     m_pRows->MovePrevious();
     EXPECT_EQ(Here(), L"3");
 }
@@ -31,7 +31,7 @@ TEST_F(RecordsetMoves, LeadBeforeTheFirstRowAndNoFurther) {
     m_pRows->MovePrevious();
     EXPECT_TRUE(m_pRows->IsBOF());
     EXPECT_FALSE(m_pRows->IsEOF());
-    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), g_nNoCurrentRecord);
     m_pRows->MoveNext();
     EXPECT_EQ(Here(), L"1");
     m_pRows->MoveFirst();
@@ -43,13 +43,13 @@ TEST_F(RecordsetMoves, RaiseOverAnEmptyResult) {
     EXPECT_TRUE(m_pRows->IsBOF());
     EXPECT_TRUE(m_pRows->IsEOF());
     EXPECT_EQ(m_pRows->GetRecordCount(), 0);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MoveFirst(); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MoveLast(); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MoveNext(); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Move(0); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(1); }), kNoCurrentRecord);
-    EXPECT_EQ(CodeOf([&] { (void)Here(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MoveFirst(); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MoveLast(); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MoveNext(); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Move(0); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(1); }), g_nNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { (void)Here(); }), g_nNoCurrentRecord);
 }
 
 TEST_F(RecordsetMoves, GoSeveralRowsFromAnyStart) {
@@ -67,8 +67,8 @@ TEST_F(RecordsetMoves, GoSeveralRowsFromAnyStart) {
     EXPECT_EQ(Here(), L"3");
     m_pRows->Move(1000000);
     EXPECT_TRUE(m_pRows->IsEOF());
-    EXPECT_EQ(CodeOf([&] { m_pRows->Move(1, CVariant(7)); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Move(1, CVariant(L"x")); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Move(1, CVariant(7)); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Move(1, CVariant(L"x")); }), g_nInvalidArgument);
 }
 
 TEST_F(RecordsetMoves, CountPositionsFromOne) {
@@ -80,8 +80,8 @@ TEST_F(RecordsetMoves, CountPositionsFromOne) {
     m_pRows->MoveFirst();
     m_pRows->MovePrevious();
     EXPECT_EQ(m_pRows->GetAbsolutePosition(), adPosBOF);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(0); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(4); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(0); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(4); }), g_nInvalidArgument);
     m_pRows->AddNew();
     EXPECT_EQ(m_pRows->GetAbsolutePosition(), adPosUnknown);
 }
@@ -101,7 +101,7 @@ TEST_F(RecordsetMoves, ReturnToABookmarkThroughSorting) {
     EXPECT_EQ(CodeOf([&] { m_pRows->PutBookmark(CVariant(1)); }), nBadBookmark);
     m_pRows->MoveLast();
     m_pRows->MoveNext();
-    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetBookmark(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetBookmark(); }), g_nNoCurrentRecord);
 }
 
 TEST_F(RecordsetMoves, StoreTheRowThatIsBeingEdited) {
@@ -124,10 +124,10 @@ TEST_F(RecordsetMoves, RunForwardOnlyWithTheServersPlainCursor) {
     m_pRows->MoveFirst();
     m_pRows->Move(2);
     EXPECT_EQ(Here(), L"3");
-    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { m_pRows->MoveLast(); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(1); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetBookmark(); }), kNotAvailable);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1", 0, adSearchBackward); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MovePrevious(); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { m_pRows->MoveLast(); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { m_pRows->PutAbsolutePosition(1); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetBookmark(); }), g_nNotAvailable);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Find(L"id = 1", 0, adSearchBackward); }), g_nNotAvailable);
     EXPECT_EQ(m_pRows->GetRecordCount(), -1);
 }

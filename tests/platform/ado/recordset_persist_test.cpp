@@ -9,7 +9,7 @@ using namespace ADODB;
 
 namespace {
 
-constexpr const wchar_t* kFiles = L"Provider=MSPersist;";
+constexpr const wchar_t* g_pFiles = L"Provider=MSPersist;";
 
 class RecordsetPersist : public CRecordsetTest {
 protected:
@@ -29,7 +29,7 @@ TEST_F(RecordsetPersist, OpensWhatItSaved) {
     const RecordsetPtr pWritten = Opened(L"w");
     pWritten->Save(File("rows.xml"));
     Recordset read;
-    read.Open(File("rows.xml"), kFiles, adOpenStatic, adLockOptimistic, adCmdFile);
+    read.Open(File("rows.xml"), g_pFiles, adOpenStatic, adLockOptimistic, adCmdFile);
     EXPECT_EQ(read.GetCursorLocation(), adUseClient);
     ASSERT_EQ(read.GetRecordCount(), 2);
     for (; !read.IsEOF(); read.MoveNext(), pWritten->MoveNext())
@@ -49,7 +49,7 @@ TEST_F(RecordsetPersist, SavesTheRowsShownInTheirOrder) {
     m_pRows->Save(File("rows.xml"));
     EXPECT_EQ(Text(*m_pRows, L"id"), L"3"); // at the first again
     Recordset read;
-    read.Open(File("rows.xml"), kFiles, adOpenStatic);
+    read.Open(File("rows.xml"), g_pFiles, adOpenStatic);
     EXPECT_EQ(Column(read, L"id"), L"3,1");
 }
 
@@ -58,14 +58,14 @@ TEST_F(RecordsetPersist, StoresAnEditFirst) {
     m_pRows->Save(File("rows.xml"));
     EXPECT_EQ(Rows(*m_pDatabase, "select name from t where id = 1"), CRows{"丁"});
     Recordset read;
-    read.Open(File("rows.xml"), kFiles);
+    read.Open(File("rows.xml"), g_pFiles);
     EXPECT_EQ(Text(read, L"name"), L"丁");
 }
 
 TEST_F(RecordsetPersist, ChangesTheRowsOfAFileInMemoryUntilTheyAreSaved) {
     m_pRows->Save(File("rows.xml"));
     Recordset read;
-    read.Open(File("rows.xml"), kFiles, adOpenStatic, adLockOptimistic);
+    read.Open(File("rows.xml"), g_pFiles, adOpenStatic, adLockOptimistic);
     Put(read, L"name", CVariant(L"丁"));
     read.Update();
     read.AddNew();
@@ -77,7 +77,7 @@ TEST_F(RecordsetPersist, ChangesTheRowsOfAFileInMemoryUntilTheyAreSaved) {
     read.Resync();
     read.Save();
     read.Close();
-    read.Open(L"", kFiles);
+    read.Open(L"", g_pFiles);
     EXPECT_EQ(Column(read, L"id"), L"1,3,9");
     EXPECT_EQ(Column(read, L"name"), L"丁,丙,");
     read.Requery();
@@ -92,27 +92,27 @@ TEST_F(RecordsetPersist, DoesNotOverwriteAnotherFile) {
     m_pRows->Save(File("rows.xml"));
     m_pRows->Save(File("rows.xml")); // its own
     m_pRows->Save();
-    EXPECT_EQ(CodeOf([&] { Opened(L"t")->Save(); }), kInvalidArgument);
-    EXPECT_EQ(CodeOf([&] { m_pRows->Save(File("rows.adtg"), adPersistADTG); }), kNotAvailable);
+    EXPECT_EQ(CodeOf([&] { Opened(L"t")->Save(); }), g_nInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { m_pRows->Save(File("rows.adtg"), adPersistADTG); }), g_nNotAvailable);
     EXPECT_EQ(CodeOf([&] { m_pRows->Save(File("missing/rows.xml")); }), 0x800A0BBCU);
 }
 
 TEST_F(RecordsetPersist, SaysWhatIsWrongWithAFile) {
     Recordset recordset;
     const std::uint32_t nUnreadable = 0x800A0BBB;
-    EXPECT_EQ(CodeOf([&] { recordset.Open(File("missing.xml"), kFiles); }), nUnreadable);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(File("missing.xml"), g_pFiles); }), nUnreadable);
     m_folder.Write("text.xml", "no xml");
-    EXPECT_EQ(CodeOf([&] { recordset.Open(File("text.xml"), kFiles); }), nUnreadable);
+    EXPECT_EQ(CodeOf([&] { recordset.Open(File("text.xml"), g_pFiles); }), nUnreadable);
     EXPECT_EQ(recordset.GetState(), adStateClosed);
 }
 
 TEST_F(RecordsetPersist, GivesRowsAsText) {
     EXPECT_EQ(m_pRows->GetString(), L"1\t甲\t1.5\r2\t乙\t\r3\t丙\t3.5\r");
     EXPECT_TRUE(m_pRows->IsEOF());
-    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetString(); }), kNoCurrentRecord);
+    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetString(); }), g_nNoCurrentRecord);
     m_pRows->MoveFirst();
     EXPECT_EQ(m_pRows->GetString(adClipString, 2, L"|", L"\n", L"NULL"), L"1|甲|1.5\n2|乙|NULL\n");
     EXPECT_EQ(Text(*m_pRows, L"id"), L"3");
     EXPECT_EQ(m_pRows->GetString(adClipString, 0), L"");
-    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetString(adClipString, -2); }), kInvalidArgument);
+    EXPECT_EQ(CodeOf([&] { (void)m_pRows->GetString(adClipString, -2); }), g_nInvalidArgument);
 }

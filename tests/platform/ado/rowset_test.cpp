@@ -21,15 +21,15 @@ struct CRow {
 };
 
 std::vector<CColumnBinding> Bindings() {
-    return {{1, DBTYPE_I4, 4, offsetof(CRow, m_nIndex), kNoStatus},
+    return {{1, DBTYPE_I4, 4, offsetof(CRow, m_nIndex), g_nNoStatus},
             {2, DBTYPE_STR, 8, offsetof(CRow, m_szName), offsetof(CRow, m_statusName)},
             {3, DBTYPE_R4, 4, offsetof(CRow, m_fValue), offsetof(CRow, m_statusValue)},
-            {4, DBTYPE_I2, 2, offsetof(CRow, m_nShort), kNoStatus},
-            {5, DBTYPE_I1, 1, offsetof(CRow, m_nSigned), kNoStatus},
-            {6, DBTYPE_UI1, 1, offsetof(CRow, m_nUnsigned), kNoStatus}};
+            {4, DBTYPE_I2, 2, offsetof(CRow, m_nShort), g_nNoStatus},
+            {5, DBTYPE_I1, 1, offsetof(CRow, m_nSigned), g_nNoStatus},
+            {6, DBTYPE_UI1, 1, offsetof(CRow, m_nUnsigned), g_nNoStatus}};
 }
 
-constexpr CRowsetProperties kForChange{true, true, true, true, 7};
+constexpr CRowsetProperties g_forChange{true, true, true, true, 7};
 
 class Rowset : public CEngineTest {
 protected:
@@ -43,7 +43,7 @@ protected:
     }
     static std::wstring Wide(const std::string& strAscii) { return {strAscii.begin(), strAscii.end()}; }
 
-    int Open(const char* pszSql = "select * from t", const CRowsetProperties& properties = kForChange,
+    int Open(const char* pszSql = "select * from t", const CRowsetProperties& properties = g_forChange,
              const std::string& strMore = "") {
         CDbDataSource source;
         CDbSession session;
@@ -80,16 +80,16 @@ TEST_P(Rowset, ReadsEveryTypeByPosition) {
 
 TEST_P(Rowset, ReportsTheEndAndAnEmptyResult) {
     ASSERT_EQ(Open(), 1);
-    EXPECT_EQ(m_rows.MoveFirst(), kRowsetEnd);
-    EXPECT_EQ(m_rows.Store(), kRowsetFailed);
+    EXPECT_EQ(m_rows.MoveFirst(), g_nRowsetEnd);
+    EXPECT_EQ(m_rows.Store(), g_nRowsetFailed);
     Insert("1,'a',1,1,1,1");
     Insert("2,'b',1,1,1,1");
     ASSERT_EQ(Open(), 1);
     EXPECT_EQ(m_rows.MoveFirst(), 0);
     EXPECT_EQ(m_rows.MoveNext(), 0);
     EXPECT_EQ(m_row.m_nIndex, 2);
-    EXPECT_EQ(m_rows.MoveNext(), kRowsetEnd);
-    EXPECT_EQ(m_rows.MoveNext(), kRowsetEnd);
+    EXPECT_EQ(m_rows.MoveNext(), g_nRowsetEnd);
+    EXPECT_EQ(m_rows.MoveNext(), g_nRowsetEnd);
     EXPECT_EQ(m_rows.MoveFirst(), 0);
     EXPECT_EQ(m_row.m_nIndex, 1);
 }
@@ -178,7 +178,7 @@ TEST_P(Rowset, LeavesAColumnThatAnotherProgramChangedMeanwhile) {
 
 TEST_P(Rowset, StoresNothingWhereNothingChanged) {
     Insert("NULL,NULL,NULL,NULL,NULL,NULL");
-    ASSERT_EQ(Open("select * from t", kForChange, ";Lock Timeout=20"), 1);
+    ASSERT_EQ(Open("select * from t", g_forChange, ";Lock Timeout=20"), 1);
     ASSERT_EQ(m_rows.MoveFirst(), 0);
     const CDatabaseLock other(m_database);
     EXPECT_EQ(m_rows.Store(), 0);
@@ -186,7 +186,7 @@ TEST_P(Rowset, StoresNothingWhereNothingChanged) {
 
 TEST_P(Rowset, ReportsAndCountsAWriteThatIsGivenUp) {
     Insert("1,'a',2.5,5,6,7");
-    ASSERT_EQ(Open("select * from t", kForChange, ";Lock Timeout=20"), 1);
+    ASSERT_EQ(Open("select * from t", g_forChange, ";Lock Timeout=20"), 1);
     ASSERT_EQ(m_rows.MoveFirst(), 0);
     const CDatabaseLock other(m_database);
     m_row.m_nShort = 8;
@@ -213,7 +213,7 @@ TEST_P(Rowset, FailsToOpenWithFewerColumnsThanBound) {
 TEST_P(Rowset, FailsToOpenWithoutTableSessionOrDatabase) {
     EXPECT_EQ(Open("select * from missing"), 0);
     EXPECT_EQ(m_rows.LastError(), In("no such table: missing", "relation \"missing\" does not exist"));
-    EXPECT_EQ(m_rows.Open(CDbSession(), "select * from t", kForChange, Bindings(), &m_row, sizeof m_row), 0);
+    EXPECT_EQ(m_rows.Open(CDbSession(), "select * from t", g_forChange, Bindings(), &m_row, sizeof m_row), 0);
     CDbDataSource source;
     EXPECT_EQ(source.Initialize(L"Provider=SQLite;Data Source=/nowhere/x.db"), 0);
     EXPECT_NE(source.LastError(), "");
@@ -227,14 +227,14 @@ TEST_P(Rowset, NamesAForeignCharacterInTheTextWindow) {
 }
 
 TEST_P(Rowset, ClosedRowsGiveNothing) {
-    EXPECT_EQ(m_rows.MoveFirst(), kRowsetFailed);
-    EXPECT_EQ(m_rows.MoveNext(), kRowsetFailed);
-    EXPECT_EQ(m_rows.Store(), kRowsetFailed);
+    EXPECT_EQ(m_rows.MoveFirst(), g_nRowsetFailed);
+    EXPECT_EQ(m_rows.MoveNext(), g_nRowsetFailed);
+    EXPECT_EQ(m_rows.Store(), g_nRowsetFailed);
     m_rows.Close();
     Insert("1,'a',2.5,5,6,7");
     ASSERT_EQ(Open(), 1);
     ASSERT_EQ(m_rows.MoveFirst(), 0);
     m_rows.Close();
     m_rows.Close();
-    EXPECT_EQ(m_rows.Store(), kRowsetFailed);
+    EXPECT_EQ(m_rows.Store(), g_nRowsetFailed);
 }

@@ -8,18 +8,19 @@
 
 namespace {
 
-constexpr std::string_view kBeginning =
+constexpr std::string_view g_strBeginning =
     "<xml xmlns:s='uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882' "
     "xmlns:dt='uuid:C2F41010-65B3-11d1-A29F-00AA00C14882'"
     " xmlns:rs='urn:schemas-microsoft-com:rowset' xmlns:z='#RowsetSchema'>";
-constexpr std::string_view kSchema = "<s:Schema id='RowsetSchema'><s:ElementType name='row'>"
-                                     "<s:AttributeType name='a' rs:number='1'><s:datatype dt:type='string' "
-                                     "dt:maxLength='7'/></s:AttributeType>"
-                                     "<s:AttributeType name='b' rs:number='2' dt:type='int'/>"
-                                     "</s:ElementType></s:Schema>";
+constexpr std::string_view g_strSchema =
+    "<s:Schema id='RowsetSchema'><s:ElementType name='row'>"
+    "<s:AttributeType name='a' rs:number='1'><s:datatype dt:type='string' "
+    "dt:maxLength='7'/></s:AttributeType>"
+    "<s:AttributeType name='b' rs:number='2' dt:type='int'/>"
+    "</s:ElementType></s:Schema>";
 
 std::string Whole(std::string_view strData) {
-    return std::string(kBeginning).append(kSchema).append(strData).append("</xml>");
+    return std::string(g_strBeginning).append(g_strSchema).append(strData).append("</xml>");
 }
 
 std::unique_ptr<CDbCursor> Again(const CDbCursor& rows) {
@@ -97,7 +98,7 @@ TEST(ReadRowsetXml, RefusesWhatHoldsNoRows) {
           Whole(""), Whole("<rs:data><z:row a='"), Whole("<rs:data><z:row a='&#1;'/></rs:data>"),
           Whole("<rs:data><rs:update><z:row a='x'/></rs:update></rs:data>"),
           Whole("<rs:data><rs:delete><z:row a='x'/></rs:delete></rs:data>"),
-          std::string(kBeginning) + "<rs:data/></xml>",
+          std::string(g_strBeginning) + "<rs:data/></xml>",
           "<!DOCTYPE xml [<!ENTITY e 'x'>]>" + Whole("<rs:data/>")})
         EXPECT_EQ(CodeOf([&] { ReadRowsetXml(strXml); }), nUnreadable) << strXml;
 }

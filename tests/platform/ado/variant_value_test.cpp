@@ -19,8 +19,8 @@ std::uint32_t CodeOf(const CVariant& value, DBTYPE wDeclared) {
     return 0;
 }
 
-constexpr std::uint32_t kConversion = 0x800A0D5D;
-constexpr std::uint32_t kOverflow = 0x80040E57;
+constexpr std::uint32_t g_nConversion = 0x800A0D5D;
+constexpr std::uint32_t g_nOverflow = 0x80040E57;
 
 } // namespace
 
@@ -87,17 +87,17 @@ TEST(ValueForColumn, TakesTruthDatesTextsAndBytes) {
 }
 
 TEST(ValueForColumn, RefusesWhatDoesNotSuitTheType) {
-    EXPECT_EQ(CodeOf(CVariant(L"12x"), DBTYPE_I4), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(L""), DBTYPE_R8), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(L"soon"), DBTYPE_DATE), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(CBytes{1}), DBTYPE_I4), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(CBytes{1}), DBTYPE_BSTR), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(L"x"), DBTYPE_BYTES), kConversion);
-    EXPECT_EQ(CodeOf(CVariant::Error(1), DBTYPE_EMPTY), kConversion);
-    EXPECT_EQ(CodeOf(CVariant(300), DBTYPE_UI1), kOverflow);
-    EXPECT_EQ(CodeOf(CVariant(-40000.0), DBTYPE_I2), kOverflow);
-    EXPECT_EQ(CodeOf(CVariant(1e300), DBTYPE_I4), kOverflow);
-    EXPECT_EQ(CodeOf(CVariant(1e9), DBTYPE_DATE), kOverflow);
+    EXPECT_EQ(CodeOf(CVariant(L"12x"), DBTYPE_I4), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(L""), DBTYPE_R8), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(L"soon"), DBTYPE_DATE), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(CBytes{1}), DBTYPE_I4), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(CBytes{1}), DBTYPE_BSTR), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(L"x"), DBTYPE_BYTES), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant::Error(1), DBTYPE_EMPTY), g_nConversion);
+    EXPECT_EQ(CodeOf(CVariant(300), DBTYPE_UI1), g_nOverflow);
+    EXPECT_EQ(CodeOf(CVariant(-40000.0), DBTYPE_I2), g_nOverflow);
+    EXPECT_EQ(CodeOf(CVariant(1e300), DBTYPE_I4), g_nOverflow);
+    EXPECT_EQ(CodeOf(CVariant(1e9), DBTYPE_DATE), g_nOverflow);
 }
 
 TEST(VariantText, WritesEveryTypeShortest) {
