@@ -21,6 +21,7 @@ AFX_EXTENSION_MODULE g_extension;
 BOOL AttachModule() {
     g_hModuleInstance = ModuleResources();
     AfxInitExtensionModule(g_extension, g_hModuleInstance);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the extension's state owns it
     g_hModuleResources = (new CDynLinkLibrary(g_extension))->m_hResource;
     return TRUE;
 }

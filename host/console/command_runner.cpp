@@ -137,6 +137,7 @@ void RunCommands(CHost& host) {
 CCommandResult RunNestedCommand(CHost& host, const std::vector<std::string>& arWords) {
     if (host.m_answers.HasFailed()) return CCommandResult::Failed;
     std::vector<CWord> words;
+    words.reserve(arWords.size());
     for (const std::string& strWord : arWords)
         words.push_back({ToUtf8(strWord), true});
     if (words[0].m_strText.empty()) return CCommandResult::Done; // Enter where no command runs

@@ -108,7 +108,7 @@ bool AcApDocManager::TypeNextText() {
     if (m_arSent.empty()) return false;
     const CSentText sent = std::move(m_arSent.front());
     m_arSent.pop_front();
-    if (sent.m_bActivate && sent.m_pDocument != curDocument()) m_pHost->Activate(*sent.m_pDocument);
+    if (sent.m_bActivate) m_pHost->Activate(*sent.m_pDocument);
     sent.m_pDocument->TypedText().Type(sent.m_strText, sent.m_bEcho);
     return true;
 }
