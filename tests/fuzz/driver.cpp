@@ -26,7 +26,7 @@ __sanitizer_set_death_callback(void (*pCallback)()); // NOLINT(bugprone-reserved
 
 namespace {
 
-constexpr int g_nLimitSeconds = 5;              // of one input, under the sanitizers too
+constexpr int g_nLimitSeconds = 5;              // of the processor for one input, under the sanitizers too
 constexpr std::size_t g_nKeptBytes = 1U << 24U; // for tables that are made by the first inputs and stay
 constexpr std::size_t g_nFreeBytes = 1U << 16U;
 constexpr std::size_t g_nBytesPerInputByte = 64;
@@ -93,9 +93,15 @@ void WatchForFaults() {
         for (const int nSignal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL})
             std::signal(nSignal, OnCrash);
     std::signal(SIGABRT, OnCrash);
-    std::signal(SIGALRM, OnTick);
+    std::signal(SIGPROF, OnTick);
     const itimerval tick = {{g_nLimitSeconds, 0}, {g_nLimitSeconds, 0}};
-    setitimer(ITIMER_REAL, &tick, nullptr);
+    setitimer(ITIMER_PROF, &tick, nullptr);
+}
+
+/// The end of the process may take longer than an input, as the sanitizer's search for leaks does.
+void StopTheTicks() {
+    const itimerval none = {};
+    setitimer(ITIMER_PROF, &none, nullptr);
 }
 
 /// nKept is what the target may hold besides what the input warrants.
@@ -156,6 +162,7 @@ int main(int argc, char** argv) {
         g_present.m_pFaultFile = options.m_strFault.c_str();
         WatchForFaults();
         Run(corpus, options);
+        StopTheTicks();
     } catch (const std::filesystem::filesystem_error& error) {
         std::cerr << error.what() << '\n';
         return g_nUnreadable;
