@@ -69,7 +69,7 @@ void BrenCommand() {
     for (int nGroup = 0; nGroup < nGroups; nGroup++) {
         AcGePoint3d ptPicked;
         if (!AskInsertionPoint(ptPicked)) return;
-        CSheetMaker sheets(pDatabase, nGCSY, strGCBH, nGCBZ);
+        CSheetMaker sheets(pDatabase, dialog, strGCBH);
         if (!sheets.PlaceGroup(GroupSamples(dialog, nGroup), ptPicked)) return;
     }
 }

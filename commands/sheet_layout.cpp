@@ -25,6 +25,10 @@ AcGePoint3d SheetCorner(const AcGePoint3d& ptPicked, int nSheet) {
     return {ptPicked.x + g_dSheetStep * (nSheet - 1), ptPicked.y + g_dSheetHeight, ptPicked.z};
 }
 
+AcGePoint3d SheetBlockPoint(const AcGePoint3d& ptCorner) {
+    return {ptCorner.x, ptCorner.y - g_dSheetHeight, ptCorner.z};
+}
+
 AcGePoint3d FirstChartPoint(const AcGePoint3d& ptCorner, Adesk::Int32 nGCBZ) {
     if (nGCBZ == g_nStandardWithStrip) return {ptCorner.x + 13.0, ptCorner.y - 30.0, 0.0};
     return {ptCorner.x + 25.0, ptCorner.y - 35.0, 0.0};

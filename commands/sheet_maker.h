@@ -1,26 +1,32 @@
 #pragma once
 
 #include "chart/chart_entity.h"
-#include "platform/acad/db_database.h"
+#include "commands/sheet_block.h"
 #include "ui/qy_property.h"
 
-/// Lays the charts of one group of samples out on a row of sheets in model space.
+class CBRENDlg;
+
+/// Lays the charts of one group of samples out on a row of sheets in model space, each in its frame and with
+/// its texts.
 class CSheetMaker {
 public:
-    CSheetMaker(AcDbDatabase* pDatabase, Adesk::Int32 nGCSY, CString strGCBH, Adesk::Int32 nGCBZ);
+    /// The dialog outlives the maker.
+    CSheetMaker(AcDbDatabase* pDatabase, const CBRENDlg& dialog, CString strGCBH);
 
     /// One sheet for each sample of the group, filled with as many charts as a sheet takes. 0 when a sample's
-    /// data were faulty, after a message; what was placed before stays.
+    /// data were faulty, after a message, or the sheet's block cannot be made; what was placed before stays.
     int PlaceGroup(const CArray<QYPropty>& samples, const AcGePoint3d& ptPicked);
 
 private:
     int PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& ptCorner, int nFirst);
     int PlaceChart(const QYPropty& sample, const AcGePoint3d& ptChart);
+    void AddTexts(const AcGePoint3d& ptCorner) const;
 
     AcDbDatabase* m_pDatabase;
-    Adesk::Int32 m_nGCSY;
+    const CBRENDlg& m_dialog;
     CString m_strGCBH;
-    Adesk::Int32 m_nGCBZ;
+    CSheetBlock m_block{m_pDatabase};
+    CString m_strLabel, m_strMethod; ///< of the last chart of the sheet
     int m_nChartsPerRow = 1, m_nChartsPerSheet = 1;
     AcDbObjectId m_idTextStyle;
 };

@@ -40,6 +40,10 @@ TEST(SheetLayout, StandsSheetsTwoHundredAndTwentyApart) {
     EXPECT_EQ(ptSecond.z, 1.0);
 }
 
+TEST(SheetLayout, InsertsASheetsBlockAtItsLowerLeftCorner) {
+    EXPECT_TRUE(SheetBlockPoint(SheetCorner({5, 7, 1}, 2)) == AcGePoint3d(225, 7, 1));
+}
+
 TEST(SheetLayout, StandsTheFirstChartByTheStandardCode) {
     const AcGePoint3d ptPlain = FirstChartPoint(SheetCorner({0, 0, 0}, 1), 0);
     EXPECT_EQ(ptPlain.x, 25.0);

@@ -1,7 +1,11 @@
 #include "commands/sheet_maker.h"
 
+#include "frame/frame_entity.h"
+#include "platform/acad/db_block_reference.h"
+#include "platform/windows/code_page.h"
 #include "tests/support/drawing.h"
 #include "tests/support/project.h"
+#include "ui/bren_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -11,9 +15,17 @@ protected:
     CTestProject m_project;
     CTestDrawing m_drawing;
     CArray<QYPropty> m_samples;
+    CBRENDlg m_dialog{"test"};
 
-    SheetMaker() { CBRENChart::rxInit(); }
-    ~SheetMaker() override { CBRENChart::rxExit(); }
+    SheetMaker() {
+        CBRENChart::rxInit();
+        CBRENFrame::rxInit();
+        m_dialog.m_nGCSY = 1;
+    }
+    ~SheetMaker() override {
+        CBRENFrame::rxExit();
+        CBRENChart::rxExit();
+    }
 
     void Samples(int nSamples) {
         for (int i = 1; i <= nSamples; i++) {
@@ -26,16 +38,34 @@ protected:
         }
     }
     int Place(Adesk::Int32 nGCBZ) {
-        return CSheetMaker(&m_drawing.Database(), 1, "GC-1", nGCBZ).PlaceGroup(m_samples, {0, 0, 4});
+        m_dialog.m_nGCBZ = nGCBZ;
+        return CSheetMaker(&m_drawing.Database(), m_dialog, "GC-1").PlaceGroup(m_samples, {0, 0, 4});
     }
-    std::vector<AcGePoint3d> Bases() {
-        std::vector<AcGePoint3d> bases;
+    /// What the entities of a class in model space are asked, in order of appending.
+    template <class T, class Ask>
+    auto Each(const Ask& ask) {
+        std::vector<std::invoke_result_t<Ask, const T&>> answers;
         const CDbOpen<AcDbBlockTableRecord> pSpace(m_drawing.Database().ModelSpaceId());
         for (const AcDbObjectId id : pSpace->EntityIds())
-            if (const CDbOpen<CBRENChart> pChart(id); pChart) bases.push_back(pChart->m_ptBase);
-        return bases;
+            if (const CDbOpen<T> pEntity(id); pEntity) answers.push_back(ask(*pEntity.Get()));
+        return answers;
+    }
+    std::vector<AcGePoint3d> Bases() {
+        return Each<CBRENChart>([](const CBRENChart& chart) { return chart.m_ptBase; });
+    }
+    std::vector<AcGePoint3d> BlockPoints() {
+        return Each<AcDbBlockReference>([](const AcDbBlockReference& block) { return block.position(); });
+    }
+    /// "x,y text" of each text.
+    std::vector<std::string> Texts() {
+        return Each<AcDbText>([](const AcDbText& text) {
+            const AcGePoint3d pt = text.position();
+            return std::to_string(static_cast<int>(pt.x)) + "," + std::to_string(static_cast<int>(pt.y)) +
+                   " " + GbkFromWide(text.textString());
+        });
     }
 };
+using CTexts = std::vector<std::string>;
 } // namespace
 
 TEST_F(SheetMaker, PlacesOneChartASheet) {
@@ -58,11 +88,49 @@ TEST_F(SheetMaker, PlacesTwoChartsASheetOfStandardTwoWhereSheetsOverlap) {
     EXPECT_EQ(bases[0].y, 267.0);
 }
 
+TEST_F(SheetMaker, GivesEverySampleASheetWithItsFrameAndItsTexts) {
+    Samples(2);
+    ASSERT_EQ(Place(0), 1);
+    const auto blocks = BlockPoints();
+    ASSERT_EQ(blocks.size(), 2U);
+    EXPECT_TRUE(blocks[0] == AcGePoint3d(0, 0, 4));
+    EXPECT_TRUE(blocks[1] == AcGePoint3d(220, 0, 4));
+    EXPECT_EQ(Texts(), (CTexts{"28,251 试样编号：ZK1-1-1", "0,0 不固结不排水剪", "248,251 试样编号：ZK1-1-2",
+                               "220,0 不固结不排水剪"}));
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
+}
+
+TEST_F(SheetMaker, GivesSheetsPastTheLastChartAFrameAndEmptyTexts) {
+    Samples(3);
+    ASSERT_EQ(Place(2), 1);
+    EXPECT_EQ(BlockPoints().size(), 3U);
+    EXPECT_EQ(BlockPoints().at(2).x, 440.0);
+    CTexts expected{"28,251 试样编号：ZK1-1-2",
+                    "0,0 不固结不排水剪",
+                    "120,13 三轴剪切试验成果图",
+                    "248,251 试样编号：ZK1-1-3",
+                    "220,0 不固结不排水剪",
+                    "340,13 三轴剪切试验成果图",
+                    "468,251 ",
+                    "440,0 ",
+                    "560,13 三轴剪切试验成果图"};
+    EXPECT_EQ(Texts(), expected);
+}
+
+TEST_F(SheetMaker, PutsOneChartOfStandardTwoOnOneSheetWithItsStrip) {
+    Samples(1);
+    ASSERT_EQ(Place(2), 1);
+    ASSERT_EQ(Bases().size(), 1U);
+    EXPECT_TRUE(Bases()[0] == AcGePoint3d(13, 267, 0));
+    EXPECT_EQ(Texts().back(), "120,13 三轴剪切试验成果图");
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n缺图框文件gltka3.dwg!");
+}
+
 TEST_F(SheetMaker, FillsTheChartFromTheSample) {
     Samples(1);
     ASSERT_EQ(Place(0), 1);
     const CDbOpen<AcDbBlockTableRecord> pSpace(m_drawing.Database().ModelSpaceId());
-    const CDbOpen<CBRENChart> pChart(pSpace->EntityIds().at(0));
+    const CDbOpen<CBRENChart> pChart(pSpace->EntityIds().at(1));
     ASSERT_TRUE(pChart);
     EXPECT_EQ(pChart->m_nGCSY, 1);
     EXPECT_TRUE(pChart->m_strGCBH == "GC-1");

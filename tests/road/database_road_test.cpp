@@ -51,8 +51,10 @@ protected:
     }
     CJson Fields(const std::string& strFile) const {
         const CJson dump = CJson::parse(m_program.Folder().Read(strFile), nullptr, false);
-        return dump.is_object() && !dump["modelSpace"].empty() ? dump["modelSpace"].back()["fields"]
-                                                               : CJson();
+        CJson fields; // of the last chart
+        for (const CJson& entity : dump.is_object() ? dump["modelSpace"] : CJson::array())
+            if (entity["class"] == "CBRENChart") fields = entity["fields"];
+        return fields;
     }
     void ExpectStored(const std::string& strNumber, const std::string& strHole = "1") const {
         const CJson rows =

@@ -58,6 +58,8 @@ public:
     }
     std::string File(const std::string& strName) const { return m_program.Folder().Path(strName); }
     CJson Dump() const { return CJson::parse(ReadFile(File("sheet.json"))); }
+    /// The one sheet's chart, which stands behind the reference to its frame.
+    CJson Chart() const { return Dump()["modelSpace"].at(1); }
     CJson Results() { return CJson::parse(m_program.Do("results --root \"$ROOT\" --number GC1 --json")); }
 
     CProgram m_program;
@@ -97,14 +99,19 @@ TEST_P(RoadOfSet, LeadsFromReadingsToChartPictureAndValues) {
             << run.m_strOut;
         EXPECT_NE(run.m_strOut.find(Utf8(u8"[Tervo] 三轴剪切试验初始数据错误!")), std::string::npos)
             << run.m_strOut;
-        EXPECT_TRUE(modelSpace.empty());
+        EXPECT_EQ(modelSpace.size(), 1U) << "the frame of the sheet that was begun stays";
         EXPECT_TRUE(row["SYRQ"].is_null());
         return;
     }
-    ASSERT_EQ(modelSpace.size(), 1U);
-    const CJson& chart = modelSpace[0];
+    ASSERT_EQ(modelSpace.size(), 4U);
+    EXPECT_EQ(modelSpace[0]["block"], "BRMB");
+    EXPECT_EQ(modelSpace[0]["position"], CJson({0.0, 0.0, 0.0}));
+    const CJson& chart = modelSpace[1];
     EXPECT_EQ(chart["class"], "CBRENChart");
     const CJson& fields = chart["fields"];
+    EXPECT_EQ(modelSpace[2]["text"], Utf8(u8"试样编号：") + road.m_strZKBH + "-" + road.m_strQYBH);
+    EXPECT_EQ(modelSpace[2]["position"], CJson({28.0, 251.0, 0.0}));
+    EXPECT_EQ(modelSpace[3]["text"], fields["m_strSYFF"]);
     EXPECT_EQ(fields["m_ptBase"], CJson({25.0, 262.0, 0.0}));
     EXPECT_FALSE(chart["world"].empty());
     EXPECT_TRUE(std::filesystem::exists(road.File("sheet.pdf")));
@@ -169,7 +176,7 @@ TEST(Road, StoresThePublishedTangentOfThreeCircles) {
 TEST(Road, KeepsTheValuesOfTangentsInTheChart) {
     CRoad road("smith-exc4.4");
     EXPECT_EQ(road.Generate("DUMP " + road.File("sheet.json") + "\n").m_nStatus, 0);
-    const CJson fields = road.Dump()["modelSpace"][0]["fields"];
+    const CJson fields = road.Chart()["fields"];
     EXPECT_NEAR(fields["m_dCalcC"].get<double>(), 11.028, 0.001);
     EXPECT_NEAR(fields["m_dCalcPhi"].get<double>(), 17.352, 0.001);
 }
@@ -187,13 +194,13 @@ TEST(Road, ASheetSurvivesItsModule) {
     EXPECT_NE(run.m_strOut.find("BREN BREN 0\n"), std::string::npos) << run.m_strOut;
     CJson before = CJson::parse(ReadFile(road.File("before.json")));
     const CJson without = CJson::parse(ReadFile(road.File("without.json")));
-    const CJson chart = before["modelSpace"][0];
-    const CJson& proxy = without["modelSpace"][0];
+    const CJson chart = before["modelSpace"][1];
+    const CJson& proxy = without["modelSpace"][1];
     EXPECT_EQ(proxy["class"], "AcDbProxyEntity");
     EXPECT_EQ(proxy["originalClass"], "CBRENChart");
     EXPECT_EQ(proxy["graphics"], chart["world"]);
     EXPECT_NE(ReadFile(road.File("without.svg")).find(Utf8(u8"轴向应变ε (%)")), std::string::npos);
-    before["modelSpace"][0]["fields"]["m_bColorChanging"] = 0; // which no record holds
+    before["modelSpace"][1]["fields"]["m_bColorChanging"] = 0; // which no record holds
     EXPECT_EQ(road.Dump(), before);
 }
 
@@ -269,7 +276,7 @@ TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
     EXPECT_NE(run.m_strOut.find("z_c_SanZhou 1 1-1: locked by another program, row not stored"),
               std::string::npos)
         << run.m_strOut;
-    EXPECT_EQ(road.Dump()["modelSpace"].size(), 1U); // the chart stays
+    EXPECT_EQ(road.Chart()["class"], "CBRENChart"); // it stays
     EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
 }
 
@@ -278,7 +285,7 @@ TEST_P(RoadOnEngine, LeadsToTheSameValuesAndChart) {
         CRoad road("smith-exc4.4", strConnect);
         EXPECT_EQ(road.Generate("DUMP " + road.File("sheet.json") + "\n").m_nStatus, 0);
         const CJson listed = CJson::parse(road.m_program.Do("list --root \"$ROOT\" --json"));
-        return CJson({road.Results(), listed, road.Dump()["modelSpace"][0]["fields"]});
+        return CJson({road.Results(), listed, road.Chart()["fields"]});
     };
     const CJson here = outcome(m_database.ConnectionText());
     EXPECT_EQ(here, outcome("")); // in a database of its own
