@@ -88,7 +88,7 @@ CString RowOf(const CSample& sample) {
 }
 
 std::vector<CSample> ListBorehole(CPlainProgram& program, const CString& strZKBH) {
-    const std::vector<CSample> samples = ListSamples(program, BoreholeListCriterion(g_nGCSY, strZKBH));
+    std::vector<CSample> samples = ListSamples(program, BoreholeListCriterion(g_nGCSY, strZKBH));
     for (const CSample& sample : samples)
         program.Run(RowOf(sample));
     return samples;
