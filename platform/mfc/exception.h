@@ -23,3 +23,11 @@ public:
     /// Whether it is of the class or of one derived from it.
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
 };
+
+/// A value that cannot be: a date without its day, for one.
+class CInvalidArgException : public CException {
+public:
+    static const CRuntimeClass classCInvalidArgException;
+
+    const CRuntimeClass* GetRuntimeClass() const override { return &classCInvalidArgException; }
+};

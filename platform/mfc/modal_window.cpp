@@ -1,21 +1,12 @@
 #include "platform/mfc/modal_window.h"
 
-#include <ctime>
-
+#include "platform/mfc/combo_box.h"
+#include "platform/mfc/date_time_ctrl.h"
 #include "platform/mfc/list_box.h"
 
 namespace {
 
 CDialogPresenter* g_pPresenter = nullptr;
-
-std::chrono::year_month_day Today() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return {std::chrono::year(local.tm_year + 1900),
-            std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
-            std::chrono::day(static_cast<unsigned>(local.tm_mday))};
-}
 
 std::shared_ptr<CControl> MakeControl(const CControlTemplate& from, CWnd* pParent) {
     auto control = std::make_shared<CControl>();
@@ -27,14 +18,23 @@ std::shared_ptr<CControl> MakeControl(const CControlTemplate& from, CWnd* pParen
     control->m_bEnabled = !(from.m_nFlags & CONTROL_DISABLED);
     control->m_bVisible = !(from.m_nFlags & CONTROL_HIDDEN);
     control->m_bReadOnly = (from.m_nFlags & CONTROL_READONLY) != 0;
-    if (from.m_kind == CControlKind::Date) control->m_date = Today();
+    if (from.m_kind == CControlKind::Date) control->m_date = CTime::GetCurrentTime().GetDate();
     control->m_pParent = pParent;
     return control;
 }
 
 std::unique_ptr<CWnd> MakeHandle(CControlKind kind) {
-    const bool bList = kind == CControlKind::List || kind == CControlKind::MultiList;
-    return bList ? std::make_unique<CListBox>() : std::make_unique<CWnd>();
+    switch (kind) {
+    case CControlKind::List:
+    case CControlKind::MultiList:
+        return std::make_unique<CListBox>();
+    case CControlKind::Combo:
+        return std::make_unique<CComboBox>();
+    case CControlKind::Date:
+        return std::make_unique<CDateTimeCtrl>();
+    default:
+        return std::make_unique<CWnd>();
+    }
 }
 
 } // namespace

@@ -18,6 +18,12 @@ const CDialogTemplate* CModuleResources::FindDialog(const char* name) const {
     return nullptr;
 }
 
+const CIconTemplate* CModuleResources::FindIcon(UINT nId) const {
+    for (const CIconTemplate& icon : m_arIcons)
+        if (icon.m_nId == nId) return &icon;
+    return nullptr;
+}
+
 HINSTANCE AfxGetResourceHandle() {
     return g_hResources;
 }

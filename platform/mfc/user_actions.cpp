@@ -1,6 +1,6 @@
 #include "platform/mfc/user_actions.h"
 
-#include <algorithm>
+#include "platform/mfc/radio_group.h"
 
 namespace {
 
@@ -14,22 +14,6 @@ void NotifySelection(const CWnd& control) {
     if (control.GetControl()->m_kind != CControlKind::Combo) return Notify(control, LBN_SELCHANGE);
     for (const int nCode : {CBN_DROPDOWN, CBN_SELENDOK, CBN_SELCHANGE, CBN_CLOSEUP})
         Notify(control, nCode);
-}
-
-// The radio buttons of the group in which control stands.
-std::vector<CWnd*> RadioGroup(const CWnd& control) {
-    const auto* pDialog = dynamic_cast<CModalWindow*>(control.GetParent());
-    std::vector<CWnd*> group;
-    bool bFound = false;
-    for (CWnd* pItem : pDialog ? pDialog->GetItems() : std::vector<CWnd*>()) {
-        if (pItem->GetControl()->m_nFlags & CONTROL_GROUP) {
-            if (bFound) break;
-            group.clear();
-        }
-        bFound = bFound || pItem->GetControl() == control.GetControl();
-        if (pItem->GetControl()->m_kind == CControlKind::Radio) group.push_back(pItem);
-    }
-    return group;
 }
 
 } // namespace

@@ -14,4 +14,5 @@ void UserDoubleClick(CWnd& list, int index);
 /// A push button, a check box, which changes its state, or a radio button, which takes it from its group.
 void UserClick(CWnd& control);
 void UserSetText(CWnd& edit, const CString& text);
+/// A date from the year CTime::FIRST_YEAR on.
 void UserSetDate(CWnd& control, std::chrono::year_month_day date);

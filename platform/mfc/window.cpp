@@ -40,6 +40,7 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     if (!m_pControl) return FALSE;
     CDataExchange exchange(this, bSaveAndValidate);
     DoDataExchange(&exchange);
+    if (exchange.HasFailed()) m_pControl->m_nFocus = exchange.GetLastControl();
     return !exchange.HasFailed();
 }
 

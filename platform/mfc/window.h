@@ -64,6 +64,9 @@ struct CControl {
     std::vector<CListEntry> m_arEntries;  ///< of a list or combo box
     int m_nCaret = 0;                     ///< entry of a list box that has the focus, clicked last
     std::chrono::year_month_day m_date{}; ///< of a date field; today at first
+    /// Of a dialog: the control whose text was refused and which is to have the focus; who gives it the focus
+    /// sets this to 0 again.
+    UINT m_nFocus = 0;
     CWnd* m_pParent = nullptr;
     CWnd* m_pHandle = nullptr; ///< the object that GetDlgItem gives
 };
@@ -100,7 +103,7 @@ public:
     BOOL SubclassDlgItem(UINT nId, CWnd* pParent);
 
     /// Moves values from the controls to the variables (TRUE) or back. Zero when a control's text was
-    /// refused.
+    /// refused; that control is to have the focus then.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     /// Hands a notification to the handler of the message map. Zero when there is none.

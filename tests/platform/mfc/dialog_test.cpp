@@ -174,26 +174,3 @@ TEST(Dialog, EndDialogGivesItsNumber) {
     });
     EXPECT_EQ(dialog.DoModal(), 1556);
 }
-
-TEST(DataExchange, FailsForAControlThatIsNotThereAndLeavesTheRest) {
-    class CBadDialog : public CAskDialog {
-    public:
-        using CAskDialog::CAskDialog;
-
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override {
-            DDX_Check(pDX, 999, m_bCheck);
-            DDX_Text(pDX, EDIT, m_strEdit);
-        }
-    };
-    const CTemporaryResourceOverride resources(&Resources());
-    CBadDialog dialog(7);
-    const CDialogScript script([&](CModalWindow& window) {
-        window.GetDlgItem(EDIT)->SetWindowText("new");
-        EXPECT_EQ(window.UpdateData(TRUE), FALSE);
-        EXPECT_STREQ(dialog.m_strEdit, "text");
-        window.OnCommand(ID_OK, BN_CLICKED);
-        EXPECT_NE(window.ContinueModal(), FALSE); // refused values keep it open
-    });
-    EXPECT_EQ(dialog.DoModal(), static_cast<int>(ID_CANCEL));
-}

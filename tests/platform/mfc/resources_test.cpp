@@ -21,6 +21,13 @@ TEST(ModuleResources, FindsADialogByNumberOrName) {
     EXPECT_EQ(resources.FindDialog(""), nullptr); // the nameless one does not go by an empty name
 }
 
+TEST(ModuleResources, FindsAnIconByNumber) {
+    CModuleResources resources;
+    resources.m_arIcons = {{1006, {}, ""}, {1007, {}, ""}};
+    EXPECT_EQ(resources.FindIcon(1007), &resources.m_arIcons[1]);
+    EXPECT_EQ(resources.FindIcon(11), nullptr);
+}
+
 TEST(TemporaryResourceOverride, RestoresTheFormerResourcesAtTheEndOfItsScope) {
     const CModuleResources outer = Resources();
     const CModuleResources inner = Resources();
