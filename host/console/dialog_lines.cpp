@@ -7,6 +7,7 @@
 #include "host/console/dialog_text.h"
 #include "host/console/words.h"
 #include "platform/mfc/property_sheet.h"
+#include "platform/mfc/time.h"
 #include "platform/mfc/user_actions.h"
 #include "platform/windows/code_page.h"
 
@@ -151,6 +152,8 @@ std::chrono::year_month_day DateOf(const std::string& strText) {
                                            std::chrono::month(month.value_or(0)),
                                            std::chrono::day(day.value_or(0))};
     if (!year || !date.ok()) throw CBadDialogLine(strText + " is no date like 2024-03-09");
+    if (static_cast<int>(date.year()) < CTime::FIRST_YEAR)
+        throw CBadDialogLine(strText + " is before " + std::to_string(CTime::FIRST_YEAR));
     return date;
 }
 

@@ -127,6 +127,7 @@ TEST_F(DialogLine, DoubleClickSelectsAndDoubleClicks) {
         EXPECT_EQ(Notes({"dblclick 10 试样"}), " 10:1 10:2");
         EXPECT_EQ(Notes({"dblclick 11 a b"}), "usage: dblclick N TEXT");
         EXPECT_EQ(Notes({"dblclick 11 nothing"}), "multilist 11 has no entry \"nothing\"");
+        EXPECT_EQ(Notes({"dblclick 12 1-1"}), WithControls("combo 12 is no list or multilist"));
     });
 }
 
@@ -167,7 +168,9 @@ TEST_F(DialogLine, SetRefusesWhatIsNoDate) {
              {"2024-3-9", "2024-02-30", "2023-02-29", "20240309", "2024-13-01", "+024-03-09"})
             EXPECT_EQ(Notes({(std::string("set 18 ") + date).c_str()}),
                       std::string(date) + " is no date like 2024-03-09");
+        EXPECT_EQ(Notes({"set 18 1899-12-31"}), "1899-12-31 is before 1900");
         EXPECT_EQ(m_dialog.State(DATE).m_date.month(), std::chrono::December);
+        EXPECT_EQ(Notes({"set 18 1900-01-01"}), " 18:-759");
     });
 }
 
@@ -199,6 +202,18 @@ TEST_F(DialogLine, AControlThatIsNotThereDisabledOrHiddenIsRefusedNamingThoseThe
         EXPECT_EQ(Notes({"click 1x"}), WithControls("no control 1x"));
         EXPECT_EQ(Notes({"click -1"}), WithControls("no control -1"));
         EXPECT_EQ(Notes({"select 19 x"}), WithControls("label 19 is no list or multilist or combo"));
+    });
+}
+
+TEST_F(DialogLine, EveryLineRefusesAControlThatTheUserCannotReach) {
+    Open([&] {
+        for (const UINT nId : {ONE, COMBO, EDIT, CHECK, RADIO_A, DATE})
+            m_dialog.GetDlgItem(nId)->EnableWindow(FALSE);
+        for (const char* line : {"select 10 1-1", "dblclick 10 1-1", "select 12 none", "set 13 x", "check 14",
+                                 "uncheck 14", "check 15", "set 18 2024-03-09"}) {
+            const std::string number(line + std::string(line).find(' ') + 1, 2);
+            EXPECT_EQ(Notes({line}).substr(0, 24), "control " + number + " is disabled; ") << line;
+        }
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/mfc/combo_box.h"
 #include "platform/windows/code_page.h"
 #include "tests/host/console/test_dialog.h"
 #include "tests/platform/mfc/dialog_script.h"
@@ -23,7 +24,8 @@ TEST(DialogText, WritesEveryKindOfControlInTabOrderWithItsValue) {
     const CDialogScript script([&](CModalWindow& window) {
         static_cast<CListBox*>(window.GetDlgItem(TestDialog::ONE))->ResetContent();
         static_cast<CListBox*>(window.GetDlgItem(TestDialog::SEVERAL))->SetSel(1);
-        dialog.State(TestDialog::COMBO).m_arEntries.resize(1);
+        dialog.State(TestDialog::COMBO).m_arEntries.resize(2);
+        static_cast<CComboBox*>(window.GetDlgItem(TestDialog::COMBO))->SetCurSel(1);
         dialog.State(TestDialog::CHECK).m_nCheck = 1;
         shown = Joined(DialogLines(window));
     });
@@ -37,8 +39,9 @@ TEST(DialogText, WritesEveryKindOfControlInTabOrderWithItsValue) {
                             "    \"试样\"\n"
                             "    \"twin\"\n"
                             "    \"*twin\"\n"
-                            "12 combo enabled \"\" 1\n"
+                            "12 combo enabled \"\" 2\n"
                             "    \"1-1\"\n"
+                            "  > \"*1-2\"\n"
                             "13 edit enabled \"\" \"a\"\"b\"\n"
                             "14 check enabled \"check\" 1\n"
                             "15 radio enabled \"a\" 0\n"
