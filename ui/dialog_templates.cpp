@@ -59,7 +59,7 @@ CDialogTemplate GenPageTemplate() {
              {IDC_QY_LIST, CControlKind::MultiList, "", {110, 20, 140, 130}, CONTROL_PLAIN},
              {IDC_CLEAR_MARKS, CControlKind::Button, "删除*号(&D)", {10, 160, 60, 14}, CONTROL_PLAIN},
              {IDC_ALL, CControlKind::Check, "生成所有图", {80, 162, 70, 10}, CONTROL_PLAIN},
-             {IDC_EDIT_TEMPLATE, CControlKind::Button, "编 辑 模 板", {190, 160, 60, 14}, CONTROL_DISABLED}}};
+             {IDC_EDIT_TEMPLATE, CControlKind::Button, "编 辑 模 板", {190, 160, 60, 14}, CONTROL_PLAIN}}};
 }
 
 CDialogTemplate OptPageTemplate() {

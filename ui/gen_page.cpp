@@ -2,15 +2,22 @@
 
 #include "commands/chart_marks.h"
 #include "data/criteria.h"
+#include "data/frame_template.h"
 #include "data/project_context.h"
 #include "data/san_zhou_csxm_record.h"
 #include "data/san_zhou_record.h"
+#include "data/suite_statements.h"
 #include "platform/acad/editor.h"
 #include "platform/mfc/data_exchange.h"
+#include "platform/windows/shell.h"
 #include "ui/resources.h"
 #include "ui/selection_keys.h"
 
 namespace {
+
+constexpr const char* g_pConfigProgram = "\\TervoConfig.exe"; // below the root
+// The quote is not closed: the program takes it so.
+constexpr const char* g_pConfigArguments = "/s \"成果图-室内试验";
 
 // Opens the readings and goes to the first row; reports and gives false when there is none.
 bool OpenReadings(CSanZhouCSXMRecord& record, const CString& criterion) {
@@ -80,6 +87,7 @@ BOOL CGenPage::OnInitDialog() {
     for (const CString& strQY : m_saQY)
         m_listQY.AddString(strQY);
     LoadMarks(g_pMarksSection, BoreholeMarksKey(), &m_listZK, g_strMarksIni);
+    GetFrameTemplate(g_pszChartFunction, &m_strFrameFile, &m_strFramePath);
     m_listZK.SetCurSel(0);
     LoadSamples();
     return TRUE;
@@ -164,6 +172,14 @@ void CGenPage::OnClearMarks() {
     m_listZK.SetCurSel(index);
 }
 
+// Closes without an OK: the command is given again once the template is edited.
+void CGenPage::OnEditTemplate() {
+    CString strRoot;
+    GetRootPath(&strRoot);
+    ShellExecuteA(nullptr, "open", strRoot + g_pConfigProgram, g_pConfigArguments, nullptr, SW_SHOW);
+    EndDialog(IDC_EDIT_TEMPLATE);
+}
+
 void CGenPage::DoDataExchange(CDataExchange* pDX) {
     DDX_Control(pDX, IDC_ZK_LIST, m_listZK);
     DDX_Control(pDX, IDC_QY_LIST, m_listQY);
@@ -173,6 +189,7 @@ void CGenPage::DoDataExchange(CDataExchange* pDX) {
 std::span<const CMessageEntry> CGenPage::GetMessageMap() const {
     static const CMessageEntry map[] = {{IDC_ZK_LIST, LBN_SELCHANGE, &CGenPage::LoadSamples},
                                         {IDC_CLEAR_MARKS, BN_CLICKED, &CGenPage::OnClearMarks},
-                                        {IDC_ALL, BN_CLICKED, &CGenPage::OnAllChanged}};
+                                        {IDC_ALL, BN_CLICKED, &CGenPage::OnAllChanged},
+                                        {IDC_EDIT_TEMPLATE, BN_CLICKED, &CGenPage::OnEditTemplate}};
     return map;
 }

@@ -29,9 +29,9 @@ public:
     CStringArray m_saQY;     ///< samples of the first borehole
     CStringArray m_saSYFF;   ///< test method of each sample of the current borehole
     CStringArray m_saReserved;
-    CStringArray m_saCurQY; ///< samples of the current borehole
-    CString m_strFrameFile;
-    CString m_strFramePath;
+    CStringArray m_saCurQY;   ///< samples of the current borehole
+    CString m_strFrameFile;   ///< file name of the frame template; empty when there is none
+    CString m_strFramePath;   ///< its folder, with a slash at the end
     CStringArray m_saZKPlain; ///< all boreholes without marks
     CArray<arZKBH> m_arAll;   ///< one element with all samples
     int m_bAll = 0;
@@ -47,4 +47,5 @@ private:
     void CollectBorehole(arZKBH* all);
     void OnClearMarks();
     void OnAllChanged();
+    void OnEditTemplate();
 };

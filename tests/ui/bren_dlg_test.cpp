@@ -1,7 +1,13 @@
 #include "ui/bren_dlg.h"
 
+#include <sys/stat.h>
+
+#include <filesystem>
+
 #include "host/console/dialog_lines.h"
+#include "platform/ado/sqlite_provider.h"
 #include "tests/platform/mfc/dialog_script.h"
+#include "tests/platform/windows/waited_file.h"
 #include "tests/ui/project_fixture.h"
 
 namespace {
@@ -30,6 +36,19 @@ protected:
     int Play(std::function<void()> user) {
         const CDialogScript script([&](CModalWindow&) { user(); });
         return m_dialog.DoModal();
+    }
+    // Samples S-001, S-002, ... of borehole 1, in its layer; gives their numbers joined with "@".
+    std::string AddSamples(int count) {
+        std::string numbers;
+        Execute("BEGIN");
+        for (int i = 1; i <= count; ++i) {
+            const std::string number = "S-" + std::to_string(1000 + i).substr(1);
+            AddSample("1", number);
+            numbers += (i > 1 ? "@" : "") + number;
+        }
+        AddLayer("1");
+        Execute("COMMIT");
+        return numbers;
     }
     // The entries of a list, `>` before a selected one, a blank before any other.
     static std::string Entries(const CListBox& list) {
@@ -101,6 +120,54 @@ TEST_F(BrenDialog, ABoreholeWhoseReadingsAreGoneLeavesTheSampleListAsItWas) {
         EXPECT_EQ(Entries(m_dialog.m_pageGen.m_listQY), " 1-1");
     });
     EXPECT_EQ(m_strPrinted, "\n数据库z_c_SanZhouCSXM当前工程没有数据!");
+}
+
+TEST_F(BrenDialog, ReadingsThatCannotBeOpenedAnyMoreLeaveTheSampleListAsItWas) {
+    AddSample("1", "1-1");
+    AddSample("2", "2-1");
+    Play([&] {
+        Execute("DROP TABLE z_c_SanZhouCSXM");
+        RunDialogLine(m_dialog, "select 1010 2");
+        EXPECT_EQ(Entries(m_dialog.m_pageGen.m_listQY), " 1-1");
+        EXPECT_EQ(Joined(m_dialog.m_pageGen.m_saSYFF), "[固结不排水剪]");
+    });
+    EXPECT_EQ(Boxes(), "[数据库z_c_SanZhouCSXM打开错误!]");
+    EXPECT_EQ(m_strPrinted, "");
+}
+
+TEST_F(BrenDialog, TakesTheFrameTemplateFromTheConfiguration) {
+    std::filesystem::create_directory(m_root.Path("Data"));
+    const auto pConfig = CreateSqliteDatabase(m_root.Path("Data/config.db"));
+    pConfig->Execute("create table g_TervoTempletConfig(FileName text, Path text, GCBZ integer, Fun text, "
+                     "Type text)");
+    Run({"cancel"});
+    EXPECT_STREQ(m_dialog.m_pageGen.m_strFrameFile, "");
+    EXPECT_STREQ(m_dialog.m_pageGen.m_strFramePath, "");
+    pConfig->Execute("insert into g_TervoTempletConfig values"
+                     "('BREN-A4.dwg','\\Templates',-1,'三轴剪试验曲线','图框')");
+    Run({"cancel"});
+    EXPECT_STREQ(m_dialog.m_pageGen.m_strFrameFile, "BREN-A4.dwg");
+    EXPECT_EQ(m_dialog.m_pageGen.m_strFramePath, CString(m_root.Path() + "\\Templates\\"));
+    EXPECT_EQ(Boxes(), "");
+}
+
+TEST_F(BrenDialog, EditingTheTemplateStartsTheConfigurationProgramAndCloses) {
+    AddSample("1", "1-1");
+    const std::string program = m_root.Write(
+        "TervoConfig.exe", "#!/bin/sh\ncd \"${0%/*}\"\nprintf '[%s]' \"$@\" > part\nmv part arguments\n");
+    ASSERT_EQ(chmod(program.c_str(), 0755), 0);
+    EXPECT_EQ(Run({"select 1011 1-1", "click 1556"}), 1556);
+    EXPECT_EQ(WaitedFile(m_root, "arguments"), ToUtf8("[/s][成果图-室内试验]"));
+    EXPECT_EQ(Joined(m_dialog.m_saSelQY), "");
+    EXPECT_EQ(Marks("SYQXG11"), "(none)");
+}
+
+TEST_F(BrenDialog, EditingTheTemplateWithoutTheProgramOnlyCloses) {
+    AddSample("1", "1-1");
+    EXPECT_EQ(Run({"check 1063", "click 1556"}), 1556);
+    EXPECT_EQ(Boxes(), "");
+    EXPECT_EQ(m_strPrinted, "");
+    EXPECT_EQ(Marks("SYQXG1"), "(none)");
 }
 
 TEST_F(BrenDialog, ConfirmingGathersTheSelectedSamples) {
@@ -193,15 +260,39 @@ TEST_F(BrenDialog, AMethodTableThatCannotBeOpenedClosesTheSheetAsInvalid) {
 }
 
 TEST_F(BrenDialog, Of101SelectedSamples100AreTaken) {
-    Execute("BEGIN");
-    for (int i = 1; i <= 101; ++i)
-        AddSample("1", std::to_string(i));
-    AddLayer("1");
-    Execute("COMMIT");
+    AddSamples(101);
     EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_saSelQY.GetSize(), 100);
+    EXPECT_STREQ(m_dialog.m_saSelQY[99], "S-100");
+}
+
+TEST_F(BrenDialog, Of150SelectedSamples100AreTakenAndAllAreMarked) {
+    const std::string marks = AddSamples(150);
+    EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
+    EXPECT_EQ(m_dialog.m_saSelQY.GetSize(), 100);
+    EXPECT_EQ(m_dialog.m_saSelSYFF.GetSize(), 100);
     EXPECT_EQ(m_dialog.m_saLayer.GetSize(), 100);
-    EXPECT_STREQ(m_dialog.m_saSelQY[99], "100");
+    EXPECT_EQ(marks.size(), 150U * 6 - 1);
+    EXPECT_EQ(Marks("SYQXG11"), marks); // those too that were not taken
+    EXPECT_EQ(Marks("SYQXG1"), "1");
+
+    CBRENDlg again("again");
+    again.m_nGCSY = GCSY;
+    const CDialogScript script([&](CModalWindow&) {
+        const auto& entries = again.m_pageGen.m_listQY.GetControl()->m_arEntries;
+        ASSERT_EQ(entries.size(), 150U);
+        EXPECT_EQ(entries[85].m_strText, "*S-086");
+        EXPECT_EQ(entries[86].m_strText, "S-087"); // its text ends beyond byte 519
+    });
+    again.DoModal();
+    EXPECT_EQ(Marks("SYQXG11"), marks.substr(0, 86 * 6 - 1));
+}
+
+TEST_F(BrenDialog, ASampleWithoutAMethodBeyondTheHundredthIsNotRefused) {
+    AddSamples(101);
+    Execute("UPDATE z_c_SanZhou SET SYFF=NULL WHERE QYBH='S-101'");
+    EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
+    EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(BrenDialog, ConfirmedSamplesGetTheirMarks) {
@@ -274,6 +365,33 @@ TEST_F(BrenDialog, ASampleThatIsNotInTheRegisterEndsTheConfirmation) {
     EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
     EXPECT_EQ(m_strPrinted, std::string(READING) + "\n数据库z_c_QuYang数据不全!");
     EXPECT_EQ(Marks("SYQXG11"), "(none)");
+}
+
+TEST_F(BrenDialog, ARegisterThatCannotBeOpenedEndsTheConfirmation) {
+    AddSample("1", "1-1");
+    AddLayer("1");
+    Execute("DROP TABLE z_c_QuYang");
+    EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
+    EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
+    EXPECT_EQ(Boxes(), "[数据库z_c_QuYang打开有错误!]");
+    EXPECT_EQ(m_strPrinted, READING);
+    EXPECT_EQ(Marks("SYQXG11"), "(none)");
+}
+
+TEST_F(BrenDialog, LayersThatCannotBeOpenedAreToldOfEachSampleAndStopNothing) {
+    AddSample("1", "1-1");
+    AddSample("1", "1-2");
+    Execute("DROP TABLE z_g_TuCeng");
+    SetMarks("SYQXG11", "1-2");
+    EXPECT_EQ(Run({"select 1011 all", "ok"}), 1);
+    EXPECT_EQ(m_dialog.m_bQuYangOk, 1);
+    EXPECT_EQ(m_dialog.m_bTuCengOk, 0);
+    EXPECT_EQ(Joined(m_dialog.m_saLayer), "[ ][ ]");
+    EXPECT_EQ(m_strPrinted, std::string(READING) + "\n数据库z_g_TuCengSet表取样编号1-1数据TCMC不全!" +
+                                "\n数据库z_g_TuCengSet表取样编号1-2数据TCMC不全!" +
+                                "\n读取z_c_QuYang表数据成功!\n读取z_g_TuCengSet表数据失败!");
+    EXPECT_EQ(Boxes(), "");
+    EXPECT_EQ(Marks("SYQXG11"), "1-2@1-1");
 }
 
 TEST_F(BrenDialog, ARegisterFaultThatIsNoEndIsTold) {
@@ -353,12 +471,48 @@ TEST_F(BrenDialog, DrawingAllPrintsNoSampleNumberInItsMessages) {
     EXPECT_EQ(m_dialog.m_bTuCengOk, 0);
 }
 
+TEST_F(BrenDialog, DrawingAllPrintsNoSampleNumberForADepthOrALayerThatIsMissing) {
+    AddSample("1", "1-1", "'固结不排水剪'", "NULL,0.5,25,0,20,40");
+    Execute("DROP TABLE z_g_TuCeng");
+    EXPECT_EQ(Run({"check 1063", "ok"}), 1);
+    EXPECT_EQ(m_strPrinted, "\n数据库z_c_QuYang数据QYSD不全!\n数据库z_c_QuYang取样编号数据QYSD不全!"
+                            "\n数据库z_g_TuCengSet表取样编号数据TCMC不全!\n读取z_c_QuYang表数据失败!"
+                            "\n读取z_g_TuCengSet表数据失败!");
+    EXPECT_EQ(Marks("SYQXG1"), "1@BR全部-全部试样");
+}
+
 TEST_F(BrenDialog, DrawingAllEndsAtASampleThatIsNotInTheRegisterWithoutMarks) {
     AddSample("1", "1-1");
-    Execute("DELETE FROM z_c_QuYang");
+    AddSample("1", "1-2");
+    AddLayer("1");
+    Execute("DELETE FROM z_c_QuYang WHERE QYBH='1-2'");
     EXPECT_EQ(Run({"check 1063", "ok"}), 1);
     EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
+    EXPECT_EQ(m_dialog.m_saDepth.GetSize(), 1);
+    EXPECT_EQ(m_strPrinted, "\n数据库z_c_QuYang数据不全!");
     EXPECT_EQ(Marks("SYQXG1"), "(none)");
+}
+
+TEST_F(BrenDialog, DrawingAllEndsWhereTheRegisterCannotBeOpened) {
+    AddSample("1", "1-1");
+    Execute("DROP TABLE z_c_QuYang");
+    EXPECT_EQ(Run({"check 1063", "ok"}), 1);
+    EXPECT_EQ(m_dialog.m_bQuYangOk, 0);
+    EXPECT_EQ(Boxes(), "[数据库z_c_QuYang打开有错误!]");
+    EXPECT_EQ(m_strPrinted, "");
+    EXPECT_EQ(Marks("SYQXG1"), "(none)");
+}
+
+TEST_F(BrenDialog, DrawingAllGoesOverAMethodThatCannotBeRead) {
+    AddSample("1", "1-1");
+    AddSample("1", "1-2");
+    AddLayer("1");
+    Execute("DELETE FROM z_c_SanZhou WHERE QYBH='1-1'");
+    EXPECT_EQ(Run({"check 1063", "ok"}), 1);
+    EXPECT_EQ(m_dialog.m_bSamplesOk, 1);
+    ASSERT_EQ(m_dialog.m_pageGen.m_arAll[0].m_arQY.GetSize(), 2);
+    EXPECT_STREQ(m_dialog.m_pageGen.m_arAll[0].m_arQY[0].m_strSYFF, "");
+    EXPECT_STREQ(m_dialog.m_pageGen.m_arAll[0].m_arQY[1].m_strSYFF, "固结不排水剪");
 }
 
 TEST_F(BrenDialog, NumbersWithAQuoteAreFound) {

@@ -49,9 +49,11 @@ protected:
 
 TEST_F(DialogTemplates, SelectionPageHasItsControls) {
     std::string shown;
-    for (const CControlTemplate& control : ModuleResources()->FindDialog(11)->m_arControls)
+    for (const CControlTemplate& control : ModuleResources()->FindDialog(11)->m_arControls) {
+        EXPECT_EQ(control.m_nFlags & (CONTROL_DISABLED | CONTROL_HIDDEN), 0) << control.m_nId;
         if (control.m_kind != CControlKind::Label)
             shown += std::to_string(control.m_nId) + " " + control.m_strCaption + "\n";
+    }
     EXPECT_EQ(shown, "1010 \n1011 \n1062 删除*号(&D)\n1063 生成所有图\n1556 编 辑 模 板\n");
 }
 
