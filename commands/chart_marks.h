@@ -1,8 +1,7 @@
 #pragma once
 // The marks of samples and boreholes that have charts: in an ini key their texts joined with "@", in a list
-// box a
-// "*" in front of the entry. A key is read to 519 bytes; what stands behind is lost with the next write.
-// Given another window than a list box the functions do nothing.
+// box a "*" in front of the entry. A key is read to 519 bytes; what stands behind is lost with the next
+// write, which itself may be longer. Given another window than a list box the functions do nothing.
 
 #include "platform/mfc/collections.h"
 #include "platform/mfc/list_box.h"

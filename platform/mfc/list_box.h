@@ -22,7 +22,7 @@ public:
     int SetSel(int index, BOOL bSelect = TRUE);
     /// LB_ERR in a list for one.
     int GetSelCount() const;
-    /// Takes down up to nMaxItems indices of selected entries, in order. Their number; LB_ERR in a list for
-    /// one.
+    /// Takes down up to nMaxItems indices of selected entries, in order, as LB_GETSELITEMS does: those beyond
+    /// are left out. The number taken down; LB_ERR in a list for one.
     int GetSelItems(int nMaxItems, int* indices) const;
 };

@@ -87,6 +87,26 @@ TEST_F(ChartMarks, SaveOfAListForOneAddsItsCurrentEntry) {
     EXPECT_EQ(Stored(), "ZK2@ZK1");
 }
 
+TEST_F(ChartMarks, SaveKeepsOfALongKeyWhatIsReadOfIt) {
+    std::string value = "sample-100";
+    for (int i = 1; i < 60; ++i)
+        value += "@sample-" + std::to_string(100 + i);
+    Store(value);
+    m_several.SetSel(0);
+    SaveMarks(SECTION, KEY, &m_several, File().c_str());
+    EXPECT_EQ(Stored(), value.substr(0, 519) + "@1-1"); // 47 entries and the beginning of one
+    EXPECT_EQ(value.substr(516, 3), "@sa");
+}
+
+TEST_F(ChartMarks, SaveWritesMoreThanIsReadBack) {
+    CTestList list(CControlKind::MultiList);
+    for (int i = 0; i < 60; ++i)
+        list.AddString(("sample-" + std::to_string(100 + i)).c_str());
+    list.SetSel(-1);
+    SaveMarks(SECTION, KEY, &list, File().c_str());
+    EXPECT_EQ(Stored().size(), 60U * 11 - 1);
+}
+
 TEST_F(ChartMarks, ClearTakesTheSelectedEntriesOutOfKeyAndList) {
     Store("1-1@1-2@1-3");
     LoadMarks(SECTION, KEY, &m_several, File().c_str());

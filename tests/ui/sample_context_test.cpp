@@ -25,9 +25,9 @@ protected:
 
 TEST_F(SampleContext, GivesEachValueWithTwoDecimals) {
     AddLayer("1");
-    EXPECT_EQ(Read("12.346,0.2,28.5,0,20.25,33"), 0 + 1);
+    EXPECT_EQ(Read("12.346,0.2,28.5,0,20.25,33"), 1);
     EXPECT_EQ(m_bQuYangOk, 1);
-    EXPECT_EQ(Shown().substr(0, 23), "12.35|28.50|12.75|0.65|");
+    EXPECT_EQ(Shown(), "12.35|28.50|12.75|0.65| ");
 }
 
 TEST_F(SampleContext, WithoutWaterThereIsNoLiquidityIndexAndNoFault) {
@@ -53,6 +53,18 @@ TEST_F(SampleContext, ATinyPlasticityIndexGivesNoLiquidityIndexButIsPrinted) {
     AddLayer("1");
     EXPECT_EQ(Read("2,0.2,25,0,0,0.00005"), 1);
     EXPECT_EQ(Shown(), "2.00|25.00|0.00||粉质黏土");
+}
+
+TEST_F(SampleContext, ThePlasticityIndexFromWhichALiquidityIndexIsGivenIsTheSameEitherWay) {
+    AddLayer("1");
+    for (const auto& [liquidLimit, bGiven] : std::vector<std::pair<const char*, bool>>{
+             {"0.000101", true}, {"0.000099", false}, {"-0.000099", false}, {"-0.000101", true}}) {
+        Execute("DELETE FROM z_c_QuYang");
+        EXPECT_EQ(Read(("2,0.2,25,0,0," + std::string(liquidLimit)).c_str()), 1);
+        EXPECT_EQ(!m_context.m_strIL.IsEmpty(), bGiven) << liquidLimit;
+        EXPECT_FALSE(m_context.m_strIP.IsEmpty()) << liquidLimit;
+        m_context = {};
+    }
 }
 
 TEST_F(SampleContext, ANegativePlasticityIndexIsCalculatedWith) {
@@ -89,6 +101,27 @@ TEST_F(SampleContext, WithoutADepthZeroIsTaken) {
     EXPECT_EQ(Shown(), "|25.00|-10.00|-0.50|填土");
     EXPECT_EQ(m_bQuYangOk, 0);
     EXPECT_EQ(m_bTuCengOk, 1);
+    EXPECT_EQ(m_strPrinted, "\n数据库z_c_QuYang数据QYSD不全!\n数据库z_c_QuYang取样编号1-1数据QYSD不全!");
+}
+
+TEST_F(SampleContext, TellsEveryFaultOfASampleInTurn) {
+    EXPECT_EQ(Read("NULL,NULL,NULL,0,NULL,NULL"), 1);
+    EXPECT_EQ(Shown(), "|||| ");
+    EXPECT_EQ(m_bQuYangOk, 0);
+    EXPECT_EQ(m_bTuCengOk, 0);
+    EXPECT_EQ(m_strPrinted,
+              "\n数据库z_c_QuYang数据QYSD不全!\n数据库z_c_QuYang取样编号1-1数据QYSD不全!"
+              "\n数据库z_c_QuYang取样编号1-1数据QYHD不全!\n数据库z_g_TuCengSet表中无相应土层名称!");
+    EXPECT_EQ(Boxes(), "");
+}
+
+TEST_F(SampleContext, ASampleWithoutARowFailsBeforeItsLayerIsLookedFor) {
+    Execute("DROP TABLE z_g_TuCeng");
+    EXPECT_EQ(ReadSampleContext(GCSY, "1", "1-1", "1-1", &m_context, &m_bQuYangOk, &m_bTuCengOk), 0);
+    EXPECT_EQ(m_bQuYangOk, 0);
+    EXPECT_EQ(m_bTuCengOk, 1);
+    EXPECT_EQ(m_strPrinted, "\n数据库z_c_QuYang数据不全!");
+    EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(SampleContext, ARegisterThatCannotBeOpenedFails) {
