@@ -61,11 +61,13 @@ TEST_P(ProjectDb, MakesEmptyTextsNullOnRequest) {
 }
 
 TEST_P(ProjectDb, ReadsRealsShortly) {
-    Execute("create table v(r real, d double precision, n numeric(10,2), i integer, w numeric(10,0))");
-    Execute("insert into v values(1.50, 0.1, -2.00, 70000, 200)");
+    Execute(
+        "create table v(r real, t real, d double precision, n numeric(10,2), i integer, w numeric(10,0))");
+    Execute("insert into v values(1.50, 2.00, 0.1, -2.00, 70000, 200)");
     CProjectDb db(SuiteDb_Project);
     ASSERT_EQ(db.Open("select * from v"), 1);
     EXPECT_EQ(Text(db, "r"), "1.5");
+    EXPECT_EQ(Text(db, "t"), "2");
     EXPECT_EQ(Text(db, "d"), "0.1");
     EXPECT_EQ(Text(db, "n"), "-2");
     EXPECT_EQ(Text(db, "i"), "70000");
