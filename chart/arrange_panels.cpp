@@ -1,11 +1,11 @@
 // Placing of the panels on the sheet area, 176 by 257 mm below and right of m_ptBase.
 
 #include "chart/chart_entity.h"
+#include "chart/table_sizes.h"
 
 namespace {
 constexpr double g_dSheetWidth = 176.0;
 constexpr double g_dSheetHeight = 257.0;
-constexpr Adesk::Int64 g_nTableColumn = 15;
 constexpr double g_dSummaryWidth = 45.0; // of the summary table and its distance, in the stacked arrangement
 
 /// What the arrangement is made of, in drawing units. Sums of whole numbers stay whole, in 64 bits, since a
@@ -24,9 +24,9 @@ CSizes SizesOf(const CBRENChart& chart) {
     sizes.m_nCurveW = static_cast<Adesk::Int64>(chart.m_nCurveCols) * chart.m_nCurveCellW;
     sizes.m_nMohrH = static_cast<Adesk::Int64>(chart.m_nMohrRows) * chart.m_nMohrCellH;
     sizes.m_nMohrW = static_cast<Adesk::Int64>(chart.m_nMohrCols) * chart.m_nMohrCellW;
-    sizes.m_nStressTableW = g_nTableColumn * (chart.m_arTotal.length() / 6 + 1);
-    sizes.m_nStressTableH = sizes.m_bEffective ? 86 : 52;
-    sizes.m_nSummaryH = sizes.m_bEffective ? 64 : 48;
+    sizes.m_nStressTableW = static_cast<Adesk::Int64>(g_nTableColumn) * (chart.m_arTotal.length() / 6 + 1);
+    sizes.m_nStressTableH = StressTableHeight(sizes.m_bEffective);
+    sizes.m_nSummaryH = SummaryTableHeight(sizes.m_bEffective);
     sizes.m_dTop = 6.0 * chart.m_dTextHeight;
     return sizes;
 }
@@ -46,12 +46,12 @@ void ArrangeSideBySide(CBRENChart& chart, const CSizes& s) {
     chart.m_ptMohrOrigin.set(bx + (g_dSheetWidth - static_cast<double>(s.m_nMohrW + 55)) / 2.0 + 10.0,
                              by - g_dSheetHeight + dAir, 0.0);
     const int nTableGap = s.m_bEffective ? 10 : 3;
-    const Adesk::Int64 nTableRows = s.m_bEffective ? 10 : 6;
-    chart.m_ptTableOrigin.set(chart.m_ptCurveOrigin.x + static_cast<double>(s.m_nCurveW) + nTableGap,
-                              chart.m_ptCurveOrigin.y + dCurveH - Half(s.m_nCurveH - 8 * nTableRows), 0.0);
-    const Adesk::Int64 nSummaryRows = s.m_bEffective ? 8 : 6;
+    const Adesk::Int64 nTableRows = StressTableRows(s.m_bEffective);
+    chart.m_ptTableOrigin.set(
+        chart.m_ptCurveOrigin.x + static_cast<double>(s.m_nCurveW) + nTableGap,
+        chart.m_ptCurveOrigin.y + dCurveH - Half(s.m_nCurveH - g_nTableRow * nTableRows), 0.0);
     chart.m_ptSummaryOrigin.set(chart.m_ptMohrOrigin.x + static_cast<double>(s.m_nMohrW) + 15.0,
-                                chart.m_ptMohrOrigin.y + dMohrH - Half(s.m_nMohrH - 8 * nSummaryRows), 0.0);
+                                chart.m_ptMohrOrigin.y + dMohrH - Half(s.m_nMohrH - s.m_nSummaryH), 0.0);
 }
 
 void ArrangeStacked(CBRENChart& chart, const CSizes& s) {

@@ -2,7 +2,9 @@
 
 #include "analysis/numbers.h"
 #include "chart/chart_entity.h"
+#include "chart/finite.h"
 #include "drawing/chart_text.h"
+#include "drawing/explode_sink.h"
 #include "drawing/styles.h"
 #include "drawing/world_sink.h"
 
@@ -97,6 +99,7 @@ CString AxisLabel(double dValue) {
 }
 
 void DescribeChartAxes(CPictureSink& sink, const CAxes& axes, const CAxesForm& form) {
+    if (!IsFinite(axes.m_ptOrigin)) return;
     Axes(sink, axes);
     Grid(sink, axes);
     g_ChartTextStyle.setTextSize(g_dAxisText);
@@ -118,4 +121,9 @@ CAxes CBRENChart::MohrAxes() const {
 void CBRENChart::DrawChartAxes(AcGiWorldDraw* pMode, const CAxes& axes) const {
     CWorldSink sink(pMode, m_nPolylineMode, m_nColor);
     DescribeChartAxes(sink, axes, g_axesWorldForm);
+}
+
+void CBRENChart::ExplodeChartAxes(AcDbVoidPtrArray& entitySet, const CAxes& axes) const {
+    CExplodeSink sink(entitySet, m_nColor, m_idTextStyle);
+    DescribeChartAxes(sink, axes, g_axesExplodeForm);
 }

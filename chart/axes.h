@@ -23,6 +23,7 @@ struct CAxesForm {
     double m_dSecondSubscript; ///< beyond the first
 };
 inline constexpr CAxesForm g_axesWorldForm{2.5, 16.1, 5.3};
+inline constexpr CAxesForm g_axesExplodeForm{3.0, 19.8, 6.5};
 
 /// Describes a frame: axes with arrows, grid, tick labels, titles. It leaves another size in the shared text
 /// style.

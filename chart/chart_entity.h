@@ -120,16 +120,27 @@ public:
     Adesk::UInt16 m_nColor = 0;         ///< colour index of what the chart draws
 
 protected:
+    /// A drag shows the envelope lines only. Otherwise the graphical values are read off the lines first, and
+    /// the summary table's texts are made anew, without a notification.
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
+    /// Shows the values as they stand.
+    Acad::ErrorStatus subExplode(AcDbVoidPtrArray& entitySet) const override;
 
 private:
+    // The picture's elements in their two forms of output.
     void DrawChartAxes(AcGiWorldDraw* pMode, const CAxes& axes) const;
+    void ExplodeChartAxes(AcDbVoidPtrArray& entitySet, const CAxes& axes) const;
     void DrawStrainCurves(AcGiWorldDraw* pMode) const;
+    void ExplodeStrainCurves(AcDbVoidPtrArray& entitySet) const;
     void DrawMohrCircles(AcGiWorldDraw* pMode) const;
+    void ExplodeMohrCircles(AcDbVoidPtrArray& entitySet) const;
     void DrawEnvelope(AcGiWorldDraw* pMode) const;
+    void ExplodeEnvelope(AcDbVoidPtrArray& entitySet) const;
+    void DrawResultTable(AcGiWorldDraw* pMode);
+    void ExplodeResultTable(AcDbVoidPtrArray& entitySet) const;
 
-    // The picture's elements, each described once for every form of output.
-    /// bWithOrigin: a curve that begins well off the origin is led there first; the world form does so.
+    // Each described once for both.
+    /// bWithOrigin: a curve that begins well off the origin is led there first.
     void DescribeStrainCurves(CPictureSink& sink, bool bWithOrigin) const;
     void DescribeStages(CPictureSink& sink, int nSeries, bool bWithOrigin) const;
     void DescribeMohrCircles(CPictureSink& sink) const;
@@ -137,4 +148,5 @@ private:
     CAxes CurveAxes() const;
     CAxes MohrAxes() const;
     AcGePoint3dArray CurvePoints(int nSeries, bool bWithOrigin) const;
+    void FillSummaryCells();
 };

@@ -2,6 +2,8 @@
 // envelopes.
 
 #include "chart/chart_entity.h"
+#include "chart/finite.h"
+#include "drawing/explode_sink.h"
 #include "drawing/world_sink.h"
 
 #include <algorithm>
@@ -19,25 +21,36 @@ CPlacedCircle PlaceCircle(const CBRENChart& chart, double dSigma3, double dDevia
              chart.m_ptMohrOrigin.y, 0.0},
             (dRadius / chart.m_dMohrStepX) * chart.m_nMohrCellW};
 }
-} // namespace
 
-void CBRENChart::DescribeMohrCircles(CPictureSink& sink) const {
-    const int nTotal = std::min(m_arSigma3.length(), m_arDeviator.length());
-    for (int i = 0; i < nTotal; i++) {
-        const CPlacedCircle circle = PlaceCircle(*this, m_arSigma3[i], m_arDeviator[i]);
-        sink.HalfCircle(circle.m_ptCenter, circle.m_dRadius);
-    }
-    if (!HasEffectiveSet()) return;
-    const int nEffective = std::min(m_arSigma3Eff.length(), m_arDeviatorEff.length());
-    for (int i = 0; i < nEffective; i++) {
-        const CPlacedCircle circle = PlaceCircle(*this, m_arSigma3Eff[i], m_arDeviatorEff[i]);
-        sink.DashedHalfCircle(circle.m_ptCenter, circle.m_dRadius);
+using CCircleStroke = void (CPictureSink::*)(const AcGePoint3d&, double);
+
+void Circles(CPictureSink& sink, CCircleStroke pStroke, const CBRENChart& chart, const CDoubleList& sigma3,
+             const CDoubleList& deviator) {
+    const int nCircles = std::min(sigma3.length(), deviator.length());
+    for (int i = 0; i < nCircles; i++) {
+        const CPlacedCircle circle = PlaceCircle(chart, sigma3[i], deviator[i]);
+        if (IsFinite(circle.m_ptCenter) && std::isfinite(circle.m_dRadius))
+            (sink.*pStroke)(circle.m_ptCenter, circle.m_dRadius);
     }
 }
 
+using CLineStroke = void (CPictureSink::*)(const AcGePoint3d&, const AcGePoint3d&);
+
+/// A fitted line may end nowhere: one without slope does, above the grid.
+void Envelope(CPictureSink& sink, CLineStroke pStroke, const AcGePoint3d& ptStart, const AcGePoint3d& ptEnd) {
+    if (IsFinite(ptStart) && IsFinite(ptEnd)) (sink.*pStroke)(ptStart, ptEnd);
+}
+} // namespace
+
+void CBRENChart::DescribeMohrCircles(CPictureSink& sink) const {
+    Circles(sink, &CPictureSink::HalfCircle, *this, m_arSigma3, m_arDeviator);
+    if (HasEffectiveSet())
+        Circles(sink, &CPictureSink::DashedHalfCircle, *this, m_arSigma3Eff, m_arDeviatorEff);
+}
+
 void CBRENChart::DescribeEnvelope(CPictureSink& sink) const {
-    sink.LineInChartColour(m_ptEnvStart, m_ptEnvEnd);
-    if (HasEffectiveSet()) sink.DashedLine(m_ptEnvStartEff, m_ptEnvEndEff);
+    Envelope(sink, &CPictureSink::LineInChartColour, m_ptEnvStart, m_ptEnvEnd);
+    if (HasEffectiveSet()) Envelope(sink, &CPictureSink::DashedLine, m_ptEnvStartEff, m_ptEnvEndEff);
 }
 
 void CBRENChart::DrawMohrCircles(AcGiWorldDraw* pMode) const {
@@ -45,7 +58,17 @@ void CBRENChart::DrawMohrCircles(AcGiWorldDraw* pMode) const {
     DescribeMohrCircles(sink);
 }
 
+void CBRENChart::ExplodeMohrCircles(AcDbVoidPtrArray& entitySet) const {
+    CExplodeSink sink(entitySet, m_nColor, m_idTextStyle);
+    DescribeMohrCircles(sink);
+}
+
 void CBRENChart::DrawEnvelope(AcGiWorldDraw* pMode) const {
     CWorldSink sink(pMode, m_nPolylineMode, m_nColor);
+    DescribeEnvelope(sink);
+}
+
+void CBRENChart::ExplodeEnvelope(AcDbVoidPtrArray& entitySet) const {
+    CExplodeSink sink(entitySet, m_nColor, m_idTextStyle);
     DescribeEnvelope(sink);
 }

@@ -1,7 +1,9 @@
 // The stress-strain curves: one per cell-pressure group, chained where they are stages of one specimen.
 
 #include "chart/chart_entity.h"
+#include "chart/finite.h"
 #include "drawing/curves.h"
+#include "drawing/explode_sink.h"
 #include "drawing/world_sink.h"
 
 #include <algorithm>
@@ -9,18 +11,23 @@
 namespace {
 /// A first reading beyond these (strain as a fraction, stress in kPa) gets a line from the origin to it.
 constexpr double g_dOriginLimit = 0.01;
+/// In what the two forms of the curves differ: whether they have that line.
+constexpr bool g_bOriginInWorldForm = true;
+constexpr bool g_bOriginInExplodeForm = false;
 } // namespace
 
 AcGePoint3dArray CBRENChart::CurvePoints(int nSeries, bool bWithOrigin) const {
     const CDoubleList& strains = m_arStrainSeries[nSeries];
     const CDoubleList& stresses = m_arStressSeries[nSeries];
     const int nPoints = std::min(strains.length(), stresses.length());
-    AcGePoint3dArray points;
+    AcGePoint3dArray points(nPoints + 1);
     if (bWithOrigin && nPoints > 0 && strains[0] > g_dOriginLimit && stresses[0] > g_dOriginLimit)
         points.append({m_ptCurveOrigin.x, m_ptCurveOrigin.y, 0.0});
-    for (int i = 0; i < nPoints; i++)
-        points.append({m_ptCurveOrigin.x + 100.0 * strains[i] * m_nCurveCellW / m_dCurveStepX,
-                       m_ptCurveOrigin.y + stresses[i] * m_nCurveCellH / m_dCurveStepY, 0.0});
+    for (int i = 0; i < nPoints; i++) {
+        const AcGePoint3d point(m_ptCurveOrigin.x + 100.0 * strains[i] * m_nCurveCellW / m_dCurveStepX,
+                                m_ptCurveOrigin.y + stresses[i] * m_nCurveCellH / m_dCurveStepY, 0.0);
+        if (IsFinite(point)) points.append(point);
+    }
     return points;
 }
 
@@ -64,5 +71,10 @@ void CBRENChart::DescribeStages(CPictureSink& sink, int nSeries, bool bWithOrigi
 
 void CBRENChart::DrawStrainCurves(AcGiWorldDraw* pMode) const {
     CWorldSink sink(pMode, m_nPolylineMode, m_nColor);
-    DescribeStrainCurves(sink, true);
+    DescribeStrainCurves(sink, g_bOriginInWorldForm);
+}
+
+void CBRENChart::ExplodeStrainCurves(AcDbVoidPtrArray& entitySet) const {
+    CExplodeSink sink(entitySet, m_nColor, m_idTextStyle);
+    DescribeStrainCurves(sink, g_bOriginInExplodeForm);
 }

@@ -1,15 +1,9 @@
 #include "drawing/curves.h"
 
-#include "drawing/dashed_scope.h"
-#include "drawing/polyline_output.h"
 #include "platform/acad/db_spline.h"
 
 namespace {
 constexpr double g_dSplitTolerance = 0.001;
-constexpr double g_dDotReach =
-    0.25; // two half circles of this radius, a band twice as wide: a full dot 1.0 across
-constexpr double g_dDotWidth = 0.5;
-constexpr Adesk::UInt16 g_nDotColor = 1;
 
 /// The crossings of two curves, in order along the first; false when the search failed.
 bool FindCrossings(const AcGePoint3dArray& first, const AcGePoint3dArray& second,
@@ -91,30 +85,4 @@ int DrawCrossTail(CPictureSink& sink, const AcGePoint3dArray& first, const AcGeP
                   AcGePoint3dArray& carry) {
     carry.setLogicalLength(0);
     return CutAgainst(sink, g_fallingPart, first, second, carry);
-}
-
-void DrawSolidCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
-    AcDbSpline curve(points);
-    pMode->subEntityTraits().setSelectionMarker(1);
-    pMode->subEntityTraits().setColor(nColor);
-    curve.worldDraw(pMode);
-}
-
-void DrawDashedCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
-    const CDashedScope dashed(pMode, nColor);
-    AcDbSpline curve(points);
-    curve.worldDraw(pMode);
-}
-
-void DrawCurveDots(const AcGePoint3dArray& points, Adesk::Int16 nPolylineMode, AcGiWorldDraw* pMode,
-                   Adesk::UInt16 nColor) {
-    AcDbPolyline dot(3); // refilled for each point: a regeneration allocates nothing per point
-    for (const AcGePoint3d& point : points) {
-        dot.reset(Adesk::kTrue, 3);
-        for (const double dReach : {g_dDotReach, -g_dDotReach, g_dDotReach})
-            dot.addVertexAt(dot.numVerts(), {point.x, point.y + dReach}, 1.0, g_dDotWidth, g_dDotWidth);
-        pMode->subEntityTraits().setColor(g_nDotColor);
-        DrawPolylineByMode(nPolylineMode, pMode, dot);
-        pMode->subEntityTraits().setColor(nColor);
-    }
 }

@@ -3,7 +3,6 @@
 // of each curve stays solid and the remainder goes dashed.
 
 #include "drawing/picture_sink.h"
-#include "platform/acad/gi_world_draw.h"
 
 /// Divides a curve at its first falling step; the peak stands in both parts. 2 when it falls somewhere, or is
 /// empty; 1 when it never falls, and then the tail is empty. Equal heights don't count as falling.
@@ -23,9 +22,3 @@ int DrawCrossHead(CPictureSink& sink, const AcGePoint3dArray& first, const AcGeP
 /// The same for the falling part: dashed up to the crossing, solid beyond it, and dashed without one.
 int DrawCrossTail(CPictureSink& sink, const AcGePoint3dArray& first, const AcGePoint3dArray& second,
                   AcGePoint3dArray& carry);
-
-// The world form. Each sets the traits it needs; nColor is the colour index that stands afterwards.
-void DrawSolidCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor);
-void DrawDashedCurve(AcGiWorldDraw* pMode, const AcGePoint3dArray& points, Adesk::UInt16 nColor);
-void DrawCurveDots(const AcGePoint3dArray& points, Adesk::Int16 nPolylineMode, AcGiWorldDraw* pMode,
-                   Adesk::UInt16 nColor);

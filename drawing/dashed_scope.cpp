@@ -4,8 +4,9 @@
 #include "platform/acad/host_application.h"
 
 namespace {
+constexpr const char* g_pDashed = "Dashed2";
 constexpr Adesk::UInt16 g_nDashedColor = 2;
-}
+} // namespace
 
 CDashedScope::CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter)
     : m_pMode(pMode)
@@ -16,7 +17,7 @@ CDashedScope::CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter)
         m_pDatabase = m_pTemporary.get();
     }
     AcDbObjectId idDashed;
-    LoadLinetypeId("Dashed2", m_pDatabase, idDashed);
+    LoadLinetypeId(g_pDashed, m_pDatabase, idDashed);
     m_pMode->subEntityTraits().setLineType(idDashed);
     m_pMode->subEntityTraits().setColor(g_nDashedColor);
     m_pMode->subEntityTraits().setSelectionMarker(1);
@@ -27,4 +28,11 @@ CDashedScope::~CDashedScope() {
     LoadLinetypeId("Continuous", m_pDatabase, idContinuous);
     m_pMode->subEntityTraits().setLineType(idContinuous);
     m_pMode->subEntityTraits().setColor(m_nColorAfter);
+}
+
+void SetDashed(AcDbEntity& entity) {
+    AcDbObjectId idDashed;
+    LoadLinetypeId(g_pDashed, nullptr, idDashed);
+    entity.setLinetype(idDashed);
+    entity.setColorIndex(g_nDashedColor);
 }

@@ -21,3 +21,6 @@ private:
     std::unique_ptr<AcDbDatabase> m_pTemporary;
     AcDbDatabase* m_pDatabase;
 };
+
+/// The same look for an entity of the explode form. The line type is looked up in the working drawing only.
+void SetDashed(AcDbEntity& entity);

@@ -18,6 +18,8 @@ public:
     /// The same, set to the chart's colour index first.
     virtual void LineInChartColour(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) = 0;
     virtual void DashedLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) = 0;
+    /// The same width all along, which may be 0.
+    virtual void WideLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) = 0;
     /// A polyline that tapers from full width to a point.
     virtual void Arrow(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) = 0;
     /// A text in the shared text style, at its left baseline.

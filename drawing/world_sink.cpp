@@ -2,21 +2,21 @@
 
 #include "analysis/numbers.h"
 #include "drawing/chart_text.h"
-#include "drawing/curves.h"
+#include "drawing/curve_strokes.h"
 #include "drawing/dashed_scope.h"
 #include "drawing/polyline_output.h"
 #include "drawing/styles.h"
 
-void CWorldSink::TwoVertices(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dStartWidth,
-                             double dEndWidth) {
+void CWorldSink::TwoVertices(const CPolylineVertex& from, const CPolylineVertex& to) {
     m_polyline.reset(Adesk::kTrue, 2);
-    m_polyline.addVertexAt(0, {ptFrom.x, ptFrom.y}, 0.0, dStartWidth, dEndWidth);
-    m_polyline.addVertexAt(1, {ptTo.x, ptTo.y});
+    for (const CPolylineVertex& vertex : {from, to})
+        m_polyline.addVertexAt(m_polyline.numVerts(), vertex.m_pt, vertex.m_dBulge, vertex.m_dStartWidth,
+                               vertex.m_dEndWidth);
     DrawPolylineByMode(m_nPolylineMode, m_pMode, m_polyline);
 }
 
 void CWorldSink::Line(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) {
-    TwoVertices(ptFrom, ptTo, -1.0, -1.0);
+    TwoVertices({{ptFrom.x, ptFrom.y}}, {{ptTo.x, ptTo.y}});
 }
 
 void CWorldSink::LineInChartColour(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) {
@@ -29,8 +29,12 @@ void CWorldSink::DashedLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) 
     Line(ptFrom, ptTo);
 }
 
+void CWorldSink::WideLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) {
+    TwoVertices({{ptFrom.x, ptFrom.y}, 0.0, dWidth, dWidth}, {{ptTo.x, ptTo.y}, 0.0, dWidth, dWidth});
+}
+
 void CWorldSink::Arrow(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) {
-    TwoVertices(ptFrom, ptTo, dWidth, 0.0);
+    TwoVertices({{ptFrom.x, ptFrom.y}, 0.0, dWidth, 0.0}, {{ptTo.x, ptTo.y}});
 }
 
 void CWorldSink::Text(const AcGePoint3d& ptPosition, const CString& strText, CTextDirection direction) {

@@ -16,6 +16,7 @@ public:
     void Line(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override;
     void LineInChartColour(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override;
     void DashedLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override;
+    void WideLine(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) override;
     void Arrow(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dWidth) override;
     void Text(const AcGePoint3d& ptPosition, const CString& strText, CTextDirection direction) override;
     void SolidCurve(const AcGePoint3dArray& points) override;
@@ -25,8 +26,7 @@ public:
     void DashedHalfCircle(const AcGePoint3d& ptCenter, double dRadius) override;
 
 private:
-    void TwoVertices(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo, double dStartWidth,
-                     double dEndWidth);
+    void TwoVertices(const CPolylineVertex& from, const CPolylineVertex& to);
 
     AcGiWorldDraw* m_pMode;
     Adesk::Int16 m_nPolylineMode;

@@ -30,7 +30,7 @@ public:
     void Text(const AcGePoint3d& ptPosition, const CString& strText) override {
         DrawFrameText(m_pMode, ptPosition, strText);
     }
-    void Cell(const CFrameCell& cell, const AcGiTextStyle& style) override {
+    void Cell(const CTextCell& cell, const AcGiTextStyle& style) override {
         DrawFrameCell(m_pMode, cell, style, StylesOf(m_frame));
     }
 
@@ -59,7 +59,7 @@ public:
     void Text(const AcGePoint3d& ptPosition, const CString& strText) override {
         ExplodeFrameText(m_entitySet, ptPosition, strText, m_styles);
     }
-    void Cell(const CFrameCell& cell, const AcGiTextStyle& style) override {
+    void Cell(const CTextCell& cell, const AcGiTextStyle& style) override {
         ExplodeFrameCell(m_entitySet, cell, style, m_styles);
     }
 

@@ -13,7 +13,7 @@ public:
     virtual void Outline(const AcDbPolyline& polyline) = 0;
     virtual void Rule(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) = 0;
     virtual void Text(const AcGePoint3d& ptPosition, const CString& strText) = 0;
-    virtual void Cell(const CFrameCell& cell, const AcGiTextStyle& style) = 0;
+    virtual void Cell(const CTextCell& cell, const AcGiTextStyle& style) = 0;
 };
 
 /// In what the two forms differ besides.

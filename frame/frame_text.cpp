@@ -11,10 +11,8 @@
 namespace {
 constexpr double g_dWidthFactor = 0.7;
 
-AcGePoint3d TextPosition(const CFrameCell& cell, const CFrameStyles& styles) {
-    const double dTextWidth = MeasureTextWidth(cell.m_strText, styles.m_idText, cell.m_dTextHeight);
-    return cell.m_ptTopLeft + AcGeVector3d((cell.m_dWidth - dTextWidth) / 2.0,
-                                           -cell.m_dHeight / 2.0 - cell.m_dTextHeight / 2.0, 0.0);
+AcGePoint3d TextPosition(const CTextCell& cell, const CFrameStyles& styles) {
+    return TextPositionInCell(cell, styles.m_idText, cell.m_dTextHeight);
 }
 
 AcDbObjectId StyleOfBigFont(std::wstring_view strBigFont, const CFrameStyles& styles) {
@@ -40,12 +38,12 @@ void ExplodeFrameText(AcDbVoidPtrArray& entitySet, const AcGePoint3d& ptPosition
     AddText(entitySet, ptPosition, strText, styles.m_idText, g_ChartTextStyle.textSize());
 }
 
-void DrawFrameCell(AcGiWorldDraw* pMode, const CFrameCell& cell, const AcGiTextStyle& style,
+void DrawFrameCell(AcGiWorldDraw* pMode, const CTextCell& cell, const AcGiTextStyle& style,
                    const CFrameStyles& styles) {
     DrawChartText(pMode, TextPosition(cell, styles), cell.m_strText, 0, style);
 }
 
-void ExplodeFrameCell(AcDbVoidPtrArray& entitySet, const CFrameCell& cell, const AcGiTextStyle& style,
+void ExplodeFrameCell(AcDbVoidPtrArray& entitySet, const CTextCell& cell, const AcGiTextStyle& style,
                       const CFrameStyles& styles) {
     AddText(entitySet, TextPosition(cell, styles), cell.m_strText,
             StyleOfBigFont(style.bigFontFileName(), styles), style.textSize());

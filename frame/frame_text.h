@@ -2,17 +2,9 @@
 // Texts of the frame in both forms of output. Where a style is not given they are in the shared text style,
 // at the size it has.
 
+#include "drawing/text_cell.h"
 #include "platform/acad/db_entity.h"
 #include "platform/acad/gi_text_style.h"
-#include "platform/mfc/string.h"
-
-/// A text centred in a cell of the sheet.
-struct CFrameCell {
-    AcGePoint3d m_ptTopLeft;
-    double m_dWidth, m_dHeight;
-    double m_dTextHeight; ///< by which the text is measured and set; its size is the style's
-    CString m_strText;
-};
 
 /// Text styles of the exploded texts; all are measured by the first.
 struct CFrameStyles {
@@ -23,9 +15,10 @@ void DrawFrameText(AcGiWorldDraw* pMode, const AcGePoint3d& ptPosition, const CS
 void ExplodeFrameText(AcDbVoidPtrArray& entitySet, const AcGePoint3d& ptPosition, const CString& strText,
                       const CFrameStyles& styles);
 
-void DrawFrameCell(AcGiWorldDraw* pMode, const CFrameCell& cell, const AcGiTextStyle& style,
+/// Its text is measured at the cell's text height.
+void DrawFrameCell(AcGiWorldDraw* pMode, const CTextCell& cell, const AcGiTextStyle& style,
                    const CFrameStyles& styles);
 /// The text's own style is told by the big font of the given one; without one of the two known it is the
 /// drawing's "Standard".
-void ExplodeFrameCell(AcDbVoidPtrArray& entitySet, const CFrameCell& cell, const AcGiTextStyle& style,
+void ExplodeFrameCell(AcDbVoidPtrArray& entitySet, const CTextCell& cell, const AcGiTextStyle& style,
                       const CFrameStyles& styles);

@@ -1,12 +1,16 @@
 #include "chart/axes.h"
 
 #include "chart/chart_entity.h"
+#include "drawing/explode_sink.h"
 #include "drawing/styles.h"
 #include "drawing/world_sink.h"
-#include "platform/acad/display_recorder.h"
+#include "platform/acad/db_polyline.h"
+#include "platform/acad/db_text.h"
 #include "tests/support/drawing.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace {
 CAxes Frame() {
@@ -20,6 +24,14 @@ CDisplayList Draw(const CAxes& axes) {
     CWorldSink sink(&recorder, 0, 3);
     DescribeChartAxes(sink, axes, g_axesWorldForm);
     return recorder.Take();
+}
+
+CEntities ExplodedAxes(const CAxes& axes) {
+    SetupChartTextStyle(g_ChartTextStyle);
+    AcDbVoidPtrArray entitySet;
+    CExplodeSink sink(entitySet, 3, AcDbObjectId::kNull);
+    DescribeChartAxes(sink, axes, g_axesExplodeForm);
+    return TakeOver(entitySet);
 }
 
 std::vector<std::string> Texts(const CDisplayList& list) {
@@ -143,8 +155,81 @@ TEST(ChartAxes, SetSubscriptsAlongTheVerticalTitle) {
     EXPECT_EQ(g_ChartTextStyle.textSize(), 1.0); // every later user sets its own
 }
 
+TEST(ChartAxes, ExplodeIntoTheSameLinesAndTexts) {
+    const CTestDrawing drawing;
+    const CEntities entities = ExplodedAxes(Frame());
+    const auto lines = Parts<AcDbPolyline>(entities);
+    const CDisplayList world = Draw(Frame());
+    const auto drawn = Shapes<CPlinePrimitive>(world);
+    ASSERT_EQ(lines.size(), drawn.size());
+    for (std::size_t i = 0; i < lines.size(); i++) {
+        for (std::size_t k = 0; k < 2; k++) {
+            const CPolylineVertex& made = lines[i]->Vertices().at(k);
+            const CPolylineVertex& shown = drawn[i].m_arVertices.at(k);
+            EXPECT_EQ(made.m_pt.x, shown.m_pt.x);
+            EXPECT_EQ(made.m_pt.y, shown.m_pt.y);
+            EXPECT_EQ(made.m_dStartWidth, shown.m_dStartWidth);
+            EXPECT_EQ(made.m_dEndWidth, shown.m_dEndWidth);
+        }
+    }
+    const auto texts = Parts<AcDbText>(entities);
+    ASSERT_EQ(texts.size(), Texts(world).size());
+    EXPECT_STREQ(texts[0]->textString(), L"2");
+    EXPECT_TRUE(texts[0]->position() == Shapes<CTextPrimitive>(world)[0].m_ptPosition);
+}
+
+TEST(ChartAxes, ExplodeWithTitlesMeasuredHigherThanTheyAre) {
+    const CTestDrawing drawing;
+    const CEntities entities = ExplodedAxes(Frame());
+    const auto texts = Parts<AcDbText>(entities);
+    const AcDbText& x = *texts[texts.size() - 2];
+    const AcDbText& y = *texts.back();
+    const double dWidth = 2 * 0.8 * 3.0 * 0.7;
+    EXPECT_DOUBLE_EQ(x.position().x, 100.0 + 30.0 - dWidth / 2);
+    EXPECT_EQ(x.height(), 2.5);
+    EXPECT_EQ(x.rotation(), 0.0);
+    EXPECT_DOUBLE_EQ(y.position().y, 50.0 + 20.0 - dWidth / 2);
+    EXPECT_EQ(y.height(), 2.5);
+    EXPECT_EQ(y.rotation(), 1.5707963);
+}
+
+TEST(ChartAxes, ExplodeWithSubscriptsFurtherApart) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_bSubscripts = true;
+    const CEntities entities = ExplodedAxes(axes);
+    const auto texts = Parts<AcDbText>(entities);
+    const AcDbText& title = *texts[texts.size() - 3];
+    const AcDbText& one = *texts[texts.size() - 2];
+    const AcDbText& three = *texts.back();
+    EXPECT_DOUBLE_EQ(one.position().y - title.position().y, 19.8);
+    EXPECT_DOUBLE_EQ(three.position().y - one.position().y, 6.5);
+    EXPECT_EQ(one.height(), 1.0);
+    EXPECT_STREQ(three.textString(), L"3");
+}
+
+TEST(ChartAxes, KeepAnEmptyLabelAsAnEmptyText) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_nRows = 0;
+    axes.m_nCols = 8;
+    axes.m_dStepX = 0.1;
+    const CEntities entities = ExplodedAxes(axes);
+    EXPECT_STREQ(Parts<AcDbText>(entities).at(2)->textString(), L"");
+}
+
+TEST(ChartAxes, WithoutAPlaceAreLeftOut) {
+    const CTestDrawing drawing;
+    CAxes axes = Frame();
+    axes.m_ptOrigin.y = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_TRUE(Draw(axes).empty());
+    EXPECT_TRUE(ExplodedAxes(axes).empty());
+}
+
 TEST(AxisLabel, IsEmptyForWhatIsNoNumberOrTooLarge) {
     EXPECT_TRUE(AxisLabel(1e10).IsEmpty());
+    EXPECT_TRUE(AxisLabel(std::numeric_limits<double>::quiet_NaN()).IsEmpty());
+    EXPECT_TRUE(AxisLabel(std::numeric_limits<double>::infinity()).IsEmpty());
     EXPECT_TRUE(AxisLabel(0.125).IsEmpty());
     EXPECT_TRUE(AxisLabel(-0.25) == "-0.25");
 }

@@ -1,8 +1,12 @@
 #include "chart/chart_entity.h"
-#include "platform/acad/display_recorder.h"
+#include "platform/acad/db_polyline.h"
+#include "platform/acad/db_spline.h"
 #include "tests/support/drawing.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
 
 namespace {
 using CSeries = std::vector<std::pair<double, double>>; // strain as a fraction, stress in kPa
@@ -183,4 +187,83 @@ TEST(StrainCurves, GoOnWithAnEmptyListAfterAFailedSearch) {
     ASSERT_GE(splines.size(), 2U);
     EXPECT_EQ(Points(splines[0]), 2U);
     EXPECT_EQ(Points(splines.back()), 0U);
+}
+
+TEST(StrainCurves, ExplodeIntoSplinesAndDots) {
+    CCurves curves({g_rising}, 1);
+    const CEntities entities = Exploded(curves.m_chart);
+    const auto splines = Parts<AcDbSpline>(entities);
+    ASSERT_EQ(splines.size(), 1U);
+    EXPECT_EQ(splines[0]->numFitPoints(), 3);
+    EXPECT_EQ(splines[0]->FitPoints()[1].y, 40.0);
+    EXPECT_EQ(splines[0]->Order(), 4);
+    EXPECT_EQ(splines[0]->FitTolerance(), 0.0);
+    EXPECT_EQ(splines[0]->colorIndex(), 3);
+    const auto* const pDot = AcDbPolyline::cast(entities.at(1).get());
+    ASSERT_NE(pDot, nullptr);
+    EXPECT_EQ(pDot->colorIndex(), 1);
+    EXPECT_EQ(pDot->numVerts(), 3U);
+    EXPECT_EQ(pDot->Vertices()[0].m_dBulge, 1.0);
+}
+
+TEST(StrainCurves, ExplodeWithoutAWayFromTheOrigin) {
+    for (const int bSingleSpecimen : {0, 1}) {
+        CCurves curves({{{0.02, 5}, {0.03, 10}}, {{0.05, 5}, {0.06, 10}}}, bSingleSpecimen);
+        const CEntities entities = Exploded(curves.m_chart);
+        const auto splines = Parts<AcDbSpline>(entities);
+        ASSERT_EQ(splines.size(), 2U);
+        EXPECT_EQ(splines[0]->numFitPoints(), 2);
+        EXPECT_EQ(splines[1]->numFitPoints(), 2);
+    }
+}
+
+TEST(StrainCurves, OfStagesExplodeIntoTheSamePieces) {
+    CCurves curves(
+        {{{0.0, 0}, {0.02, 40}, {0.03, 60}, {0.04, 80}}, {{0.02, 30}, {0.025, 50}, {0.03, 75}, {0.05, 140}}},
+        1);
+    const auto drawn = curves.Splines();
+    const CEntities entities = Exploded(curves.m_chart);
+    const auto splines = Parts<AcDbSpline>(entities);
+    ASSERT_EQ(splines.size(), drawn.size());
+    const char* const linetypes[] = {"ByLayer", "Dashed2", "Dashed2", "ByLayer"};
+    for (std::size_t i = 0; i < splines.size(); i++) {
+        const auto& points = std::get<CSplinePrimitive>(drawn[i].m_shape).m_arFitPoints;
+        EXPECT_EQ(splines[i]->FitPoints(), points);
+        EXPECT_EQ(splines[i]->colorIndex(), drawn[i].m_nColor);
+        EXPECT_EQ(splines[i]->LinetypeName(), linetypes[i]);
+    }
+}
+
+TEST(StrainCurves, ExplodeIntoNothingWithoutASeries) {
+    CCurves curves({}, 1);
+    const CEntities entities = Exploded(curves.m_chart);
+    EXPECT_TRUE(Parts<AcDbSpline>(entities).empty());
+    for (const AcDbPolyline* pLine : Parts<AcDbPolyline>(entities))
+        EXPECT_NE(pLine->colorIndex(), 1);
+}
+
+TEST(StrainCurves, LeaveOutReadingsThatLieNowhereAndKeepTheirValues) {
+    constexpr double dNan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double dInfinite = std::numeric_limits<double>::infinity();
+    for (const int bSingleSpecimen : {0, 1}) {
+        CCurves curves({{{0.0, 0}, {dNan, 20}, {0.02, dNan}, {0.03, 60}, {dInfinite, 70}, {1e308, 80}},
+                        {{dNan, dNan}, {0.02, 30}, {0.025, -dInfinite}, {0.05, 140}},
+                        {{dNan, 1}, {1, dNan}}},
+                       bSingleSpecimen);
+        for (const CPrimitive& spline : curves.Splines())
+            for (const AcGePoint3d& point : std::get<CSplinePrimitive>(spline.m_shape).m_arFitPoints)
+                EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y));
+        EXPECT_EQ(curves.Dots(), 2 + 2);
+        const CEntities entities = Exploded(curves.m_chart);
+        EXPECT_FALSE(Parts<AcDbSpline>(entities).empty());
+        EXPECT_EQ(curves.m_chart.m_arStrainSeries[0].length(), 6);
+        EXPECT_TRUE(std::isnan(curves.m_chart.m_arStrainSeries[0][1]));
+    }
+}
+
+TEST(StrainCurves, WithoutAScaleLeaveOutEveryReading) {
+    CCurves curves({g_rising}, 0);
+    curves.m_chart.m_dCurveStepX = 0.0;
+    curves.m_chart.m_dCurveStepY = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(curves.Dots(), 0);
 }

@@ -46,3 +46,21 @@ TEST(DrawChartText, SendsOneTextAlongItsDirection) {
     EXPECT_EQ(list[0].m_nMarker, 1);
     EXPECT_EQ(std::get<CTextPrimitive>(list[1].m_shape).m_vecDirection.x, 1.0);
 }
+
+TEST(ExplodeChartText, MakesOneTextAlongItsDirection) {
+    const CTestDrawing drawing;
+    AcGiTextStyle style;
+    style.setTextSize(3.8);
+    AcDbVoidPtrArray entitySet;
+    ExplodeChartText(entitySet, {1, 2, 0}, "主应力差", 1, style, AcDbObjectId::kNull);
+    ExplodeChartText(entitySet, {1, 2, 0}, "", 0, style, AcDbObjectId::kNull);
+    const CEntities entities = TakeOver(entitySet);
+    const auto texts = Parts<AcDbText>(entities);
+    ASSERT_EQ(texts.size(), 2U);
+    EXPECT_STREQ(texts[0]->textString(), L"主应力差");
+    EXPECT_EQ(texts[0]->rotation(), 1.5707963); // not π/2 to full precision
+    EXPECT_EQ(texts[0]->height(), 3.8);
+    EXPECT_TRUE(texts[0]->position() == AcGePoint3d(1, 2, 0));
+    EXPECT_EQ(texts[1]->rotation(), 0.0);
+    EXPECT_STREQ(texts[1]->textString(), L"");
+}

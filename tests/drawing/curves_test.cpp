@@ -21,6 +21,7 @@ public:
         m_arNotes.emplace_back("line");
     }
     void DashedLine(const AcGePoint3d&, const AcGePoint3d&) override { m_arNotes.emplace_back("line"); }
+    void WideLine(const AcGePoint3d&, const AcGePoint3d&, double) override { m_arNotes.emplace_back("line"); }
     void Arrow(const AcGePoint3d&, const AcGePoint3d&, double) override { m_arNotes.emplace_back("arrow"); }
     void Text(const AcGePoint3d&, const CString&, CTextDirection) override { m_arNotes.emplace_back("text"); }
     void SolidCurve(const AcGePoint3dArray& p) override {

@@ -21,12 +21,15 @@ TEST(WorldSink, RefillsItsPolylineForEveryLine) {
     const CDisplayList list = Drawn([](CPictureSink& sink) {
         sink.Arrow({0, 0, 0}, {3, 0, 0}, 1.0);
         sink.Line({1, 1, 0}, {2, 2, 0});
+        sink.WideLine({1, 1, 0}, {2, 2, 0}, 0.5);
     });
     const auto lines = Shapes<CPlinePrimitive>(list);
-    ASSERT_EQ(lines.size(), 2U);
+    ASSERT_EQ(lines.size(), 3U);
     EXPECT_EQ(lines[0].m_arVertices[0].m_dStartWidth, 1.0);
     EXPECT_EQ(lines[1].m_arVertices.size(), 2U);
     EXPECT_EQ(lines[1].m_arVertices[0].m_dStartWidth, -1.0);
+    EXPECT_EQ(lines[2].m_arVertices[0].m_dEndWidth, 0.5);
+    EXPECT_EQ(lines[2].m_arVertices[1].m_dStartWidth, 0.5);
     EXPECT_EQ(list[1].m_nColor, 256);
 }
 

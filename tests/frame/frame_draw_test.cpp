@@ -7,22 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace {
 void Fill(CBRENFrame& frame) {
     frame.m_ptBase.set(10.0, 300.0, 0.0);
     frame.m_bRQ = 1;
     frame.m_nYear = 2024;
-}
-
-std::vector<std::unique_ptr<AcDbEntity>> Exploded(const CBRENFrame& frame) {
-    AcDbVoidPtrArray parts;
-    EXPECT_EQ(frame.explode(parts), Acad::eOk);
-    std::vector<std::unique_ptr<AcDbEntity>> entities;
-    for (void* const pPart : parts)
-        entities.emplace_back(static_cast<AcDbEntity*>(pPart));
-    return entities;
 }
 } // namespace
 

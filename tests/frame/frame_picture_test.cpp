@@ -27,7 +27,7 @@ public:
     void Text(const AcGePoint3d& ptPosition, const CString& strText) override {
         Note("%s %g at %g,%g", strText.GetString(), g_ChartTextStyle.textSize(), ptPosition.x, ptPosition.y);
     }
-    void Cell(const CFrameCell& cell, const AcGiTextStyle& style) override {
+    void Cell(const CTextCell& cell, const AcGiTextStyle& style) override {
         Note("cell %s %g at %g,%g %gx%g for %g", cell.m_strText.GetString(), style.textSize(),
              cell.m_ptTopLeft.x, cell.m_ptTopLeft.y, cell.m_dWidth, cell.m_dHeight, cell.m_dTextHeight);
     }

@@ -17,7 +17,7 @@ protected:
     AcGiTextStyle m_style;
     CFrameStyles m_styles{AddStyle(L"texts"), AddStyle(L"banner")};
     /// 40 wide, 10 high, for a text of two bytes measured at height 5: 0.8 · 2 · 5 · 0.7 = 5.6 wide.
-    const CFrameCell m_cell{{100.0, 200.0, 7.0}, 40.0, 10.0, 5.0, "土"};
+    const CTextCell m_cell{{100.0, 200.0, 7.0}, 40.0, 10.0, 5.0, "土"};
     const AcGePoint3d m_ptExpected{100.0 + (40.0 - 5.6) / 2.0, 200.0 - 5.0 - 2.5, 7.0};
 
     FrameText() {

@@ -29,3 +29,18 @@ CPromptResult CTestDrawing::AskSelection(const std::string& strPrompt, std::vect
     *pIds = m_arPicks;
     return m_arPicks.empty() ? CPromptResult::Cancel : CPromptResult::Value;
 }
+
+CEntities TakeOver(const AcDbVoidPtrArray& entitySet) {
+    CEntities entities;
+    for (void* const pEntity : entitySet)
+        entities.emplace_back(static_cast<AcDbEntity*>(pEntity));
+    return entities;
+}
+
+CEntities Exploded(const AcDbEntity& entity) {
+    AcDbVoidPtrArray entitySet;
+    const Acad::ErrorStatus status = entity.explode(entitySet);
+    CEntities entities = TakeOver(entitySet);
+    if (status != Acad::eOk) entities.clear();
+    return entities;
+}

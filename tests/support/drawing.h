@@ -2,8 +2,11 @@
 // A working drawing and fixed text widths for tests of what is drawn.
 
 #include "platform/acad/db_database.h"
+#include "platform/acad/display_recorder.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/text_metrics.h"
+
+#include <memory>
 
 /// Every byte of a text is 0.8 of its height wide: a width that tests can compute by hand.
 class CFixedMetrics final : public CTextMetrics {
@@ -46,4 +49,20 @@ std::vector<T> Shapes(const CDisplayList& list) {
     for (const CPrimitive& primitive : list)
         if (const T* pShape = std::get_if<T>(&primitive.m_shape)) shapes.push_back(*pShape);
     return shapes;
+}
+
+using CEntities = std::vector<std::unique_ptr<AcDbEntity>>;
+
+/// The entities of an explode form, in its order, taken over.
+CEntities TakeOver(const AcDbVoidPtrArray& entitySet);
+/// What the entity explodes into; nothing when it refuses.
+CEntities Exploded(const AcDbEntity& entity);
+
+/// Entities of one class, in order.
+template <class T>
+std::vector<const T*> Parts(const CEntities& entities) {
+    std::vector<const T*> parts;
+    for (const std::unique_ptr<AcDbEntity>& pEntity : entities)
+        if (const T* pPart = T::cast(pEntity.get())) parts.push_back(pPart);
+    return parts;
 }

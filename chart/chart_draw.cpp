@@ -16,5 +16,17 @@ Adesk::Boolean CBRENChart::subWorldDraw(AcGiWorldDraw* pMode) {
     if (bDragging) return 1; // a drag shows the envelope lines only
     DrawChartAxes(pMode, CurveAxes());
     DrawChartAxes(pMode, MohrAxes());
+    DrawResultTable(pMode);
     return 1;
+}
+
+Acad::ErrorStatus CBRENChart::subExplode(AcDbVoidPtrArray& entitySet) const {
+    SetupChartTextStyle(g_ChartTextStyle);
+    ExplodeStrainCurves(entitySet);
+    ExplodeMohrCircles(entitySet);
+    if (m_bNoEnvelope == 0) ExplodeEnvelope(entitySet);
+    ExplodeChartAxes(entitySet, CurveAxes());
+    ExplodeChartAxes(entitySet, MohrAxes());
+    ExplodeResultTable(entitySet);
+    return Acad::eOk;
 }
