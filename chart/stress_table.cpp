@@ -65,8 +65,9 @@ private:
     const CTableForm& m_form;
 };
 
-bool HasFraction(int nRow) {
-    return nRow == 4 || nRow == 5 || nRow == 9;
+/// Rows whose title is a fraction are higher.
+int RowHeight(int nRow) {
+    return nRow == 4 || nRow == 5 || nRow == 9 ? g_nFractionRow : g_nTableRow;
 }
 
 void CStressTable::Lines() const {
@@ -78,7 +79,7 @@ void CStressTable::Lines() const {
     for (int i = 0; i <= nRows; i++) {
         DrawTableRow(m_sink, {ptCorner.x, y, ptCorner.z}, ptCorner.x + g_nTableColumn * nColumns,
                      i == 0 || i == nRows);
-        y -= HasFraction(i) ? g_nFractionRow : g_nTableRow;
+        y -= RowHeight(i);
     }
     for (int i = 0; i <= nColumns; i++)
         DrawTableColumn(m_sink, {ptCorner.x + g_nTableColumn * i, ptCorner.y, ptCorner.z},
@@ -89,7 +90,8 @@ void CStressTable::ValueRows(const AcGePoint3d& ptCorner, const CDoubleList& val
     const int nColumns = values.length() / nRows;
     AcGePoint3d ptRow = ptCorner;
     for (int nRow = 0; nRow < nRows; nRow++) {
-        const int nHeight = nRow < 4 ? g_nTableRow : g_nFractionRow;
+        // Rows count within the set here: the last of the effective set is taken for a low one.
+        const int nHeight = RowHeight(nRow);
         AcGePoint3d ptCell = ptRow;
         for (int nColumn = 0; nColumn < nColumns; nColumn++) {
             ptCell.x += g_nTableColumn;

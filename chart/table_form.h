@@ -18,7 +18,23 @@ struct CTableForm {
     double m_dSummaryTitle;         ///< x of the titles' cells
     double m_dSummaryEffectiveText; ///< text height of the titles of the effective set
 };
-inline constexpr CTableForm g_tableWorldForm{
-    CCellMeasure::TextSize, 2.5, 11.0, 5.0, 1.0, 1.0, 14.0, 2.5, -5.0, 3.8};
-inline constexpr CTableForm g_tableExplodeForm{
-    CCellMeasure::TextHeight, 3.0, 12.5, 7.0, 3.0, 3.0, 13.0, 3.0, -4.0, 2.5};
+inline constexpr CTableForm g_tableWorldForm{.m_cellMeasure = CCellMeasure::TextSize,
+                                             .m_dMainText = 2.5,
+                                             .m_dSecondSubscript = 11.0,
+                                             .m_dSingleEffective = 5.0,
+                                             .m_dSumEffective = 1.0,
+                                             .m_dRuleFrom = 1.0,
+                                             .m_dRuleTo = 14.0,
+                                             .m_dSummaryValue = 2.5,
+                                             .m_dSummaryTitle = -5.0,
+                                             .m_dSummaryEffectiveText = 3.8};
+inline constexpr CTableForm g_tableExplodeForm{.m_cellMeasure = CCellMeasure::TextHeight,
+                                               .m_dMainText = 3.0,
+                                               .m_dSecondSubscript = 12.5,
+                                               .m_dSingleEffective = 7.0,
+                                               .m_dSumEffective = 3.0,
+                                               .m_dRuleFrom = 3.0,
+                                               .m_dRuleTo = 13.0,
+                                               .m_dSummaryValue = 3.0,
+                                               .m_dSummaryTitle = -4.0,
+                                               .m_dSummaryEffectiveText = 2.5};

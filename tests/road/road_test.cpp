@@ -204,6 +204,22 @@ TEST(Road, ASheetSurvivesItsModule) {
     EXPECT_EQ(road.Dump(), before);
 }
 
+TEST(Road, ExplodesAChartIntoThePartsThatItsDumpLists) {
+    CRoad road("mafra-ciu");
+    const CRun run = road.Generate("DUMP " + road.File("sheet.json") +
+                                   "\nERASE L\nERASE L\nEXPLODE L\nDUMP " + road.File("parts.json") + "\n");
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CJson parts = road.Chart()["explode"];
+    EXPECT_EQ(parts.size(), road.Chart()["world"].size());
+    CJson modelSpace = CJson::parse(ReadFile(road.File("parts.json")))["modelSpace"];
+    modelSpace.erase(0); // the reference to the frame
+    ASSERT_EQ(modelSpace.size(), parts.size());
+    for (std::size_t i = 0; i < parts.size(); i++) {
+        modelSpace[i].erase("handle");
+        EXPECT_EQ(modelSpace[i], parts[i]);
+    }
+}
+
 TEST(Road, PrintsTitlesAsTextOnOneSheetOfA4) {
     CRoad road("mafra-ciu");
     EXPECT_EQ(road.Generate("PLOT " + road.File("sheet.pdf") + "\nPLOT " + road.File("sheet.svg") +
