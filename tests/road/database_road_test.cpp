@@ -161,23 +161,12 @@ TEST_F(DatabaseRoad, StoresOnceAnImportThatHeldTheDatabaseHasEnded) {
 TEST_F(DatabaseRoad, GoesOnWithTheProjectThatIsOpenedMeanwhile) {
     MakeProject("B", "", "ZKB");
     MakeProject("A", "", "ZKA");
-    ASSERT_EQ(mkfifo(Path("script").c_str(), 0600), 0);
-    EXPECT_EQ(m_program
-                  .Shell("{ '" TERVO_BIN "/tvcad' --root \"$ROOT\" -q -s '" + Path("script") + "' >'" +
-                         Path("cad.out") + "' 2>&1; mv '" + Path("cad.out") + "' '" + Path("cad.done") +
-                         "'; } & true")
-                  .m_nStatus,
-              0);
-    CDescriptor pipe(open(Path("script").c_str(), O_WRONLY | O_CLOEXEC));
-    const auto say = [&](const std::string& strLines) {
-        EXPECT_EQ(write(pipe.Get(), strLines.data(), strLines.size()), static_cast<ssize_t>(strLines.size()));
-    };
-    say(Generation("first.json", "ZKA"));
+    CTvcadSession session(m_program);
+    session.Say(Generation("first.json", "ZKA"));
     EXPECT_NE(WaitedFile(m_program.Folder(), "first.json"), "");
     m_program.Do("open --root \"$ROOT\" --number B");
-    say(Generation("second.json", "ZKB"));
-    pipe.Close();
-    const std::string strOut = WaitedFile(m_program.Folder(), "cad.done");
+    session.Say(Generation("second.json", "ZKB"));
+    const std::string strOut = session.End().m_strOut;
     EXPECT_EQ(Fields("first.json")["m_strZKBH"], "ZKA") << strOut;
     EXPECT_EQ(Fields("second.json")["m_strZKBH"], "ZKB") << strOut;
     ExpectStored("A", "ZKA");

@@ -253,22 +253,6 @@ TEST(Road, DrawsTheSameTwice) {
     EXPECT_EQ(ReadFile(road.File("sheet.json")), ReadFile(road.File("again.json")));
 }
 
-TEST(Road, SaysThatNoProjectIsOpen) {
-    CRoad road("smith-exc4.4");
-    road.m_program.Do("close --root \"$ROOT\"");
-    const CRun run = road.m_program.Tvcad("BREN\n");
-    EXPECT_EQ(run.m_nStatus, 0);
-    EXPECT_EQ(run.m_strOut, Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能！\n"));
-}
-
-TEST(Road, SaysThatTheDataManagerIsNotRunning) {
-    CRoad road("smith-exc4.4");
-    road.m_program.Do("close --root \"$ROOT\"");
-    EXPECT_EQ(road.m_program.Shell("sed -i 's/^GCSY=.*/GCSY=1/' \"$ROOT/Project.ini\"").m_nStatus, 0);
-    EXPECT_EQ(road.m_program.Tvcad("BREN\n").m_strOut,
-              Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能!\n"));
-}
-
 TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
     CRoad road("smith-exc4.4");
     const CProgram& program = road.m_program;
@@ -321,15 +305,6 @@ TEST_P(RoadOnEngine, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
               std::string::npos)
         << run.m_strOut;
     EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
-}
-
-TEST(Road, LeavesNothingWhenThePointIsCancelled) {
-    CRoad road("smith-exc4.4");
-    const CRun run = road.m_program.Tvcad("BREN\nselect 1010 1\nselect 1011 1-1\nok\ncancel\nDUMP " +
-                                          road.File("sheet.json") + "\n");
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
-    EXPECT_TRUE(road.Dump()["modelSpace"].empty());
-    EXPECT_TRUE(road.Results().at(0)["SYRQ"].is_null());
 }
 
 TEST(Road, LosesTheModulesCommandsWhileItIsAway) {

@@ -1,10 +1,21 @@
 #include "tests/support/programs.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <thread>
 
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
+
+namespace {
+constexpr const char* g_pSessionOutput = "session.out";
+constexpr const char* g_pSessionErrors = "session.err";
+
+int ExitStatus(int nWaited) {
+    return WIFEXITED(nWaited) ? WEXITSTATUS(nWaited) : -1;
+}
+} // namespace
 
 std::string Utf8(const char8_t* pszText) {
     return reinterpret_cast<const char*>(pszText);
@@ -31,7 +42,7 @@ CRun CProgram::Shell(const std::string& strCommand) const {
                                       m_folder.Path("stderr") + "' </dev/null";
     const int nWaited = std::system(strRedirected.c_str()); // NOLINT: a shell is what is wanted
     CRun run;
-    run.m_nStatus = WIFEXITED(nWaited) ? WEXITSTATUS(nWaited) : -1;
+    run.m_nStatus = ExitStatus(nWaited);
     run.m_strOut = m_folder.Read("stdout");
     run.m_strErrors = m_folder.Read("stderr");
     return run;
@@ -58,6 +69,41 @@ std::string CProgram::Sql(const std::string& strDatabase, const std::string& str
     std::string strStatement;
     EXPECT_TRUE(Utf8ToGbk(strSql, &strStatement));
     return RowsText(*pDatabase->Query(strStatement));
+}
+
+CTvcadSession::CTvcadSession(const CProgram& program)
+    : m_folder(program.Folder())
+    , m_pipe(popen((TERVO_BIN "/tvcad --root \"$ROOT\" -s - >'" + m_folder.Path(g_pSessionOutput) + "' 2>'" +
+                    m_folder.Path(g_pSessionErrors) + "'")
+                       .c_str(),
+                   "w"), // NOLINT: a shell is what is wanted
+             &pclose) {}
+
+void CTvcadSession::Say(const std::string& strLines) {
+    EXPECT_NE(std::fputs(strLines.c_str(), m_pipe.get()), EOF);
+    EXPECT_EQ(std::fflush(m_pipe.get()), 0);
+}
+
+void CTvcadSession::AwaitPrompt(const std::string& strPrompt) {
+    std::string strOut;
+    for (int nTry = 0; nTry < 12000; ++nTry) {
+        strOut = m_folder.Read(g_pSessionOutput);
+        const std::size_t nAt = strOut.find(strPrompt, m_nAwaited);
+        if (nAt != std::string::npos) {
+            m_nAwaited = nAt + strPrompt.size();
+            return;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    ADD_FAILURE() << strPrompt << " was not asked: " << strOut;
+}
+
+CRun CTvcadSession::End() {
+    CRun run;
+    run.m_nStatus = ExitStatus(pclose(m_pipe.release()));
+    run.m_strOut = m_folder.Read(g_pSessionOutput);
+    run.m_strErrors = m_folder.Read(g_pSessionErrors);
+    return run;
 }
 
 std::string RowsText(const CDbCursor& rows) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -43,6 +45,27 @@ public:
 
 private:
     CTempFolder m_folder;
+};
+
+/// `tvcad` at work on lines that a test says one by one, as at a terminal; prompts and answers stand in its
+/// output.
+class CTvcadSession {
+public:
+    explicit CTvcadSession(const CProgram& program);
+
+    /// Lines of a script, UTF-8, each with its end.
+    void Say(const std::string& strLines);
+    /// Returns once the program has asked this since the last such wait, and waits for the answer.
+    void AwaitPrompt(const std::string& strPrompt);
+    /// Says nothing more, and gives what the run gave once the program has ended.
+    CRun End();
+
+private:
+    using CPipe = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+    const CTempFolder& m_folder;
+    CPipe m_pipe;
+    std::size_t m_nAwaited = 0; ///< so much of the output has been waited for
 };
 
 /// The rows of a cursor in UTF-8: fields joined by '|', NULL as "-", each row with a line end.
