@@ -3,10 +3,43 @@
 #include "tests/support/drawing.h"
 #include "tests/support/project.h"
 
+#include <cstdlib>
 #include <ctime>
 #include <gtest/gtest.h>
 
 namespace {
+/// Makes it noon of a day, by a time zone that lies so far from Greenwich.
+class CLocalDay {
+public:
+    CLocalDay(const CTempFolder& folder, int nYear, int nMonth, int nDay) {
+        std::tm noon{};
+        noon.tm_year = nYear - 1900;
+        noon.tm_mon = nMonth - 1;
+        noon.tm_mday = nDay;
+        noon.tm_hour = 12;
+        setenv("TZ", (":" + folder.Write("zone", Zone(timegm(&noon) - std::time(nullptr)))).c_str(), 1);
+        tzset();
+    }
+    ~CLocalDay() {
+        unsetenv("TZ");
+        tzset();
+    }
+    CLocalDay(const CLocalDay&) = delete;
+    CLocalDay& operator=(const CLocalDay&) = delete;
+
+private:
+    /// A zone file with one type of local time and no change of it.
+    static std::string Zone(std::time_t nOffset) {
+        std::string strZone("TZif");
+        strZone.append(16, '\0');                   // version 1
+        for (const int nCount : {0, 0, 0, 0, 1, 2}) // types: one; characters of its name
+            strZone.append({0, 0, 0, static_cast<char>(nCount)});
+        for (const int nShift : {24, 16, 8, 0})
+            strZone += static_cast<char>(nOffset >> nShift);
+        return strZone + std::string("\0\0X\0", 4); // no summer time, and the name
+    }
+};
+
 class WriteBack : public testing::Test {
 protected:
     CTestDrawing m_drawing;
@@ -64,18 +97,19 @@ TEST_F(WriteBack, StoresADrainedTestFromItsTotalFields) {
 TEST_F(WriteBack, WritesTodayWithoutLeadingZeros) {
     m_project.AddMethod("ZK1", "1-1", g_pMethodUU);
     m_chart.m_strSYFF = g_pMethodUU;
-    std::tm before{}, after{};
-    std::time_t now = std::time(nullptr);
-    localtime_r(&now, &before);
+    const CLocalDay day(m_project.m_root, 2024, 3, 7);
     EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
-    now = std::time(nullptr);
-    localtime_r(&now, &after);
-    const auto text = [](const std::tm& day) {
-        return std::to_string(day.tm_year + 1900) + '.' + std::to_string(day.tm_mon + 1) + '.' +
-               std::to_string(day.tm_mday);
-    };
-    const std::string strStored = m_project.Query("SELECT SYRQ FROM z_c_SanZhou");
-    EXPECT_TRUE(strStored == text(before) || strStored == text(after)) << strStored;
+    EXPECT_EQ(m_project.Query("SELECT SYRQ FROM z_c_SanZhou"), "2024.3.7");
+}
+
+TEST_F(WriteBack, OfAnUnknownMethodStoresTheDateAndNoValue) {
+    m_project.AddMethod("ZK1", "1-1", "other");
+    m_project.Execute("UPDATE z_c_SanZhou SET UUC=1, UUF=2, CUC=1, CUF=2, CUCE=3, CUFE=4, CDC=5, CDF=6");
+    m_chart.m_strSYFF = "other";
+    EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
+    EXPECT_EQ(m_project.Query("SELECT coalesce(UUC, UUF, CUC, CUF, CUCE, CUFE, CDC, CDF, 'none') FROM "
+                              "z_c_SanZhou WHERE SYRQ IS NOT NULL"),
+              "none");
 }
 
 TEST_F(WriteBack, KeepsKeysAndMethodAsTheyWere) {

@@ -17,8 +17,7 @@ const std::string g_strNoList = Utf8(u8"[Tervo] 数据库z_c_SanZhouCSXM打开�
 TEST(BrenFailures, WithoutAProjectItSaysSoAndTheNextCommandWorks) {
     const CBrenProject project(g_arOneSample);
     project.m_program.Do("close --root \"$ROOT\"");
-    const CRun run = project.m_program.Tvcad("SETVAR SDI 1\nBREN\n" + g_strNext + project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run = project.Run("SETVAR SDI 1\nBREN\n" + g_strNext + project.Dump());
     EXPECT_EQ(run.m_strOut, Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能！\n"));
     EXPECT_EQ(Classes(project.Entities()), "Line");
     const CJson dump = CJson::parse(project.m_program.Folder().Read("dump.json"));
@@ -29,8 +28,7 @@ TEST(BrenFailures, WithoutTheDataManagerItSaysSoAndTheNextCommandWorks) {
     const CBrenProject project(g_arOneSample);
     project.m_program.Do("close --root \"$ROOT\"");
     EXPECT_EQ(project.m_program.Shell("sed -i 's/^GCSY=.*/GCSY=1/' \"$ROOT/Project.ini\"").m_nStatus, 0);
-    const CRun run = project.m_program.Tvcad("BREN\n" + g_strNext + project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run = project.Run("BREN\n" + g_strNext + project.Dump());
     EXPECT_EQ(run.m_strOut, Utf8(u8"[Tervo] 请首先启动【数据管理】并打开工程，再重试此功能!\n"));
     EXPECT_EQ(Classes(project.Entities()), "Line");
 }
@@ -55,12 +53,11 @@ TEST(BrenFailures, ADatabaseThatGoesAwayAtThePointPromptLeavesTheBegunSheetAndCo
 }
 
 TEST(BrenFailures, ReadingsThatGoAwayBetweenTwoSamplesLeaveTheFirstChartAndItsValues) {
-    const CBrenProject project({{"1", "1-1"}, {"1", "1-2"}, {"1", "1-3"}});
+    const CBrenProject project(CSamples{{"1", "1-1"}, {"1", "1-2"}, {"1", "1-3"}});
     project.Sql("CREATE TRIGGER goes AFTER UPDATE ON z_c_SanZhou WHEN new.QYBH = '1-1' BEGIN "
                 "DELETE FROM z_c_SanZhouCSXM WHERE QYBH > '1-1'; END");
-    const CRun run = project.m_program.Tvcad("BREN\n" + Selection("1", "1-1 1-2 1-3") + "0,0\n" + g_strNext +
-                                             project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run =
+        project.Run("BREN\n" + Selection("1", "1-1 1-2 1-3") + "0,0\n" + g_strNext + project.Dump());
     EXPECT_EQ(run.m_strOut, g_strAllRead + g_strNoRows + g_strFaultyData);
     EXPECT_EQ(Classes(project.Entities()), "BlockReference CBRENChart Text Text BlockReference Line");
     EXPECT_EQ(project.Sql("SELECT QYBH, UUC IS NULL FROM z_c_SanZhou"), "1-1|0\n1-2|1\n1-3|1\n");
@@ -68,15 +65,13 @@ TEST(BrenFailures, ReadingsThatGoAwayBetweenTwoSamplesLeaveTheFirstChartAndItsVa
 }
 
 TEST(BrenFailures, ATableThatFailsBetweenTwoSamplesLeavesTheFirstChartAndItsValues) {
-    const CBrenProject project({{"1", "1-1"}, {"1", "1-2"}});
+    const CBrenProject project(CSamples{{"1", "1-1"}, {"1", "1-2"}});
     project.Sql("ALTER TABLE z_c_SanZhouCSXM RENAME TO readings");
     // A number without a positive counterpart, once the first sample's date stands.
     project.Sql(
         "CREATE VIEW z_c_SanZhouCSXM AS SELECT * FROM readings WHERE (SELECT "
         "max(abs(CASE WHEN SYRQ IS NULL THEN 0 ELSE -9223372036854775808 END)) FROM z_c_SanZhou) = 0");
-    const CRun run =
-        project.m_program.Tvcad("BREN\n" + Selection("1", "1-1 1-2") + "0,0\n" + g_strNext + project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run = project.Run("BREN\n" + Selection("1", "1-1 1-2") + "0,0\n" + g_strNext + project.Dump());
     EXPECT_EQ(run.m_strOut, g_strAllRead + g_strNoReadings + g_strFaultyData);
     EXPECT_EQ(Classes(project.Entities()), "BlockReference CBRENChart Text Text BlockReference Line");
     EXPECT_EQ(project.Sql("SELECT QYBH, UUC IS NULL FROM z_c_SanZhou"), "1-1|0\n1-2|1\n");
@@ -110,10 +105,9 @@ TEST(BrenFailures, ADatabaseHeldByAnotherProgramIsReportedAndWorksOnceItIsFree) 
 }
 
 TEST(BrenFailures, ACancelAtThePointPromptLeavesTheMarksAndNothingElse) {
-    const CBrenProject project({{"1", "1-1"}, {"1", "1-2"}});
-    const CRun run = project.m_program.Tvcad("BREN\n" + Selection("1", "1-1") + "cancel\n" + g_strNext +
-                                             project.Dump() + "BREN\nshow\ncancel\n");
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CBrenProject project(CSamples{{"1", "1-1"}, {"1", "1-2"}});
+    const CRun run = project.Run("BREN\n" + Selection("1", "1-1") + "cancel\n" + g_strNext + project.Dump() +
+                                 "BREN\nshow\ncancel\n");
     EXPECT_EQ(Classes(project.Entities()), "Line");
     EXPECT_TRUE(project.Results().at(0)["SYRQ"].is_null());
     EXPECT_EQ(project.Marks("SYQXGC11"), "1-1");
@@ -124,16 +118,14 @@ TEST(BrenFailures, ACancelAtThePointPromptLeavesTheMarksAndNothingElse) {
 
 TEST(BrenFailures, AnEmptyAnswerAtThePointPromptIsNoCancel) {
     const CBrenProject project(g_arOneSample);
-    const CRun run = project.m_program.Tvcad("BREN\n" + Selection("1", "1-1") + "\n" + project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run = project.Run("BREN\n" + Selection("1", "1-1") + "\n" + project.Dump());
     EXPECT_EQ(Classes(project.Entities()), "BlockReference CBRENChart Text Text");
     EXPECT_EQ(project.Entities()[0]["position"], CJson({0.0, 0.0, 0.0}));
 }
 
 TEST(BrenFailures, ACancelledDialogLeavesNothing) {
     const CBrenProject project(g_arOneSample);
-    const CRun run = project.m_program.Tvcad("BREN\nselect 1011 1-1\ncancel\n" + g_strNext + project.Dump());
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    const CRun run = project.Run("BREN\nselect 1011 1-1\ncancel\n" + g_strNext + project.Dump());
     EXPECT_EQ(run.m_strOut, "");
     EXPECT_EQ(Classes(project.Entities()), "Line");
     EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");

@@ -1,30 +1,67 @@
 #include "tests/road/bren_project.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
 
-CBrenProject::CBrenProject(const std::vector<CTestSample>& samples, int nStandard) {
-    std::string strSamples = "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYSY,QYYX,SYFF\n";
-    std::string strLayers = "ZKBH,TCCDSD,TCHD,TCMC\n";
-    std::string strReadings =
-        "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
+namespace {
+/// The rows of a set's file; with strStart in place of the first nColumns columns of each.
+std::string RowsOfFile(const std::string& strSet, const char* pFile, const std::string& strStart,
+                       int nColumns) {
+    std::ifstream file(TERVO_TEST_DATA "/readings/" + strSet + "/" + pFile);
+    std::string strRow, strRows;
+    std::getline(file, strRow); // the header
+    while (std::getline(file, strRow)) {
+        for (int i = 0; i < nColumns; i++)
+            strRow.erase(0, strRow.find(',') + 1);
+        strRows += strStart + "," + strRow + "\n";
+    }
+    EXPECT_NE(strRows, "") << strSet;
+    return strRows;
+}
+} // namespace
+
+CImportRows RowsOf(const CSamples& samples) {
+    CImportRows rows;
     std::set<std::string> boreholes;
     for (const CTestSample& sample : samples) {
         const std::string strKey = sample.m_strZKBH + "," + sample.m_strQYBH + ",";
-        strSamples += strKey + "1,0.2,24,12,28," + sample.m_strSYFF + "\n";
-        strReadings += strKey + "1,1,100,80,39.1,1,0,200,500,0,0,0,2\n";
-        strReadings += strKey + "2,1,200,80,39.1,1,0,300,500,0,0,0,2\n";
+        rows.m_strSamples += strKey + "1,0.2,24,0,12,28," + sample.m_strSYFF + "\n";
+        rows.m_strReadings += strKey + "1,1,100,80,39.1,1,0,200,500,0,0,0,2\n";
+        rows.m_strReadings += strKey + "2,1,200,80,39.1,1,0,300,500,0,0,0,2\n";
         if (boreholes.insert(sample.m_strZKBH).second)
-            strLayers += sample.m_strZKBH + ",15,15," + Utf8(u8"粘土") + "\n";
+            rows.m_strLayers += sample.m_strZKBH + ",15,15," + Utf8(u8"粘土") + "\n";
     }
+    return rows;
+}
+
+CImportRows RowsOf(const CMeasuredSamples& samples) {
+    CImportRows rows;
+    std::set<std::string> boreholes;
+    for (const CMeasuredSample& sample : samples) {
+        const std::string strKey = sample.m_strZKBH + "," + sample.m_strQYBH;
+        rows.m_strSamples += RowsOfFile(sample.m_strSet, "samples.csv", strKey, 2);
+        rows.m_strReadings += RowsOfFile(sample.m_strSet, "readings.csv", strKey, 2);
+        if (boreholes.insert(sample.m_strZKBH).second)
+            rows.m_strLayers += RowsOfFile(sample.m_strSet, "layers.csv", sample.m_strZKBH, 1);
+    }
+    return rows;
+}
+
+CBrenProject::CBrenProject(const CImportRows& rows, int nStandard) {
     const CTempFolder& folder = m_program.Folder();
+    folder.Write("samples.csv", "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
+    folder.Write("layers.csv", "ZKBH,TCCDSD,TCHD,TCMC\n" + rows.m_strLayers);
+    folder.Write("readings.csv",
+                 "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
+                     rows.m_strReadings);
     m_program.Do("init \"$ROOT\"");
     m_program.Do("new --root \"$ROOT\" --number GC1 --name test --standard " + std::to_string(nStandard));
     EXPECT_EQ(m_program
-                  .Tvdata("import --root \"$ROOT\" --number GC1 '" + folder.Write("samples.csv", strSamples) +
-                          "' '" + folder.Write("layers.csv", strLayers) + "' '" +
-                          folder.Write("readings.csv", strReadings) + "'")
-                  .m_nStatus,
+                  .Shell("cd '" + folder.Path() +
+                         "' && $T import --root \"$ROOT\" --number GC1 samples.csv "
+                         "layers.csv readings.csv")
+                  .m_nStatus, // not what it says of an unknown method
               0);
     m_program.Do("open --root \"$ROOT\" --number GC1");
 }
@@ -36,6 +73,12 @@ void CBrenProject::SetLockTimeout(int nMilliseconds) const {
                          "|\" \"$ROOT/Project.ini\" && grep -q 'Lock Timeout' \"$ROOT/Project.ini\"")
                   .m_nStatus,
               0);
+}
+
+CRun CBrenProject::Run(const std::string& strScript) const {
+    CRun run = m_program.Tvcad(strScript);
+    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    return run;
 }
 
 CJson CBrenProject::Entities() const {

@@ -20,19 +20,35 @@ inline const std::string g_strAllRead = g_strReading + g_strSampleRead + g_strLa
 inline const std::string g_strFaultyData = Utf8(u8"[Tervo] 三轴剪切试验初始数据错误!\n");
 inline const std::string g_strPointPrompt = Utf8(u8"请指定三轴剪切曲线BREN_的左下插入点:");
 
-/// A sample of a project made for a test.
+/// A sample with two specimens, a reading of each.
 struct CTestSample {
     std::string m_strZKBH, m_strQYBH;
     std::string m_strSYFF = g_strUU;
 };
+using CSamples = std::vector<CTestSample>;
+inline const CSamples g_arOneSample{CTestSample{"1", "1-1"}};
 
-inline const std::vector<CTestSample> g_arOneSample{CTestSample{"1", "1-1"}};
+/// A measured sample under a number of the test's own: the one of a set below tests/data/readings.
+struct CMeasuredSample {
+    std::string m_strZKBH, m_strQYBH, m_strSet;
+};
+using CMeasuredSamples = std::vector<CMeasuredSample>;
+
+/// What is imported into a project: CSV, UTF-8, without the header lines.
+struct CImportRows {
+    std::string m_strSamples, m_strLayers, m_strReadings;
+};
+/// The rows of samples, each borehole in one layer.
+CImportRows RowsOf(const CSamples& samples);
+CImportRows RowsOf(const CMeasuredSamples& samples);
 
 /// Project GC1, GCSY 1, running.
 class CBrenProject {
 public:
-    /// With two specimens of each sample, a reading of each, under a layer as thick as the borehole.
-    explicit CBrenProject(const std::vector<CTestSample>& samples, int nStandard = 0);
+    template <class Sample>
+    explicit CBrenProject(const std::vector<Sample>& samples, int nStandard = 0)
+        : CBrenProject(RowsOf(samples), nStandard) {}
+    CBrenProject(const CImportRows& rows, int nStandard);
 
     /// Runs a statement on the project's database; see CProgram::Sql.
     std::string Sql(const std::string& strSql) const { return m_program.Sql(m_strDatabase, strSql); }
@@ -40,6 +56,8 @@ public:
     void SetLockTimeout(int nMilliseconds) const;
     std::string DatabasePath() const { return m_program.Root() + "/" + m_strDatabase; }
 
+    /// Runs `tvcad` on a script that it comes to the end of.
+    CRun Run(const std::string& strScript) const;
     /// A script line that writes the drawing to the file that Entities then reads.
     std::string Dump() const { return "DUMP " + m_program.Folder().Path("dump.json") + "\n"; }
     /// Model space as it was dumped last.
