@@ -10,10 +10,6 @@
 
 #include <memory>
 
-namespace {
-constexpr const char* g_pTextStyle = "QM_PMT_BTFont";
-} // namespace
-
 CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, const CBRENDlg& dialog, CString strGCBH)
     : m_pDatabase(pDatabase)
     , m_dialog(dialog)
@@ -33,7 +29,7 @@ int CSheetMaker::PlaceGroup(const CArray<QYPropty>& samples, const AcGePoint3d& 
 
 int CSheetMaker::PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& ptCorner, int nFirst) {
     m_block.AddReference(SheetBlockPoint(ptCorner));
-    CreateTextStyleFromIni(g_pTextStyle, m_idTextStyle, m_pDatabase);
+    CreateTextStyleFromIni(g_pSheetTextStyle, m_idTextStyle, m_pDatabase);
     m_strLabel.Empty();
     m_strMethod.Empty();
     const AcGePoint3d ptFirst = FirstChartPoint(ptCorner, m_dialog.m_nGCBZ);

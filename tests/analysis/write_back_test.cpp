@@ -133,6 +133,17 @@ TEST_F(WriteBack, FailsWithABoxWhenTheTableCannotBeOpened) {
     EXPECT_EQ(m_project.Boxes(), (std::vector<std::string>{"不能打开三轴剪切试验表!请检查!"}));
 }
 
+TEST_F(WriteBack, CountsAStoreThatTheDatabaseRefusesAsDone) {
+    m_project.AddMethod("ZK1", "1-1", g_pMethodUU);
+    m_project.Execute("CREATE TRIGGER refuses BEFORE UPDATE ON z_c_SanZhou BEGIN SELECT RAISE(ABORT, 'no'); "
+                      "END");
+    m_chart.m_strSYFF = g_pMethodUU;
+    EXPECT_EQ(m_chart.StoreAdoptedValues(), 1);
+    EXPECT_EQ(m_project.Query("SELECT count(*) FROM z_c_SanZhou WHERE UUC IS NULL"), "1");
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
+    EXPECT_TRUE(m_project.Boxes().empty());
+}
+
 TEST_F(WriteBack, IsCheckedAgainstTheProjectsNumber) {
     m_project.Execute("insert into x_GongCheng values(1,'GC-1','工程',0,NULL)");
     m_chart.m_strGCBH = "GC-1";
@@ -146,4 +157,18 @@ TEST_F(WriteBack, IsCheckedAgainstTheProjectsNumber) {
     EXPECT_EQ(g_bChartDataChanged, 0);
     EXPECT_EQ(m_project.Boxes(), std::vector<std::string>{"该工程工程编号已被修改,数据无法入库!"});
     EXPECT_EQ(m_drawing.m_strPrinted, "\n数据存储失败!");
+}
+
+TEST_F(WriteBack, IsRefusedWhereTheProjectIsGone) {
+    m_chart.m_strGCBH = "GC-1";
+    g_bChartDataChanged = 1;
+    EXPECT_EQ(m_chart.CheckProjectForStore(), 0);
+    EXPECT_EQ(g_bChartDataChanged, 0);
+    g_bChartDataChanged = 1;
+    m_project.Execute("drop table x_GongCheng");
+    EXPECT_EQ(m_chart.CheckProjectForStore(), 0);
+    EXPECT_EQ(g_bChartDataChanged, 0);
+    EXPECT_EQ(m_project.Boxes(), (std::vector<std::string>{"打开工点信息数据表中不存在该工程!",
+                                                           "不能打开工点信息数据表,请检查数据!"}));
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n数据存储失败!\n数据存储失败!");
 }

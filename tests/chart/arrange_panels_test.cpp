@@ -77,6 +77,17 @@ TEST(ArrangePanels, HangsALowGridBesideTheSummaryTable) {
     EXPECT_DOUBLE_EQ(chart.m_ptMohrOrigin.y, chart.m_ptSummaryOrigin.y - (48.0 - 40.0) / 2.0 - 40.0);
 }
 
+TEST(ArrangePanels, StacksTheHigherTablesOfAnUndrainedTest) {
+    CTestDrawing drawing;
+    CBRENChart chart;
+    Prepare(chart, g_pMethodCU, 5, 6); // a grid lower than the summary table
+    chart.ArrangePanels();
+    const double dAir = (257.0 - 15.0 - 80.0 - 64.0 - 86.0) / 4.0;
+    EXPECT_DOUBLE_EQ(chart.m_ptCurveOrigin.y, g_dBaseY - 15.0 - dAir - 80.0);
+    EXPECT_DOUBLE_EQ(chart.m_ptSummaryOrigin.y, chart.m_ptTableOrigin.y - dAir - 86.0);
+    EXPECT_DOUBLE_EQ(chart.m_ptMohrOrigin.y, chart.m_ptSummaryOrigin.y - (64.0 - 60.0) / 2.0 - 60.0);
+}
+
 TEST(ArrangePanels, StacksWhenTheWidthIsExactlyUsedUp) {
     CTestDrawing drawing;
     CBRENChart chart; // 83 + 75 + 18 is 176
@@ -111,6 +122,22 @@ TEST(ArrangePanels, TurnsTheAngleIntoDegreesAndSeedsTheValueSets) {
     EXPECT_EQ(chart.m_dAdoptC, chart.m_dGraphC);
     EXPECT_EQ(chart.m_dCalcCEff, 0.0);
     EXPECT_EQ(g_bChartDataChanged, 0);
+}
+
+TEST(ArrangePanels, SeedsTheEffectiveSetOfAnUndrainedTestFromItsOwnLine) {
+    CTestDrawing drawing;
+    CBRENChart chart;
+    Prepare(chart, g_pMethodCU, 3, 6);
+    chart.m_dGraphPhiEff = 0.4;
+    chart.m_dGraphCEff = 10.0;
+    chart.ArrangePanels();
+    EXPECT_NEAR(chart.m_dGraphPhiEff, 0.4 / 3.1415926 * 180.0, 1e-9);
+    EXPECT_NEAR(chart.m_dGraphCEff, 10.0, 1e-9);
+    EXPECT_EQ(chart.m_dCalcPhiEff, chart.m_dGraphPhiEff);
+    EXPECT_EQ(chart.m_dAdoptPhiEff, chart.m_dGraphPhiEff);
+    EXPECT_EQ(chart.m_dCalcCEff, chart.m_dGraphCEff);
+    EXPECT_EQ(chart.m_dAdoptCEff, chart.m_dGraphCEff);
+    EXPECT_NEAR(chart.m_dAdoptC, 20.0, 1e-9);
 }
 
 TEST(ArrangePanels, LaysTheLineOfTooFewCirclesOnTheSigmaAxis) {

@@ -122,7 +122,10 @@ TEST_F(SheetMaker, PutsOneChartOfStandardTwoOnOneSheetWithItsStrip) {
     ASSERT_EQ(Place(2), 1);
     ASSERT_EQ(Bases().size(), 1U);
     EXPECT_TRUE(Bases()[0] == AcGePoint3d(13, 267, 0));
-    EXPECT_EQ(Texts().back(), "120,13 三轴剪切试验成果图");
+    EXPECT_EQ(BlockPoints().size(), 1U);
+    // The dialog shows none of unit, tester, checker and date.
+    EXPECT_EQ(Texts(),
+              (CTexts{"28,251 试样编号：ZK1-1-1", "0,0 不固结不排水剪", "120,13 三轴剪切试验成果图"}));
     EXPECT_EQ(m_drawing.m_strPrinted, "\n缺图框文件gltka3.dwg!");
 }
 

@@ -70,3 +70,9 @@ TEST_F(SheetTexts, NameASupportDrawingThatIsNotThereWithoutItsFolders) {
     InsertSupportBlock("C:\\somewhere\\strip.dwg");
     EXPECT_EQ(m_drawing.m_strPrinted, "\n缺图框文件strip.dwg!");
 }
+
+TEST_F(SheetTexts, SayThatTheSuitesFolderCannotBeHad) {
+    SetInstallationRoot(m_project.Root() + "/none");
+    InsertSupportBlock("strip.dwg");
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n读取路径出错!");
+}

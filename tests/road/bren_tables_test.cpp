@@ -14,15 +14,13 @@ const CSamples g_arTwoSamples{{"1", "1-1"}, {"1", "1-2"}};
 
 /// One run of BREN for samples of borehole 1, with a dump.
 CRun Generate(const CBrenProject& project, const std::string& strSamples = "1-1") {
-    CRun run = project.Run("BREN\n" + Selection("1", strSamples) + "0,0\n" + project.Dump());
-    return run;
+    return project.Run("BREN\n" + Selection("1", strSamples) + "0,0\n" + project.Dump());
 }
 
 /// The same where BREN ends with its dialog, so that no point is asked for.
 CRun Confirm(const CBrenProject& project) {
     CRun run = project.Run("BREN\n" + Selection("1", "1-1") + project.Dump());
     EXPECT_EQ(Classes(project.Entities()), "");
-    EXPECT_TRUE(project.Results().at(0)["SYRQ"].is_null());
     return run;
 }
 } // namespace
@@ -32,6 +30,14 @@ TEST(BrenTables, AMissingMethodRowEndsTheCommandWithoutAMark) {
     project.Sql("DELETE FROM z_c_SanZhou WHERE QYBH = '1-2'");
     // once before the page is shown, once when it lists the borehole, once when it is chosen again
     EXPECT_EQ(Confirm(project).m_strOut, g_strNoMethodRow + g_strNoMethodRow + g_strNoMethodRow + "\n");
+    EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");
+}
+
+TEST(BrenTables, AMethodTableThatIsGoneEndsTheCommand) {
+    const CBrenProject project(g_arOneSample);
+    project.Sql("DROP TABLE z_c_SanZhou");
+    const std::string strBox = Utf8(u8"[Tervo] 数据库z_c_SanZhou打开错误!\n");
+    EXPECT_EQ(Confirm(project).m_strOut, strBox + strBox + strBox);
     EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");
 }
 
@@ -56,6 +62,13 @@ TEST(BrenTables, ASampleThatIsNotInTheRegisterEndsTheCommandWithoutAMark) {
     const CBrenProject project(g_arOneSample);
     project.Sql("DELETE FROM z_c_QuYang");
     EXPECT_EQ(Confirm(project).m_strOut, g_strReading + Utf8(u8"\n数据库z_c_QuYang数据不全!\n"));
+    EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");
+}
+
+TEST(BrenTables, ARegisterThatIsGoneEndsTheCommandWithoutAMark) {
+    const CBrenProject project(g_arOneSample);
+    project.Sql("DROP TABLE z_c_QuYang");
+    EXPECT_EQ(Confirm(project).m_strOut, g_strReading + Utf8(u8"\n[Tervo] 数据库z_c_QuYang打开有错误!\n"));
     EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");
 }
 
@@ -145,6 +158,7 @@ TEST(BrenTables, ASampleWithoutADepthEndsTheCommandThoughItIsMarked) {
                        u8"\n读取z_c_QuYang表数据失败!") +
                   g_strLayerRead);
     EXPECT_EQ(project.Marks("SYQXGC11"), "1-1");
+    EXPECT_TRUE(project.Results().at(0)["SYRQ"].is_null());
 }
 
 TEST(BrenTables, ASampleWithoutAThicknessIsDrawnFromItsLayerAllTheSame) {
@@ -167,6 +181,15 @@ TEST(BrenTables, IndicesThatCannotBeHadStayEmptyInTheChart) {
         texts.push_back({chart["m_strWater"], chart["m_strLiquidity"], chart["m_strPlasticity"]});
     EXPECT_EQ(texts,
               CJson({{"24.00", "0.75", "16.00"}, {"", "", "16.00"}, {"24.00", "", ""}, {"24.00", "", ""}}));
+}
+
+TEST(BrenTables, AFaultyReadingStopsTheCommandAtItsSample) {
+    const CBrenProject project(CSamples{{"1", "1-1"}, {"1", "1-2"}, {"1", "1-3"}});
+    project.Sql("UPDATE z_c_SanZhouCSXM SET CLHDS = -1 WHERE QYBH = '1-2'");
+    EXPECT_EQ(Generate(project, "all").m_strOut,
+              g_strAllRead + Utf8(u8"\n原始数据不正确导致出现不正常负值!\n") + g_strFaultyData);
+    EXPECT_EQ(Classes(project.Entities()), "BlockReference CBRENChart Text Text BlockReference");
+    EXPECT_EQ(project.Sql("SELECT QYBH, UUC IS NULL FROM z_c_SanZhou"), "1-1|0\n1-2|1\n1-3|1\n");
 }
 
 TEST(BrenTables, AReadingWithoutAValueCountsAsZero) {

@@ -72,12 +72,12 @@ std::string CProgram::Sql(const std::string& strDatabase, const std::string& str
 }
 
 CTvcadSession::CTvcadSession(const CProgram& program)
-    : m_folder(program.Folder())
-    , m_pipe(popen((TERVO_BIN "/tvcad --root \"$ROOT\" -s - >'" + m_folder.Path(g_pSessionOutput) + "' 2>'" +
-                    m_folder.Path(g_pSessionErrors) + "'")
-                       .c_str(),
-                   "w"), // NOLINT: a shell is what is wanted
-             &pclose) {}
+    : m_folder(program.Folder()) {
+    const std::string strOut = m_folder.Write(g_pSessionOutput, ""); // nothing of an earlier session
+    const std::string strCommand = TERVO_BIN "/tvcad --root \"$ROOT\" -s - >'" + strOut + "' 2>'" +
+                                   m_folder.Path(g_pSessionErrors) + "'";
+    m_pipe.reset(popen(strCommand.c_str(), "w")); // NOLINT: a shell is what is wanted
+}
 
 void CTvcadSession::Say(const std::string& strLines) {
     EXPECT_NE(std::fputs(strLines.c_str(), m_pipe.get()), EOF);

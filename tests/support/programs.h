@@ -64,7 +64,7 @@ private:
     using CPipe = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
     const CTempFolder& m_folder;
-    CPipe m_pipe;
+    CPipe m_pipe{nullptr, &pclose};
     std::size_t m_nAwaited = 0; ///< so much of the output has been waited for
 };
 
