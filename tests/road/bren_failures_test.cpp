@@ -12,6 +12,7 @@ const std::string g_strNext = "LINE 0,0 1,1\n";
 const std::string g_strNoRows = Utf8(u8"\n数据库z_c_SanZhouCSXM无初始数据!\n");
 const std::string g_strNoReadings = Utf8(u8"[Tervo] 数据库z_c_SanZhouCSXM打开有错误!\n");
 const std::string g_strNoList = Utf8(u8"[Tervo] 数据库z_c_SanZhouCSXM打开错误!\n");
+const std::string g_strRanOut = ": the input ran out before an answer that is still needed\n";
 } // namespace
 
 TEST(BrenFailures, WithoutAProjectItSaysSoAndTheNextCommandWorks) {
@@ -104,6 +105,18 @@ TEST(BrenFailures, ADatabaseHeldByAnotherProgramIsReportedAndWorksOnceItIsFree) 
     EXPECT_FALSE(project.Results().at(0)["UUC"].is_null());
 }
 
+TEST(BrenFailures, AStoreThatAnotherProgramHoldsUpIsToldAndTheChartStays) {
+    const CBrenProject project(g_arOneSample);
+    project.SetLockTimeout(50);
+    const auto pOther = OpenDbConnection("Provider=SQLite;Data Source=" + project.DatabasePath());
+    pOther->BeginTransaction(); // in which others read, but do not write
+    const CRun run = project.Run("BREN\n" + Selection("1", "1-1") + "0,0\n" + project.Dump());
+    pOther->RollbackTransaction();
+    EXPECT_EQ(run.m_strOut, g_strAllRead + "z_c_SanZhou 1 1-1: locked by another program, row not stored\n");
+    EXPECT_EQ(Classes(project.Entities()), "BlockReference CBRENChart Text Text");
+    EXPECT_TRUE(project.Results().at(0)["SYRQ"].is_null());
+}
+
 TEST(BrenFailures, ACancelAtThePointPromptLeavesTheMarksAndNothingElse) {
     const CBrenProject project(CSamples{{"1", "1-1"}, {"1", "1-2"}});
     const CRun run = project.Run("BREN\n" + Selection("1", "1-1") + "cancel\n" + g_strNext + project.Dump() +
@@ -135,6 +148,7 @@ TEST(BrenFailures, AScriptThatEndsInTheDialogEndsTheRunWithoutAMark) {
     const CBrenProject project(g_arOneSample);
     const CRun run = project.m_program.Tvcad("BREN\nselect 1011 1-1\n");
     EXPECT_EQ(run.m_nStatus, 3);
+    EXPECT_NE(run.m_strErrors.find(g_strRanOut), std::string::npos) << run.m_strErrors;
     EXPECT_EQ(run.m_strOut, "");
     EXPECT_EQ(project.Marks("SYQXGC11"), "(none)");
 }
@@ -143,7 +157,16 @@ TEST(BrenFailures, AScriptThatEndsAtThePointPromptEndsTheRunWithTheMark) {
     const CBrenProject project(g_arOneSample);
     const CRun run = project.m_program.Tvcad("BREN\n" + Selection("1", "1-1"));
     EXPECT_EQ(run.m_nStatus, 3);
+    EXPECT_NE(run.m_strErrors.find(g_strRanOut), std::string::npos) << run.m_strErrors;
     EXPECT_EQ(run.m_strOut, g_strAllRead);
     EXPECT_EQ(project.Marks("SYQXGC11"), "1-1");
     EXPECT_TRUE(project.Results().at(0)["SYRQ"].is_null());
+}
+
+TEST(BrenFailures, ACancelBeforeAllSamplesLeavesTheirMarks) {
+    const CBrenProject project(CSamples{{"1", "1-1"}, {"2", "2-1"}});
+    project.Run("BREN\ncheck 1063\nok\ncancel\n" + project.Dump());
+    EXPECT_EQ(Classes(project.Entities()), "");
+    EXPECT_EQ(project.Marks("SYQXGC1"), Utf8(u8"1@2@BR全部-全部试样"));
+    EXPECT_EQ(project.Marks("SYQXGC12"), "2-1");
 }

@@ -2,7 +2,6 @@
 
 #include "tests/road/bren_project.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -123,9 +122,8 @@ TEST(BrenTables, AStoreThatTheDatabaseRefusesLeavesTheChartAndTheOldValues) {
     project.Sql("UPDATE z_c_SanZhou SET UUC = 5");
     project.Sql("CREATE TRIGGER refuses BEFORE UPDATE ON z_c_SanZhou WHEN new.QYBH = '1-1' BEGIN "
                 "SELECT RAISE(ABORT, 'not now'); END");
-    const CRun run = Generate(project, "1-1 1-2");
-    EXPECT_EQ(run.m_strOut.find(g_strAllRead + "z_c_SanZhou 1 1-1: "), 0U) << run.m_strOut;
-    EXPECT_EQ(std::count(run.m_strOut.begin(), run.m_strOut.end(), '\n'), 6) << "one line: " << run.m_strOut;
+    EXPECT_EQ(Generate(project, "1-1 1-2").m_strOut,
+              g_strAllRead + "z_c_SanZhou 1 1-1: not now, row not stored\n");
     EXPECT_EQ(project.Charts().size(), 2U);
     EXPECT_EQ(project.Sql("SELECT QYBH, UUC = 5 FROM z_c_SanZhou"), "1-1|1\n1-2|0\n");
 }

@@ -253,33 +253,6 @@ TEST(Road, DrawsTheSameTwice) {
     EXPECT_EQ(ReadFile(road.File("sheet.json")), ReadFile(road.File("again.json")));
 }
 
-TEST(Road, TellsOfAStoreThatAnotherProgramsLockHeldUp) {
-    CRoad road("smith-exc4.4");
-    const CProgram& program = road.m_program;
-    // A short wait instead of the usual ten seconds, and another program that holds the database meanwhile.
-    EXPECT_EQ(
-        program
-            .Shell(
-                "sed -i \"s|^Connect=.*|Connect=Provider=SQLite;Data Source=$ROOT/Projects/GC1/project.db;"
-                "Lock Timeout=200|\" \"$ROOT/Project.ini\" && grep -q 'Lock Timeout' \"$ROOT/Project.ini\"")
-            .m_nStatus,
-        0);
-    const std::string strScript = program.Folder().Write(
-        "sheet.scr", "BREN\nselect 1010 1\nselect 1011 1-1\nok\n0,0\nDUMP " + road.File("sheet.json") + "\n");
-    const CRun run = program.Shell(
-        "db=$ROOT/Projects/GC1/project.db; mkfifo $ROOT/hold; sqlite3 $db < $ROOT/hold & exec 9> $ROOT/hold; "
-        "printf '.timeout 10000\\nBEGIN IMMEDIATE;\\n' >&9; " // it waits for the probe below
-        "while sqlite3 $db 'BEGIN IMMEDIATE; ROLLBACK;' 2>/dev/null; do sleep 0.05; done; '" TERVO_BIN
-        "/tvcad' --root $ROOT -q -s '" +
-        strScript + "'; status=$?; exec 9>&-; wait; exit $status");
-    EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
-    EXPECT_NE(run.m_strOut.find("z_c_SanZhou 1 1-1: locked by another program, row not stored"),
-              std::string::npos)
-        << run.m_strOut;
-    EXPECT_EQ(road.Chart()["class"], "CBRENChart"); // it stays
-    EXPECT_TRUE(road.Results().at(0)["CDC"].is_null());
-}
-
 TEST_P(RoadOnEngine, LeadsToTheSameValuesAndChart) {
     const auto outcome = [](const std::string& strConnect) {
         CRoad road("smith-exc4.4", strConnect);
