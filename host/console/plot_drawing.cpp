@@ -1,11 +1,10 @@
 #include "host/console/plot_drawing.h"
 
 #include "host/console/drawing_order.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/wide_names.h"
 #include "platform/windows/code_page.h"
-
-#include <deque>
 
 namespace {
 
@@ -47,28 +46,70 @@ double DotsPerInch() {
     return acedGetVar(L"PLOTDPI", &value) == RTNORM ? value.resval.rint : dUnlessSet;
 }
 
-/// The pictures of model space in database order, ready for a page.
+// Each reference to this block is the frame of a sheet.
+constexpr const wchar_t* g_pSheetBlock = L"BRMB";
+
+bool IsSheet(const AcDbEntity& entity) {
+    const auto* const pReference = AcDbBlockReference::cast(&entity);
+    if (!pReference) return false;
+    const CDbOpen<AcDbBlockTableRecord> block(pReference->blockTableRecord());
+    return block && SameName(block->Name(), g_pSheetBlock);
+}
+
+bool Meets(const AcDbExtents& extents, const CPageBox& page) {
+    return !extents.isEmpty() && extents.minPoint().x <= page.m_dRight &&
+           extents.maxPoint().x >= page.m_dLeft && extents.minPoint().y <= page.m_dTop &&
+           extents.maxPoint().y >= page.m_dBottom;
+}
+
+/// Model space in database order, ready for pages.
 class CPlottedDrawing {
 public:
     explicit CPlottedDrawing(AcDbDatabase& drawing) {
-        for (const AcDbObjectId& id : ModelSpaceEntities(drawing)) {
-            const CDbOpen<AcDbEntity> entity(id);
-            if (entity && entity->Picture()) Add(*entity.Get());
-        }
+        for (const AcDbObjectId& id : ModelSpaceEntities(drawing))
+            if (const CDbOpen<AcDbEntity> entity(id); entity) Add(*entity.Get());
     }
-    const std::vector<CPlotPicture>& Pictures() const { return m_arPictures; }
-    const AcDbExtents& Extents() const { return m_extents; }
+
+    /// One for each sheet; the whole drawing on one where there is no sheet. They point into this object.
+    std::vector<CPlotPage> Pages() const {
+        std::vector<CPlotPage> pages;
+        for (const CPageBox& box : m_arSheets)
+            pages.push_back(PageWith(box));
+        if (pages.empty()) pages.push_back(PageWith(SheetFor(m_extents)));
+        return pages;
+    }
 
 private:
+    struct CPlotted {
+        CDisplayList m_list;
+        Adesk::UInt16 m_nLayerColor;
+        AcDbExtents m_extents;
+    };
+
     void Add(const AcDbEntity& entity) {
+        if (IsSheet(entity)) AddSheet(*AcDbBlockReference::cast(&entity));
+        if (!entity.Picture()) return;
         const CLayerLook look = LookOf(entity.layerId());
-        m_arLists.push_back(WithLinetypesOf(look, *entity.Picture()));
-        m_arPictures.push_back({&m_arLists.back(), look.m_nColor});
-        m_extents.addExt(ExtentsOf(*entity.Picture()));
+        m_arPlotted.push_back(
+            {WithLinetypesOf(look, *entity.Picture()), look.m_nColor, ExtentsOf(*entity.Picture())});
+        m_extents.addExt(m_arPlotted.back().m_extents);
     }
 
-    std::deque<CDisplayList> m_arLists; // pages point into it
-    std::vector<CPlotPicture> m_arPictures;
+    void AddSheet(const AcDbBlockReference& reference) {
+        const AcDbExtents extents = reference.BlockExtents();
+        if (!extents.isEmpty()) m_arSheets.push_back(PageOf(extents));
+    }
+
+    CPlotPage PageWith(const CPageBox& box) const {
+        CPlotPage page{box, {}};
+        for (const CPlotted& plotted : m_arPlotted)
+            if (Meets(plotted.m_extents, box))
+                page.m_arPictures.push_back({&plotted.m_list, plotted.m_nLayerColor});
+        return page;
+    }
+
+    std::vector<CPlotted> m_arPlotted;
+    std::vector<CPageBox> m_arSheets;
     AcDbExtents m_extents;
 };
 
@@ -81,5 +122,5 @@ bool PlotDrawing(AcDbDatabase& drawing, CFonts& fonts, const std::filesystem::pa
     options.m_fnLinetype = [&drawing](const std::string& strName) { return DashesOf(drawing, strName); };
     options.m_dLinetypeScale = drawing.ltscale();
     options.m_dDotsPerInch = DotsPerInch();
-    return Plot({{SheetFor(plotted.Extents()), plotted.Pictures()}}, options, fonts, path, pReason);
+    return Plot(plotted.Pages(), options, fonts, path, pReason);
 }

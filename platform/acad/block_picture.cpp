@@ -91,13 +91,19 @@ Adesk::Boolean AcDbBlockReference::subWorldDraw(AcGiWorldDraw* pMode) {
     return Adesk::kTrue;
 }
 
-Acad::ErrorStatus AcDbBlockReference::subGetGeomExtents(AcDbExtents& extents) const {
+AcDbExtents AcDbBlockReference::BlockExtents() const {
     assertReadEnabled();
-    if (Picture()) return AcDbEntity::subGetGeomExtents(extents);
     AcDbExtents box;
     if (const CBlockWalk walk(m_idBlock); walk)
         for (const AcDbObjectId& id : ShownIds())
             AddExtents(id, blockTransform(), box);
+    return box;
+}
+
+Acad::ErrorStatus AcDbBlockReference::subGetGeomExtents(AcDbExtents& extents) const {
+    assertReadEnabled();
+    if (Picture()) return AcDbEntity::subGetGeomExtents(extents);
+    AcDbExtents box = BlockExtents();
     for (const AcDbObjectId& id : AttributeIds())
         AddExtents(id, AcGeMatrix3d(), box);
     if (box.isEmpty()) return Acad::eInvalidExtents;

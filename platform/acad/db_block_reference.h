@@ -30,6 +30,10 @@ public:
     /// eCannotScaleNonUniformly for what slants the block or takes it out of its plane; nothing changed then.
     Acad::ErrorStatus setBlockTransform(const AcGeMatrix3d& xform);
 
+    /// The box of what the reference shows of its block, its attributes left out; of a turned reference it
+    /// may be larger. Empty when the block shows nothing finite.
+    AcDbExtents BlockExtents() const;
+
     /// Makes a free attribute part of the drawing and of this reference, which must be in a drawing; it is
     /// open for writing afterwards. eNullObjectPointer, eAlreadyInDb, eNoDatabase.
     Acad::ErrorStatus appendAttribute(AcDbObjectId& id, AcDbAttribute* pAttribute);
@@ -44,8 +48,7 @@ protected:
     /// The entities of the block, its attribute definitions only if they are constant, then the attributes.
     /// A block is not shown within itself.
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
-    /// Those of the picture, or, before it is drawn, those of the block: then of a turned reference they may
-    /// be larger than what it shows.
+    /// Those of the picture, or, before it is drawn, those of the block and the attributes.
     Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const override;
     Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
     /// Free copies of what the reference shows; attributes and constant definitions become texts.

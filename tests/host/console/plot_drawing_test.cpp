@@ -8,6 +8,7 @@
 
 #include "host/console/redraw.h"
 #include "host/plot/headless.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_polyline.h"
 
 namespace {
@@ -30,13 +31,51 @@ protected:
     PlotDrawingTest(const PlotDrawingTest&) = delete;
     PlotDrawingTest& operator=(const PlotDrawingTest&) = delete;
 
-    std::string Svg() {
+    void PlotSvg() {
         CFonts fonts({});
         std::string reason;
         EXPECT_TRUE(PlotDrawing(m_drawing, fonts, m_folder / "a.svg", &reason)) << reason;
+    }
+    std::string TextOf(const std::string& strName) const {
         std::ostringstream text;
-        text << std::ifstream(m_folder / "a.svg").rdbuf();
+        text << std::ifstream(m_folder / strName).rdbuf();
         return text.str();
+    }
+    std::string Svg() {
+        PlotSvg();
+        return TextOf("a.svg");
+    }
+    bool IsThere(const std::string& strName) const { return std::filesystem::exists(m_folder / strName); }
+
+    AcDbObjectId Append(AcDbObjectId idBlock, AcDbEntity* pEntity) {
+        AcDbObjectId id;
+        const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
+        block->appendAcDbEntity(id, pEntity);
+        pEntity->close();
+        return id;
+    }
+    AcDbObjectId AddBlock(const wchar_t* name) {
+        AcDbObjectId id;
+        auto* const pBlock = new AcDbBlockTableRecord;
+        pBlock->setName(name);
+        CDbOpen<AcDbBlockTable>(m_drawing.blockTableId(), AcDb::kForWrite)->add(id, pBlock);
+        pBlock->close();
+        return id;
+    }
+    /// The block of a frame, an upright A4 sheet from the origin.
+    AcDbObjectId AddFrame(const wchar_t* name) {
+        const AcDbObjectId id = AddBlock(name);
+        auto* const pOutline = new AcDbPolyline;
+        for (const AcGePoint2d& corner : {AcGePoint2d(0, 0), {210, 0}, {210, 297}, {0, 297}})
+            pOutline->addVertexAt(pOutline->numVerts(), corner);
+        pOutline->setClosed(Adesk::kTrue);
+        Append(id, pOutline);
+        return id;
+    }
+    AcDbObjectId AddSheet(AcDbObjectId idBlock, double x) {
+        const AcDbObjectId id = Append(m_drawing.ModelSpaceId(), new AcDbBlockReference({x, 0, 0}, idBlock));
+        DrawChanged(m_drawing);
+        return id;
     }
 
     AcDbDatabase m_drawing;
@@ -81,4 +120,54 @@ TEST_F(PlotDrawingTest, AnEntityErasedIsNotPlotted) {
     const std::string before = Svg();
     CDbOpen<AcDbPolyline>(m_idLine, AcDb::kForWrite)->erase();
     EXPECT_NE(Svg(), before);
+}
+
+TEST_F(PlotDrawingTest, ADrawingWithSheetsHasAPageForEachWithWhatLiesOnIt) {
+    const AcDbObjectId idFrame = AddFrame(L"brmb"); // the line lies on the first sheet
+    AddSheet(idFrame, 0.0);
+    AddSheet(idFrame, 220.0);
+    PlotSvg();
+    EXPECT_FALSE(IsThere("a.svg"));
+    EXPECT_FALSE(IsThere("a-3.svg"));
+    const std::string first = TextOf("a-1.svg"), second = TextOf("a-2.svg");
+    for (const std::string& page : {first, second}) {
+        EXPECT_NE(page.find("width=\"210mm\" height=\"297mm\""), std::string::npos) << page;
+        EXPECT_NE(page.find("M0 297 L210 297 L210 0 L0 0"), std::string::npos) << page;
+    }
+    EXPECT_NE(first.find("M0 297 L100 297"), std::string::npos) << first;
+    EXPECT_EQ(second.find("M0 297 L100 297"), std::string::npos) << second;
+}
+
+TEST_F(PlotDrawingTest, AllOfADrawingIsOnOnePageWhereNoSheetHasExtents) {
+    const std::string plain = Svg();
+    AddSheet(AddBlock(L"BRMB"), 0.0);
+    EXPECT_EQ(Svg(), plain);
+    EXPECT_FALSE(IsThere("a-1.svg"));
+    AddSheet(AddFrame(L"FRAME"), 0.0);
+    Svg();
+    EXPECT_FALSE(IsThere("a-1.svg"));
+}
+
+TEST_F(PlotDrawingTest, ASheetErasedHasNoPage) {
+    const AcDbObjectId idFrame = AddFrame(L"BRMB");
+    AddSheet(idFrame, 0.0);
+    CDbOpen<AcDbBlockReference>(AddSheet(idFrame, 220.0), AcDb::kForWrite)->erase();
+    PlotSvg();
+    EXPECT_TRUE(IsThere("a.svg"));
+    EXPECT_FALSE(IsThere("a-1.svg"));
+}
+
+TEST_F(PlotDrawingTest, AnAttributeBesideItsSheetDoesNotWidenThePage) {
+    const AcDbObjectId idSheet = AddSheet(AddFrame(L"BRMB"), 0.0);
+    {
+        const CDbOpen<AcDbBlockReference> sheet(idSheet, AcDb::kForWrite);
+        auto* const pAttribute = new AcDbAttribute;
+        pAttribute->setPosition({300.0, 10.0, 0.0});
+        pAttribute->setTextString(L"ZK1");
+        sheet->appendAttribute(pAttribute);
+        pAttribute->close();
+    }
+    DrawChanged(m_drawing);
+    PlotSvg();
+    EXPECT_NE(TextOf("a.svg").find("width=\"210mm\" height=\"297mm\""), std::string::npos);
 }
