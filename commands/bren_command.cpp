@@ -10,21 +10,12 @@
 #include "platform/windows/profile.h"
 #include "ui/bren_dlg.h"
 
-#include <array>
-
 namespace {
 void ForceMultiDocument() {
     resbuf value;
     value.restype = RTSHORT;
     value.resval.rint = 0;
     acedSetVar(L"SDI", &value);
-}
-
-CString ProjectNumber() {
-    std::array<char, 1024> buffer{};
-    GetPrivateProfileStringA("Project", "GCBH", "", buffer.data(), static_cast<DWORD>(buffer.size()),
-                             g_strProjectIni);
-    return buffer.data();
 }
 
 Adesk::Int32 ProjectStandard() {
@@ -55,7 +46,7 @@ void BrenCommand() {
     ForceMultiDocument();
     const int nGCSY = GetProjectIndex();
     if (nGCSY < 0 || !CheckDataManager()) return;
-    const CString strGCBH = ProjectNumber();
+    const CString strGCBH = ReadProjectText("GCBH");
     const Adesk::Int32 nGCBZ = ProjectStandard();
 
     const CTemporaryResourceOverride resources(g_hModuleResources);

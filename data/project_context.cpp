@@ -13,6 +13,7 @@ CString g_strMarksIni;
 namespace {
 
 constexpr std::size_t g_nConnectionSize = 1024;
+constexpr std::size_t g_nProjectTextSize = 1024;
 
 /// What the data manager takes as: a module is going to use the project.
 constexpr UINT g_nUseProjectMessage = 2534;
@@ -29,6 +30,13 @@ int GetProjectIndex() {
     if (nGCSY >= 0) return nGCSY;
     ShowMessage("请首先启动【数据管理】并打开工程，再重试此功能！");
     return -1;
+}
+
+CString ReadProjectText(const char* pszKey) {
+    std::array<char, g_nProjectTextSize> szText{};
+    GetPrivateProfileStringA("Project", pszKey, "", szText.data(), static_cast<DWORD>(szText.size()),
+                             g_strProjectIni);
+    return szText.data();
 }
 
 CString GetDataManagerClass() {

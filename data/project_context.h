@@ -19,6 +19,10 @@ enum SuiteDb {
 /// The index (GCSY) of the running project; 0 is one. Without a project (negative) shows a box and gives -1.
 int GetProjectIndex();
 
+/// A text of the running project (section Project of its ini file), up to 1023 bytes; empty when there is
+/// none.
+CString ReadProjectText(const char* pszKey);
+
 /// The window class of the data manager by the installed edition (LOCALVER 0 to 4); empty for any other
 /// value.
 CString GetDataManagerClass();

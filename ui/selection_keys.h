@@ -5,9 +5,6 @@
 
 inline constexpr const char* g_pMarksSection = "CBRENDlg";
 
-/// A text of the running project (section Project), up to 1023 bytes; empty when there is none.
-CString ReadProjectText(const char* key);
-
 /// Key of the boreholes all of whose samples have charts.
 CString BoreholeMarksKey();
 /// Key of the samples of a borehole that have charts.

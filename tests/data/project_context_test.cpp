@@ -38,6 +38,14 @@ TEST_F(ProjectContext, AsksForAProjectWhenTheIndexIsNegativeOrMissing) {
     EXPECT_EQ(m_arBoxes, (CTexts{strAsked, strAsked, strAsked}));
 }
 
+TEST_F(ProjectContext, ReadsATextUpTo1023Bytes) {
+    EXPECT_EQ(ReadProjectText("GCBH"), CString());
+    SetProject("GCBH", "岩土-7");
+    EXPECT_EQ(ReadProjectText("GCBH"), CString("岩土-7"));
+    SetProject("GCBH", std::string(1100, 'x').c_str());
+    EXPECT_EQ(ReadProjectText("GCBH"), CString(std::string(1023, 'x')));
+}
+
 TEST_F(ProjectContext, NamesTheDataManagersWindowByTheEdition) {
     EXPECT_EQ(GetDataManagerClass(), CString("QMDBMANAGERE4"));
     for (const char* pszEdition : {"0", "1", "2", "3", "4"}) {
