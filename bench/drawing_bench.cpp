@@ -1,11 +1,10 @@
 // Where the drawing database spends its time: appending and opening entities, and filing charts, the latter
 // against copying the same bytes.
 
-#include "chart/chart_entity.h"
+#include "bench/sample_chart.h"
 #include "platform/acad/db_polyline.h"
 #include "platform/acad/memory_filer.h"
 #include "tests/support/drawing.h"
-#include "tests/support/readings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -60,25 +59,9 @@ BENCHMARK(OpenAndCloseEntities)
     ->Args({AcDb::kForWrite, 1})
     ->Unit(benchmark::kMillisecond);
 
-/// A chart as generation fills it, of the readings of a laboratory.
-void Fill(CBRENChart& chart) {
-    const std::string strSet = "karlsruhe-fine-sand-cu";
-    chart.m_strGCBH = "GC2024-017";
-    chart.m_strZKBH = "ZK12";
-    chart.m_strQYBH = "ZK12-3";
-    chart.m_strSYFF = MethodOf(strSet);
-    chart.m_strSoilName = "粉质黏土";
-    CReduction reduction(chart);
-    for (const CTestReading& reading : ReadingsOf(strSet))
-        reduction.AddReading(reading);
-    reduction.Finish();
-    for (int i = 0; i < 8; i++)
-        chart.m_saCells.Add("23.5");
-}
-
 CDbRecord ChartRecord() {
     CBRENChart chart;
-    Fill(chart);
+    FillSampleChart(chart);
     return RecordOf(chart, AcDb::kFileFiler);
 }
 
@@ -89,7 +72,7 @@ void SetBytes(benchmark::State& state, const CDbRecord& record) {
 
 void FileChartsOut(benchmark::State& state) {
     CBRENChart chart;
-    Fill(chart);
+    FillSampleChart(chart);
     while (state.KeepRunning())
         for (int i = 0; i < g_nCharts; i++)
             benchmark::DoNotOptimize(RecordOf(chart, AcDb::kFileFiler).m_arBytes.data());

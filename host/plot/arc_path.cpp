@@ -11,6 +11,11 @@ QPointF CPlaneArc::Tangent(double dAngle) const {
     return m_v * std::cos(dAngle) - m_u * std::sin(dAngle);
 }
 
+CPlaneArc CPlaneArc::Part(double dFrom, double dSweep) const {
+    const double dCos = std::cos(dFrom), dSin = std::sin(dFrom);
+    return {m_center, m_u * dCos + m_v * dSin, m_v * dCos - m_u * dSin, m_dRadius, dSweep};
+}
+
 std::optional<CPlaneArc> ArcOfBulge(const QPointF& from, const QPointF& to, double dBulge) {
     const QPointF chord = to - from;
     const double dChord = std::hypot(chord.x(), chord.y());

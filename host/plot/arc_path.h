@@ -12,6 +12,11 @@ struct CPlaneArc {
 
     QPointF At(double dAngle) const;
     QPointF Tangent(double dAngle) const; ///< in the sense of growing angle; length as u and v have it
+    /// A piece of the circle that begins at an angle of the arc.
+    CPlaneArc Part(double dFrom, double dSweep) const;
+    CPlaneArc Reversed() const { return Part(m_dSweep, -m_dSweep); }
+    /// The same angles on another circle about the centre.
+    CPlaneArc WithRadius(double dRadius) const { return {m_center, m_u, m_v, dRadius, m_dSweep}; }
 };
 
 /// The arc between two points with a bulge (tangent of a quarter of the angle); none for a straight piece, or

@@ -82,7 +82,23 @@ void AddOutline(QPainterPath& path, QPolygonF polygon) {
     path.closeSubpath();
 }
 
+/// An arc of one width all along. Its outline is turned as AddOutline turns polygons.
+void AddBand(QPainterPath& path, const CPlaneArc& arc, double dHalfWidth) {
+    const CPlaneArc forward = arc.m_dSweep < 0.0 ? arc.Reversed() : arc;
+    const CPlaneArc outer = forward.WithRadius(arc.m_dRadius + dHalfWidth);
+    const CPlaneArc inner = forward.WithRadius(std::max(0.0, arc.m_dRadius - dHalfWidth)).Reversed();
+    path.moveTo(outer.At(0.0));
+    AppendArc(path, outer);
+    path.lineTo(inner.At(0.0));
+    if (inner.m_dRadius > 0.0) AppendArc(path, inner);
+    path.closeSubpath();
+}
+
 void AddWide(QPainterPath& path, const CPiece& piece, double dFrom, double dTo) {
+    if (piece.m_arc && piece.m_dStartWidth == piece.m_dEndWidth) {
+        const double dSweep = piece.m_arc->m_dSweep;
+        return AddBand(path, piece.m_arc->Part(dFrom * dSweep, (dTo - dFrom) * dSweep), piece.HalfWidth(0.0));
+    }
     const int nSteps = piece.Steps(dTo - dFrom);
     QPolygonF polygon;
     for (int i = 0; i <= nSteps; ++i)

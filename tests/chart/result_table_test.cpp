@@ -31,6 +31,7 @@ void Reload(const CBRENChart& chart, CBRENChart& copy) {
 
 std::vector<std::string> Cells(const CBRENChart& chart) {
     std::vector<std::string> cells;
+    cells.reserve(static_cast<std::size_t>(chart.m_saCells.GetSize()));
     for (int i = 0; i < chart.m_saCells.GetSize(); i++)
         cells.emplace_back(chart.m_saCells[i].View());
     return cells;

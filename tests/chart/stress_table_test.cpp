@@ -70,7 +70,7 @@ TEST(StressTable, FillsItsRowsFromTheSecondColumnOn) {
     for (int nRow = 0; nRow < 6; nRow++) {
         for (int nColumn = 0; nColumn < 3; nColumn++) {
             const std::string strValue = std::to_string(nColumn * 6 + nRow + 1);
-            const auto nText = static_cast<std::size_t>(nRow * 3 + nColumn);
+            const int nText = nRow * 3 + nColumn;
             const double dLeft = g_x + 15.0 * (nColumn + 1);
             const double y = g_y - tops[nRow] - (nRow < 4 ? 4.0 : 5.0) - 1.5;
             EXPECT_EQ(world.m_arTexts[nText],

@@ -70,7 +70,7 @@ TEST(SummaryTable, TitlesItsRowsAndNamesTheSoilLast) {
     ASSERT_EQ(world.m_arTexts.size(), 3U + 6U + 1U) << "ends at φ";
     ASSERT_EQ(exploded.m_arTexts.size(), 10U);
     for (int i = 0; i < 6; i++) {
-        const auto nText = static_cast<std::size_t>(3 + i);
+        const int nText = 3 + i;
         EXPECT_EQ(world.m_arTexts[nText], Cell(g_arTitles[i], i, -5.0, 2.5, 2.5, 2.5));
         EXPECT_EQ(exploded.m_arTexts[nText], Cell(g_arTitles[i], i, -4.0, 2.5, 2.5, 2.5));
     }

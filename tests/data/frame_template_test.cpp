@@ -16,7 +16,7 @@ protected:
 
     /// A database of the suite with the table of templates; values are those of a row, or empty for none.
     std::shared_ptr<CDbConnection> MakeTemplates(const char* pszDatabase, const std::string& strValues) {
-        const auto pDatabase = CreateSqliteDatabase(m_root.Path("Data/" + std::string(pszDatabase)));
+        auto pDatabase = CreateSqliteDatabase(m_root.Path("Data/" + std::string(pszDatabase)));
         pDatabase->Execute("create table g_TervoTempletConfig(FileName text, Path text, GCBZ integer, "
                            "Fun text, Type text)");
         if (!strValues.empty())

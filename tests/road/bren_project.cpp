@@ -14,7 +14,7 @@ std::string RowsOfFile(const std::string& strSet, const char* pFile, const std::
     while (std::getline(file, strRow)) {
         for (int i = 0; i < nColumns; i++)
             strRow.erase(0, strRow.find(',') + 1);
-        strRows += strStart + "," + strRow + "\n";
+        strRows.append(strStart).append(",").append(strRow).append("\n");
     }
     EXPECT_NE(strRows, "") << strSet;
     return strRows;

@@ -51,6 +51,31 @@ TEST(ShapeOf, ADotIsAFullDisc) {
     EXPECT_NEAR(shape.m_wide.boundingRect().height(), 1.0, 0.005);
 }
 
+TEST(ShapeOf, ADotNeedsFewPoints) {
+    EXPECT_LE(ShapeOf(Dot(7.0, 9.0).m_arVertices, true, {}).m_wide.elementCount(), 20);
+}
+
+TEST(ShapeOf, ABulgedPieceOfOneWidthIsABandTurnedLikeTheOthers) {
+    for (const double dBulge : {1.0, -1.0}) { // half circles below and above the chord
+        const CPolylineShape shape =
+            ShapeOf({Vertex(0, 0, dBulge, 2.0, 2.0), Vertex(20, 0), Vertex(40, 0, 0, 2, 2)}, false, {});
+        EXPECT_NEAR(AreaOf(shape.m_wide), 62.8, 2.0) << dBulge; // in coarse polygons
+        for (const double dRadius : {9.1, 10.0, 10.9})
+            EXPECT_TRUE(shape.m_wide.contains(QPointF(10.0, -dBulge * dRadius))) << dBulge;
+        EXPECT_FALSE(shape.m_wide.contains(QPointF(10.0, -dBulge * 8.9)));
+        EXPECT_FALSE(shape.m_wide.contains(QPointF(10.0, -dBulge * 11.1)));
+        EXPECT_FALSE(shape.m_wide.contains(QPointF(10.0, dBulge * 10.0)));
+    }
+}
+
+TEST(ShapeOf, CutsAWideArcByItsDashes) {
+    const double dQuarter = 3.14159265358979 * 5.0; // of a circle of radius 10
+    const CPolylineShape shape =
+        ShapeOf({Vertex(0, 0, 1.0, 2.0, 2.0), Vertex(20, 0)}, false, CDashes{{dQuarter, 100.0}, 0.0});
+    EXPECT_TRUE(shape.m_wide.contains(QPointF(3.0, -7.0)));
+    EXPECT_FALSE(shape.m_wide.contains(QPointF(17.0, -7.0)));
+}
+
 TEST(ShapeOf, ABulgedPieceCanTaper) {
     const CPolylineShape shape =
         ShapeOf({Vertex(0, 0, 1.0, 2.0, 0.0), Vertex(20, 0)}, false, {}); // half circle below the chord

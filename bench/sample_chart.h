@@ -1,0 +1,7 @@
+#pragma once
+
+#include "chart/chart_entity.h"
+
+/// Fills a chart as generation does, of the readings of a laboratory: a consolidated undrained test of 129
+/// readings.
+void FillSampleChart(CBRENChart& chart);
