@@ -38,6 +38,9 @@ public:
     Acad::ErrorStatus setColorIndex(Adesk::UInt16 color, Adesk::Boolean doSubents = Adesk::kTrue) override;
     /// The picture for a file is drawn in bare lines, without widths and bulges.
     void saveAs(AcGiWorldDraw* pMode, AcDb::SaveType saveType) override;
+    /// Follows a frame that was moved by its grip, by the frame's last offset. The first notification after a
+    /// change of the chart's colour is dropped, whatever it tells.
+    void modified(const AcDbObject* pObject) override;
 
     /// Reads the sample's readings (m_nGCSY, m_strZKBH, m_strQYBH, m_strSYFF), reduces them, searches the
     /// envelopes and chooses the scales. 1 on success; 0 on any failure, which it has reported, and then the
@@ -125,6 +128,13 @@ protected:
     Adesk::Boolean subWorldDraw(AcGiWorldDraw* pMode) override;
     /// Shows the values as they stand.
     Acad::ErrorStatus subExplode(AcDbVoidPtrArray& entitySet) const override;
+    /// Moves only, told by what becomes of the x axis: eNotApplicable when it changes, and then nothing does.
+    Acad::ErrorStatus subTransformBy(const AcGeMatrix3d& xform) override;
+    Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray& gripPoints, AcDbIntArray& osnapModes,
+                                       AcDbIntArray& geomIds) const override;
+    /// A grip of the Mohr panel takes the envelope lines along; a moved end of one is noted in
+    /// g_bChartDataChanged. Other indices are passed over.
+    Acad::ErrorStatus subMoveGripPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset) override;
 
 private:
     // The picture's elements in their two forms of output.
