@@ -4,6 +4,17 @@
 #include "host/console/picks.h"
 #include "host/console/points.h"
 
+namespace {
+
+AcGePoint3d PointOrFailure(const std::string& strAnswer, const AcGePoint3d& last) {
+    AcGePoint3d point;
+    if (!ParsePoint(strAnswer, last, &point))
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + strAnswer);
+    return point;
+}
+
+} // namespace
+
 void CCommandInput::Begin(std::vector<CWord> arWords) {
     m_arWords.assign(std::make_move_iterator(arWords.begin()), std::make_move_iterator(arWords.end()));
     m_bCancelled = false;
@@ -52,15 +63,20 @@ double CCommandInput::Number(const std::string& strPrompt) {
 }
 
 AcGePoint3d CCommandInput::ToPoint(const std::string& strAnswer) {
-    AcGePoint3d point;
-    if (!ParsePoint(strAnswer, m_ptLast, &point))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + strAnswer);
-    m_ptLast = point;
-    return point;
+    return m_ptLast = PointOrFailure(strAnswer, m_ptLast);
 }
 
 AcGePoint3d CCommandInput::Point(const std::string& strPrompt) {
     return ToPoint(Text(strPrompt));
+}
+
+AcGeVector3d CCommandInput::Offset(const std::string& strPrompt, const AcGePoint3d& base) {
+    const std::string text = Text(strPrompt);
+    // A relative answer is taken as it stands: by way of the point it would lose digits.
+    const AcGePoint3d from = text.starts_with('@') ? AcGePoint3d::kOrigin : base;
+    const AcGeVector3d offset = PointOrFailure(text, AcGePoint3d::kOrigin) - from;
+    m_ptLast = base + offset;
+    return offset;
 }
 
 std::optional<AcGePoint3d> CCommandInput::PointOrWord(const std::string& strPrompt,

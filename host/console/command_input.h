@@ -32,6 +32,8 @@ public:
     std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
     double Number(const std::string& strPrompt);
     AcGePoint3d Point(const std::string& strPrompt);
+    /// How far a point lies from base; `@dx,dy` is the offset itself.
+    AcGeVector3d Offset(const std::string& strPrompt, const AcGePoint3d& base);
     /// None when the answer is the word instead.
     std::optional<AcGePoint3d> PointOrWord(const std::string& strPrompt, const std::string& strWord);
     AcDbObjectId Entity(AcDbDatabase& drawing, const std::string& strPrompt); ///< null when nothing is picked

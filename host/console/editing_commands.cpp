@@ -3,6 +3,7 @@
 #include "host/console/append_entity.h"
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
+#include "host/console/refusal.h"
 #include "host/console/texts.h"
 
 #include <memory>
@@ -10,15 +11,11 @@
 
 namespace {
 
-void Tell(const CHost& host, const std::string& strWhat, AcDbObjectId id, Acad::ErrorStatus status) {
-    host.Print("cannot " + strWhat + " #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
-}
-
 /// A class may refuse: the entity stays as it was, and the user is told.
 bool Transform(const CHost& host, AcDbObjectId id, const AcGeMatrix3d& matrix, const std::string& strWhat) {
     const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
     const Acad::ErrorStatus status = entity ? entity->transformBy(matrix) : entity.Status();
-    if (status != Acad::eOk) Tell(host, strWhat, id, status);
+    if (status != Acad::eOk) TellRefusal(host, strWhat, id, status);
     return status == Acad::eOk;
 }
 
@@ -37,7 +34,7 @@ std::vector<AcDbObjectId> Copies(const CHost& host, const std::vector<AcDbObject
         if (mapping.compute(pair) && !pair.value().isErased()) {
             arCopies.push_back(pair.value());
         } else {
-            Tell(host, "copy", id, Acad::eNotApplicable);
+            TellRefusal(host, "copy", id, Acad::eNotApplicable);
         }
     }
     return arCopies;
@@ -57,7 +54,7 @@ void Explode(const CHost& host, AcDbObjectId id) {
         const Acad::ErrorStatus status = entity ? entity->explode(parts) : entity.Status();
         for (void* const pPart : parts) // the caller's, also when a part failed
             arParts.emplace_back(static_cast<AcDbEntity*>(pPart));
-        if (status != Acad::eOk) return Tell(host, "explode", id, status);
+        if (status != Acad::eOk) return TellRefusal(host, "explode", id, status);
         for (const std::unique_ptr<AcDbEntity>& pPart : arParts)
             if (pPart->layerId().isNull()) pPart->setLayer(entity->layerId());
         entity->erase();

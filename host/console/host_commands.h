@@ -45,6 +45,9 @@ void CommandMirror(CHost& host);
 void CommandExplode(CHost& host);
 void CommandUndo(CHost& host);
 void CommandRedo(CHost& host);
+// grip_commands.cpp
+void CommandGrip(CHost& host);
+void CommandDrag(CHost& host);
 // view_commands.cpp
 void CommandZoom(CHost& host);
 void CommandRegen(CHost& host);

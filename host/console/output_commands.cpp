@@ -1,13 +1,11 @@
 #include "host/console/dump.h"
 #include "host/console/host_commands.h"
+#include "host/console/output_file.h"
 #include "host/console/plot_drawing.h"
 #include "platform/windows/code_page.h"
-#include "platform/windows/file_bytes.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 
 namespace {
@@ -25,8 +23,7 @@ bool IsPlotFormat(const std::string& strPath) {
 void CommandDump(CHost& host) {
     const std::string path = host.m_input.Text("File: ");
     host.m_input.End();
-    if (!WriteFileWhole(path, DumpDrawing(host.Drawing(), CDrawings::NameOf(host.Document()))))
-        throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be written: " + std::strerror(errno));
+    WriteOutputFile(path, DumpDrawing(host.Drawing(), CDrawings::NameOf(host.Document())));
 }
 
 void CommandPlot(CHost& host) {

@@ -65,6 +65,18 @@ TEST_F(CommandInput, CancelIsEscapeOnALineAndAWordOnTheCommandsLine) {
     EXPECT_THROW(m_input.Text(""), CRunFailure); // an empty line
 }
 
+TEST_F(CommandInput, AnOffsetIsCountedFromItsBaseOrStandsForItself) {
+    const AcGePoint3d base(1e9, 2.0, 3.0);
+    m_input.Begin({{"1000000005,4", false}, {"@0.1,-0.1", false}, {"@1,1,1", false}, {"far", false}});
+    EXPECT_EQ(m_input.Offset("", base), AcGeVector3d(5.0, 2.0, -3.0));
+    const AcGeVector3d offset = m_input.Offset("", base);
+    EXPECT_EQ(offset.x, 0.1);
+    EXPECT_EQ(offset.y, -0.1);
+    EXPECT_EQ(offset.z, 0.0);
+    EXPECT_EQ(m_input.Point(""), AcGePoint3d(1e9 + 1.1, 2.9, 4.0)) << "the point reached is the last one";
+    EXPECT_THROW(m_input.Offset("", base), CRunFailure);
+}
+
 TEST_F(CommandInput, AModulesPromptGivesResultsInsteadOfExceptions) {
     m_input.Begin({{"1,1", false}});
     AcGePoint3d point;
