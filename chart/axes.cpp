@@ -16,6 +16,7 @@ constexpr double g_dSubscriptText = 1.0;
 constexpr double g_dLabelGapX = 5.0; // below the X axis
 constexpr double g_dLabelGapY = 2.0; // left of the Y axis
 constexpr double g_dTitleGap = 10.0;
+constexpr Adesk::Int32 g_nMostCells = 10'000; // a count read from a damaged drawing is not to fill the memory
 
 void Axes(CPictureSink& sink, const CAxes& axes) {
     const AcGePoint3d ptOrigin = axes.m_ptOrigin;
@@ -99,7 +100,7 @@ CString AxisLabel(double dValue) {
 }
 
 void DescribeChartAxes(CPictureSink& sink, const CAxes& axes, const CAxesForm& form) {
-    if (!IsFinite(axes.m_ptOrigin)) return;
+    if (!IsFinite(axes.m_ptOrigin) || axes.m_nRows > g_nMostCells || axes.m_nCols > g_nMostCells) return;
     Axes(sink, axes);
     Grid(sink, axes);
     g_ChartTextStyle.setTextSize(g_dAxisText);

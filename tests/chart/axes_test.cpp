@@ -226,6 +226,18 @@ TEST(ChartAxes, WithoutAPlaceAreLeftOut) {
     EXPECT_TRUE(ExplodedAxes(axes).empty());
 }
 
+TEST(ChartAxes, WithAGridThatNoSheetHoldsAreLeftOut) {
+    const CTestDrawing drawing;
+    for (Adesk::Int32 CAxes::*const pCount : {&CAxes::m_nRows, &CAxes::m_nCols}) {
+        CAxes axes = Frame();
+        axes.*pCount = 2'147'483'647;
+        EXPECT_TRUE(Draw(axes).empty());
+        EXPECT_TRUE(ExplodedAxes(axes).empty());
+        axes.*pCount = -1;
+        EXPECT_FALSE(Draw(axes).empty());
+    }
+}
+
 TEST(AxisLabel, IsEmptyForWhatIsNoNumberOrTooLarge) {
     EXPECT_TRUE(AxisLabel(1e10).IsEmpty());
     EXPECT_TRUE(AxisLabel(std::numeric_limits<double>::quiet_NaN()).IsEmpty());
