@@ -54,9 +54,10 @@ CDialogTemplate GenPageTemplate() {
             PAGE_WIDTH,
             PAGE_HEIGHT,
             {Label("钻孔编号", {10, 8, 90, 10}),
-             {IDC_ZK_LIST, CControlKind::List, "", {10, 20, 90, 130}, CONTROL_PLAIN},
+             {IDC_ZK_LIST, CControlKind::List, "", {10, 20, 90, 120}, CONTROL_PLAIN},
              Label("取样编号", {110, 8, 140, 10}),
-             {IDC_QY_LIST, CControlKind::MultiList, "", {110, 20, 140, 130}, CONTROL_PLAIN},
+             {IDC_QY_LIST, CControlKind::MultiList, "", {110, 20, 140, 120}, CONTROL_PLAIN},
+             Label("有*号表示已出图", {110, 144, 140, 10}),
              {IDC_CLEAR_MARKS, CControlKind::Button, "删除*号(&D)", {10, 160, 60, 14}, CONTROL_PLAIN},
              {IDC_ALL, CControlKind::Check, "生成所有图", {80, 162, 70, 10}, CONTROL_PLAIN},
              {IDC_EDIT_TEMPLATE, CControlKind::Button, "编 辑 模 板", {190, 160, 60, 14}, CONTROL_PLAIN}}};

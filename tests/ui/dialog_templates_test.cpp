@@ -51,10 +51,11 @@ TEST_F(DialogTemplates, SelectionPageHasItsControls) {
     std::string shown;
     for (const CControlTemplate& control : ModuleResources()->FindDialog(11)->m_arControls) {
         EXPECT_EQ(control.m_nFlags & (CONTROL_DISABLED | CONTROL_HIDDEN), 0) << control.m_nId;
-        if (control.m_kind != CControlKind::Label)
-            shown += std::to_string(control.m_nId) + " " + control.m_strCaption + "\n";
+        const bool bLabel = control.m_kind == CControlKind::Label;
+        shown += (bLabel ? "label" : std::to_string(control.m_nId)) + " " + control.m_strCaption + "\n";
     }
-    EXPECT_EQ(shown, "1010 \n1011 \n1062 删除*号(&D)\n1063 生成所有图\n1556 编 辑 模 板\n");
+    EXPECT_EQ(shown, "label 钻孔编号\n1010 \nlabel 取样编号\n1011 \nlabel 有*号表示已出图\n"
+                     "1062 删除*号(&D)\n1063 生成所有图\n1556 编 辑 模 板\n");
 }
 
 TEST_F(DialogTemplates, LieInsideTheirDialogWithoutOverlapsUnderNumbersOfTheirOwn) {
