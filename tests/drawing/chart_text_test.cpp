@@ -17,6 +17,18 @@ TEST(MeasureTextWidth, OfNothingIsZero) {
     EXPECT_EQ(MeasureTextWidth("", AcDbObjectId::kNull, 2.5), 0.0);
 }
 
+TEST(MeasureTextWidth, IsThatOfTheNaturalWidthWhateverTheStyleSays) {
+    CTestDrawing drawing;
+    auto* const pRecord = new AcDbTextStyleTableRecord;
+    pRecord->setName(L"narrow");
+    pRecord->setXScale(0.5);
+    AcDbObjectId idNarrow;
+    CDbOpen<AcDbTextStyleTable>(drawing.Database().textStyleTableId(), AcDb::kForWrite)
+        ->add(idNarrow, pRecord);
+    pRecord->close();
+    EXPECT_EQ(MeasureTextWidth("abc", idNarrow, 2.5), MeasureTextWidth("abc", AcDbObjectId::kNull, 2.5));
+}
+
 TEST(MeasureTextWidth, IsZeroWhileTheHostIsQuitting) {
     const CTestDrawing drawing;
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);

@@ -33,7 +33,10 @@ TEST(CurveStrokes, AreInTheGivenColourWhereSolid) {
     ASSERT_EQ(list.size(), 1U);
     EXPECT_EQ(list[0].m_nColor, 5);
     EXPECT_EQ(list[0].m_nMarker, 1);
-    EXPECT_EQ(std::get<CSplinePrimitive>(list[0].m_shape).m_arFitPoints.size(), 3U);
+    const auto& spline = std::get<CSplinePrimitive>(list[0].m_shape);
+    EXPECT_EQ(spline.m_arFitPoints.size(), 3U);
+    EXPECT_EQ(spline.m_nOrder, 4);
+    EXPECT_EQ(spline.m_dFitTolerance, 0.0);
 }
 
 TEST(CurveStrokes, LeaveTheGivenColourAfterADashedOne) {
@@ -61,6 +64,36 @@ TEST(CurveStrokes, SetADotAtEachPoint) {
     EXPECT_EQ(Vertices(list[2])[0].m_pt.y, 6.25);
     EXPECT_EQ(Vertices(list[2])[1].m_pt.y, 5.75);
     EXPECT_EQ(Vertices(list[2])[2].m_pt.y, 6.25);
+    for (const CPolylineVertex& vertex : Vertices(list[2])) {
+        EXPECT_EQ(vertex.m_dBulge, 1.0);
+        EXPECT_EQ(vertex.m_dStartWidth, 0.5);
+        EXPECT_EQ(vertex.m_dEndWidth, 0.5);
+    }
+}
+
+TEST(CurveStrokes, LeaveTheGivenColourAfterDots) {
+    const CTestDrawing drawing;
+    const CDisplayList list = Drawn([](AcGiWorldDraw* pMode) {
+        DrawCurveDots(ThreePoints(), 0, pMode, 5);
+        AcDbSpline(ThreePoints()).worldDraw(pMode);
+    });
+    ASSERT_EQ(list.size(), 4U);
+    EXPECT_EQ(list[3].m_nColor, 5);
+}
+
+TEST(CurveStrokes, AreDashedInATemporaryDrawingWhereNoneIsOpen) {
+    const CTestDrawing drawing;
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    const CDisplayList list = Drawn([](AcGiWorldDraw* pMode) {
+        DrawDashedCurve(pMode, ThreePoints(), 5);
+        DrawDashedCurve(pMode, ThreePoints(), 5);
+        AcDbSpline(ThreePoints()).worldDraw(pMode);
+    });
+    ASSERT_EQ(list.size(), 3U);
+    EXPECT_EQ(list[1].m_nColor, 2);
+    EXPECT_EQ(list[1].m_strLinetype, ""); // a drawing of its own again, which has to load it first
+    EXPECT_EQ(list[2].m_nColor, 5);
+    EXPECT_EQ(acdbHostApplicationServices()->workingDatabase(), nullptr);
 }
 
 TEST(CurveStrokes, SetDotsOfBareLinesForAFile) {

@@ -68,6 +68,14 @@ TEST(SplitAtFirstDrop, OfTwoFallingPointsHasOnePointInItsHead) {
     EXPECT_EQ(tail.length(), 2);
 }
 
+TEST(SplitAtFirstDrop, OfOnePointIsThatPointWithoutATail) {
+    AcGePoint3dArray head, tail;
+    EXPECT_EQ(SplitAtFirstDrop(Points({{3, 4}}), head, tail), 1);
+    ASSERT_EQ(head.length(), 1);
+    EXPECT_EQ(head[0].y, 4.0);
+    EXPECT_TRUE(tail.isEmpty());
+}
+
 TEST(SplitAtFirstDrop, OfAnEmptyListIsTwoWithNothing) {
     AcGePoint3dArray head, tail;
     EXPECT_EQ(SplitAtFirstDrop(AcGePoint3dArray(), head, tail), 2);
@@ -88,6 +96,29 @@ TEST(SplitAtPoint, CountsPointsJustBelowToTheSecondPart) {
     SplitAtPoint({2, 0, 0}, Points({{1, 0}, {1.9995, 0}, {3, 0}}), false, first, second);
     EXPECT_EQ(first.length(), 2);
     EXPECT_EQ(second.length(), 3);
+}
+
+TEST(SplitAtPoint, BeyondTheLastPointLeavesThePointAloneBehind) {
+    AcGePoint3dArray first, second;
+    SplitAtPoint({0, 9, 0}, Points({{0, 0}, {1, 1}}), true, first, second);
+    EXPECT_EQ(first.length(), 3);
+    ASSERT_EQ(second.length(), 1);
+    EXPECT_EQ(second[0].y, 9.0);
+}
+
+TEST(SplitAtPoint, GoesNoFurtherThanTheFirstPointThatIsNotBelow) {
+    AcGePoint3dArray first, second;
+    SplitAtPoint({0, 5, 0}, Points({{0, 1}, {1, 6}, {2, 2}}), true, first, second);
+    EXPECT_EQ(first.length(), 2);
+    ASSERT_EQ(second.length(), 3);
+    EXPECT_EQ(second[2].y, 2.0); // lower, but behind a higher one
+}
+
+TEST(SplitAtPoint, OfAnEmptyListIsThePointTwice) {
+    AcGePoint3dArray first, second;
+    SplitAtPoint({2, 3, 0}, AcGePoint3dArray(), true, first, second);
+    EXPECT_EQ(first.length(), 1);
+    EXPECT_EQ(second.length(), 1);
 }
 
 TEST(SplitAtPoint, AsksTheCoordinateItIsTold) {
@@ -116,6 +147,33 @@ TEST(DrawCrossHead, CutsBothCurvesAtTheirFirstCrossing) {
     ASSERT_EQ(carry.length(), 2);
     EXPECT_NEAR(carry[0].x, 5.0, 1e-9);
     EXPECT_NEAR(carry[0].y, 5.0, 1e-9);
+}
+
+TEST(DrawCrossHead, SplitsTheFirstCurveAlongX) {
+    CNotingSink sink;
+    AcGePoint3dArray carry;
+    EXPECT_EQ(DrawCrossHead(sink, Points({{0, 10}, {10, 0}}), Points({{4, 0}, {6, 10}}), carry), 1);
+    // Along y the first part would be the crossing alone.
+    EXPECT_EQ(sink.m_arNotes, (CNotes{"solid 2", "dashed 2", "dashed 2"}));
+}
+
+TEST(DrawCrossHead, TakesTheCrossingThatComesFirstOnTheFirstCurve) {
+    const AcGePoint3dArray level = Points({{0, 5}, {20, 5}});
+    for (const auto& next : {Points({{2, 0}, {6, 10}, {12, 0}}), Points({{12, 0}, {6, 10}, {2, 0}})}) {
+        CNotingSink sink;
+        AcGePoint3dArray carry;
+        EXPECT_EQ(DrawCrossHead(sink, level, next, carry), 1);
+        EXPECT_LT(carry.first().x, 6.0);
+        EXPECT_NEAR(carry.first().y, 5.0, 1e-9);
+    }
+}
+
+TEST(DrawCrossHead, DrawsWhatHasTwoPointsSolidWhenTheSearchFails) {
+    CNotingSink sink;
+    AcGePoint3dArray carry;
+    EXPECT_EQ(DrawCrossHead(sink, Points({{0, 0}, {1, 1}, {2, 2}}), AcGePoint3dArray(), carry), 0);
+    EXPECT_EQ(sink.m_arNotes, (CNotes{"solid 3"}));
+    EXPECT_TRUE(carry.isEmpty());
 }
 
 TEST(DrawCrossHead, LeavesTheCarryAsItWasWhenTheSearchFails) {
@@ -149,4 +207,19 @@ TEST(DrawCrossTail, EmptiesTheCarryWhenTheSearchFails) {
     EXPECT_EQ(DrawCrossTail(sink, Points({{0, 0}}), Points({{4, 0}}), carry), 0);
     EXPECT_TRUE(sink.m_arNotes.empty());
     EXPECT_TRUE(carry.isEmpty());
+}
+
+TEST(DrawCrossTail, DrawsWhatHasTwoPointsSolidWhenTheSearchFails) {
+    CNotingSink sink;
+    AcGePoint3dArray carry = Points({{9, 9}});
+    EXPECT_EQ(DrawCrossTail(sink, Points({{0, 0}}), Points({{4, 0}, {6, 10}}), carry), 0);
+    EXPECT_EQ(sink.m_arNotes, (CNotes{"solid 2"}));
+    EXPECT_TRUE(carry.isEmpty());
+}
+
+TEST(DrawCrossTail, LosesWhatWasCarriedWhereNothingCrosses) {
+    CNotingSink sink;
+    AcGePoint3dArray carry = Points({{9, 9}, {8, 8}, {7, 7}});
+    EXPECT_EQ(DrawCrossTail(sink, Points({{0, 2}, {1, 1}}), Points({{5, 0}, {6, 1}}), carry), 0);
+    EXPECT_EQ(carry.length(), 2);
 }

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 void Fill(CBRENFrame& frame) {
     frame.m_ptBase.set(10.0, 300.0, 0.0);
@@ -70,6 +72,54 @@ TEST(FrameDrawing, ExplodesIntoPolylinesAndTexts) {
     EXPECT_EQ(pHeading->widthFactor(), 0.7);
     for (const auto& pEntity : entities)
         EXPECT_EQ(pEntity->database(), nullptr) << "the caller's";
+}
+
+TEST(FrameDrawing, OfTheStandardWithAStripIsThreeRowsOfTextsInBothForms) {
+    const CTestDrawing drawing;
+    CBRENFrame frame;
+    Fill(frame);
+    frame.m_nGCBZ = 2;
+    const CDisplayList list = DrawEntity(frame);
+    EXPECT_EQ(Shapes<CTextPrimitive>(list).size(), 15U);
+    EXPECT_EQ(list.size(), 15U);
+    const CEntities entities = Exploded(frame);
+    EXPECT_EQ(Parts<AcDbText>(entities).size(), 15U);
+    EXPECT_EQ(entities.size(), 15U);
+    EXPECT_TRUE(Parts<AcDbText>(entities)[0]->position() == AcGePoint3d(10.0 + 32.0, 300.0 - 5.7, 0.0));
+}
+
+TEST(FrameDrawing, OfADateOfZeroHasItsNumbersInTheExplodedFormOnly) {
+    const CTestDrawing drawing;
+    CBRENFrame frame;
+    Fill(frame);
+    frame.m_nYear = 0;
+    for (const CTextPrimitive& text : Shapes<CTextPrimitive>(DrawEntity(frame)))
+        EXPECT_NE(text.m_strText, "0");
+    const CEntities entities = Exploded(frame);
+    const auto texts = Parts<AcDbText>(entities);
+    EXPECT_EQ(std::count_if(texts.begin(), texts.end(),
+                            [](const AcDbText* pText) { return pText->textString() == std::wstring(L"0"); }),
+              3);
+}
+
+TEST(FrameDrawing, HasRulesOfDefaultWidthInBothForms) {
+    const CTestDrawing drawing;
+    CBRENFrame frame;
+    Fill(frame);
+    const auto lines = Shapes<CPlinePrimitive>(DrawEntity(frame));
+    const CEntities entities = Exploded(frame);
+    const auto parts = Parts<AcDbPolyline>(entities);
+    ASSERT_EQ(parts.size(), lines.size());
+    for (std::size_t i = 1; i < parts.size(); i++) { // behind the border
+        ASSERT_EQ(lines[i].m_arVertices.size(), 2U);
+        ASSERT_EQ(parts[i]->numVerts(), 2U);
+        for (std::size_t v = 0; v < 2; v++) {
+            EXPECT_EQ(parts[i]->Vertices()[v].m_pt.x, lines[i].m_arVertices[v].m_pt.x);
+            EXPECT_EQ(parts[i]->Vertices()[v].m_pt.y, lines[i].m_arVertices[v].m_pt.y);
+            EXPECT_EQ(parts[i]->Vertices()[v].m_dStartWidth, -1.0);
+            EXPECT_EQ(lines[i].m_arVertices[v].m_dStartWidth, -1.0);
+        }
+    }
 }
 
 TEST(FrameDrawing, ChangesNothingInTheFrame) {
