@@ -6,12 +6,12 @@
 #include "host/console/output_file.h"
 #include "host/console/refusal.h"
 #include "host/console/table_keeper.h"
+#include "host/console/words.h"
 #include "platform/acad/display_recorder.h"
 #include "platform/acad/field_table.h"
 #include "platform/acad/free_copy.h"
 
 #include <optional>
-#include <ranges>
 
 namespace {
 
@@ -36,10 +36,8 @@ AcGePoint3dArray GripsOf(AcDbObjectId id) {
 }
 
 AcDbIntArray AskIndices(CHost& host, int nGrips) {
-    const std::string strText = host.m_input.Text("Grips: ");
     AcDbIntArray indices;
-    for (const auto& part : std::views::split(strText, ',')) {
-        const std::string strIndex(part.begin(), part.end());
+    for (const std::string& strIndex : PiecesOf(host.m_input.Text("Grips: "), ',')) {
         int nIndex = -1;
         if (!ParseWhole(strIndex, &nIndex) || nIndex < 0 || nIndex >= nGrips)
             Refuse("no such grip: " + strIndex + " (the last is " + std::to_string(nGrips - 1) + ")");

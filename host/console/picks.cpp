@@ -2,6 +2,7 @@
 
 #include "host/console/drawing_order.h"
 #include "host/console/points.h"
+#include "host/console/words.h"
 
 #include <algorithm>
 #include <charconv>
@@ -61,13 +62,10 @@ bool PickSeveral(AcDbDatabase& drawing, const std::string& strWord, const AcGePo
             AddOnce(id, pIds);
         return true;
     }
-    size_t begin = 0;
-    while (begin <= strWord.size()) {
-        const size_t end = std::min(strWord.find('+', begin), strWord.size());
-        const AcDbObjectId id = PickEntity(drawing, strWord.substr(begin, end - begin), last, pReason);
+    for (const std::string& strPick : PiecesOf(strWord, '+')) {
+        const AcDbObjectId id = PickEntity(drawing, strPick, last, pReason);
         if (id.isNull()) return false;
         AddOnce(id, pIds);
-        begin = end + 1;
     }
     return true;
 }

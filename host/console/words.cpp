@@ -47,6 +47,15 @@ bool SplitWords(const std::string& line, std::vector<CWord>* words, std::string*
     }
 }
 
+std::vector<std::string> PiecesOf(const std::string& word, char separator) {
+    std::vector<std::string> pieces;
+    size_t begin = 0;
+    for (size_t end = 0; (end = word.find(separator, begin)) != std::string::npos; begin = end + 1)
+        pieces.push_back(word.substr(begin, end - begin));
+    pieces.push_back(word.substr(begin));
+    return pieces;
+}
+
 std::string WithoutBlanksAround(const std::string& text) {
     const size_t first = text.find_first_not_of(" \t");
     if (first == std::string::npos) return {};

@@ -55,6 +55,14 @@ TEST(SplitWords, KeepsCharactersBeyondAscii) {
     EXPECT_EQ(Words("set 1 \"\xE5\x9B\xBE \xE5\xB9\x85\""), "|set|1|'\xE5\x9B\xBE \xE5\xB9\x85");
 }
 
+TEST(PiecesOf, KeepsEmptyPieces) {
+    using CTexts = std::vector<std::string>;
+    EXPECT_EQ(PiecesOf("1,22,3", ','), (CTexts{"1", "22", "3"}));
+    EXPECT_EQ(PiecesOf("1", ','), CTexts{"1"});
+    EXPECT_EQ(PiecesOf("", ','), CTexts{""});
+    EXPECT_EQ(PiecesOf(",1,", ','), (CTexts{"", "1", ""}));
+}
+
 TEST(WithoutBlanksAround, KeepsBlanksInside) {
     EXPECT_EQ(WithoutBlanksAround(" \ta  b \t"), "a  b");
     EXPECT_EQ(WithoutBlanksAround("ab"), "ab");
