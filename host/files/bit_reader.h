@@ -12,6 +12,8 @@
 /// and makes the reader fail for good: nothing is ever read past the end. The bytes must outlive the reader.
 class CBitReader {
 public:
+    static constexpr bool s_bReads = true;
+
     explicit CBitReader(CByteView bytes)
         : CBitReader(bytes, 0, bytes.size() * 8) {}
     /// Reads from bit nBegin to before bit nEnd; it fails at once when these are not within the bytes.

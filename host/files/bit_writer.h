@@ -11,7 +11,10 @@
 /// bit (a negative zero too). A value that has no form makes the writer fail for good.
 class CBitWriter {
 public:
+    static constexpr bool s_bReads = false;
+
     bool Failed() const { return m_bFailed; }
+    void Fail() { m_bFailed = true; }
     std::size_t At() const { return m_nBits; } ///< bits written
     /// The bytes; zero bits fill the last one.
     const CBytes& Bytes() const { return m_bytes; }

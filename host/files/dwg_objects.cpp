@@ -3,18 +3,13 @@
 #include "host/files/bit_reader.h"
 #include "host/files/bit_writer.h"
 #include "host/files/dwg_crc.h"
-#include "host/files/dwg_error.h"
-#include "platform/acad/db_object_id.h"
+#include "host/files/dwg_record.h"
 
 #include <algorithm>
 
 namespace {
 
 constexpr std::size_t g_nSumField = 2;
-
-[[noreturn]] void Refuse(std::uint64_t nHandle, const char* pWhy) {
-    throw CDwgError("Object " + AcDbHandle(nHandle).Hex() + ": " + pWhy);
-}
 
 /// The object at an address with its size and its check sum, and how many of these bytes the size takes.
 struct CPacked {
@@ -26,17 +21,17 @@ struct CPacked {
 };
 
 CPacked PackedAt(CByteView file, std::uint64_t nHandle, std::uint32_t nAddress) {
-    if (nAddress > file.size()) Refuse(nHandle, "it lies beyond the end of the file.");
+    if (nAddress > file.size()) RefuseDwgObject(nHandle, "it lies beyond the end of the file.");
     CBitReader bits(file.subspan(nAddress));
     std::uint32_t nSize = 0;
     std::uint16_t nSum = 0;
     bits.MS(nSize);
     const std::size_t nSizeField = bits.At() / 8;
     if (bits.Failed() || bits.Left() / 8 < nSize + g_nSumField)
-        Refuse(nHandle, "it reaches beyond the end of the file.");
+        RefuseDwgObject(nHandle, "it reaches beyond the end of the file.");
     const CByteView packed = file.subspan(nAddress, nSizeField + nSize + g_nSumField);
     CBitReader(packed.last(g_nSumField)).RS(nSum);
-    if (nSum != DwgCrc(packed.first(nSizeField + nSize))) Refuse(nHandle, "the check sum is wrong.");
+    if (nSum != DwgCrc(packed.first(nSizeField + nSize))) RefuseDwgObject(nHandle, "the check sum is wrong.");
     return {packed, nSizeField};
 }
 
@@ -51,7 +46,7 @@ CDwgContents ReadDwgContents(CByteView file, const CDwgObjectMap& map) {
     CDwgContents contents;
     std::size_t nTaken = 0; // else a small file could stand for any number of large objects
     for (const auto& [nAddress, nHandle] : places) {
-        if (nAddress < nTaken) Refuse(nHandle, "it shares bytes with another object.");
+        if (nAddress < nTaken) RefuseDwgObject(nHandle, "it shares bytes with another object.");
         const CPacked packed = PackedAt(file, nHandle, nAddress);
         const CByteView content = packed.Content();
         contents.emplace(nHandle, CBytes(content.begin(), content.end()));
@@ -67,7 +62,7 @@ CDwgObjectMap AppendDwgContents(const CDwgContents& contents, CBytes& file) {
         bits.MS(static_cast<std::uint32_t>(content.size()));
         bits.Raw(content, content.size());
         bits.RS(DwgCrc(bits.Bytes()));
-        if (bits.Failed()) Refuse(nHandle, "it is too large.");
+        if (bits.Failed()) RefuseDwgObject(nHandle, "it is too large.");
         map.emplace_hint(map.end(), nHandle, static_cast<std::uint32_t>(file.size()));
         file.insert(file.end(), bits.Bytes().begin(), bits.Bytes().end());
     }

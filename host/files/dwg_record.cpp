@@ -1,0 +1,97 @@
+#include "host/files/dwg_record.h"
+
+#include "host/files/bit_reader.h"
+#include "host/files/bit_writer.h"
+#include "host/files/dwg_error.h"
+#include "platform/acad/db_object_id.h"
+
+#include <limits>
+
+namespace {
+
+constexpr std::size_t g_nShortestHandle = 8; ///< bits
+
+/// The bits of the reader up to bit nEnd.
+CDwgBits TakeBits(CBitReader& bits, std::size_t nEnd) {
+    CDwgBits taken;
+    taken.m_nCount = nEnd - bits.At();
+    bits.Raw(taken.m_arBytes, taken.m_nCount / 8);
+    std::uint8_t nLast = 0;
+    for (std::size_t i = 0; i < taken.m_nCount % 8; ++i) {
+        bool b = false;
+        bits.B(b);
+        nLast |= static_cast<std::uint8_t>(b << (7 - i));
+    }
+    if (taken.m_nCount % 8) taken.m_arBytes.push_back(nLast);
+    return taken;
+}
+
+std::vector<CDwgExtendedData> ReadExtended(CBitReader& bits) {
+    std::vector<CDwgExtendedData> all;
+    for (;;) {
+        std::uint16_t nBytes = 0;
+        bits.BS(nBytes);
+        if (nBytes == 0) return all; // so too once the reader failed
+        CDwgExtendedData& data = all.emplace_back();
+        bits.H(data.m_hApp);
+        bits.Raw(data.m_arBytes, nBytes);
+    }
+}
+
+/// All up to the references.
+CBitWriter WriteFront(const CDwgRecord& record, std::uint32_t nFrontBits) {
+    CBitWriter bits;
+    bits.BS(record.m_nType);
+    bits.RL(nFrontBits);
+    bits.H({CDwgHandle::s_nOwn, record.m_nHandle});
+    for (const CDwgExtendedData& data : record.m_arExtended) {
+        if (data.m_arBytes.size() > std::numeric_limits<std::uint16_t>::max())
+            RefuseDwgObject(record.m_nHandle, "its extended data are too large for a file.");
+        bits.BS(static_cast<std::uint16_t>(data.m_arBytes.size()));
+        bits.H(data.m_hApp);
+        bits.Raw(data.m_arBytes, data.m_arBytes.size());
+    }
+    bits.BS(std::uint16_t{0});
+    bits.RawBits(record.m_data.m_arBytes, record.m_data.m_nCount);
+    return bits;
+}
+
+} // namespace
+
+void RefuseDwgObject(std::uint64_t nHandle, const char* pWhy) {
+    throw CDwgError("Object " + AcDbHandle(nHandle).Hex() + ": " + pWhy);
+}
+
+CDwgRecord ReadDwgRecord(CByteView content, std::uint64_t nHandle) {
+    CDwgRecord record;
+    CBitReader front(content);
+    std::uint32_t nFrontBits = 0;
+    CDwgHandle own;
+    front.BS(record.m_nType);
+    front.RL(nFrontBits);
+    front.H(own);
+    if (front.Failed() || nFrontBits < front.At() || nFrontBits > content.size() * 8)
+        RefuseDwgObject(nHandle, "its references are not where it says.");
+    if (own != CDwgHandle{CDwgHandle::s_nOwn, nHandle})
+        RefuseDwgObject(nHandle, "it has another handle than the object map says.");
+    record.m_nHandle = nHandle;
+    CBitReader data(content, front.At(), nFrontBits);
+    record.m_arExtended = ReadExtended(data);
+    if (data.Failed()) RefuseDwgObject(nHandle, "it ends within its extended data.");
+    record.m_data = TakeBits(data, nFrontBits);
+    CBitReader handles(content, nFrontBits, content.size() * 8);
+    while (handles.Left() >= g_nShortestHandle) // less is the filling of the last byte
+        handles.H(record.m_arHandles.emplace_back());
+    if (handles.Failed()) RefuseDwgObject(nHandle, "it ends within its references.");
+    return record;
+}
+
+CBytes WriteDwgRecord(const CDwgRecord& record) {
+    const std::size_t nFrontBits = WriteFront(record, 0).At();
+    if (nFrontBits > std::numeric_limits<std::uint32_t>::max())
+        RefuseDwgObject(record.m_nHandle, "it is too large for a file.");
+    CBitWriter bits = WriteFront(record, static_cast<std::uint32_t>(nFrontBits));
+    for (const CDwgHandle& handle : record.m_arHandles)
+        bits.H(handle);
+    return bits.Take();
+}
