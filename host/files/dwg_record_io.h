@@ -34,3 +34,15 @@ public:
 private:
     std::vector<CDwgHandle> m_arHandles;
 };
+
+/// The record of an object that a function files. Throws CDwgError for a text that is too long.
+template <class Value, class File>
+CDwgRecord DwgRecordOf(std::uint16_t nType, std::uint64_t nHandle, const Value& value, File file) {
+    CDwgRecordWriter io;
+    file(io, value);
+    if (io.Failed()) RefuseDwgObject(nHandle, "a text is too long for a file.");
+    return io.TakeRecord(nType, nHandle);
+}
+
+/// A description of a class as a function of both directions.
+#define DWG_FILED(function) [](auto& io, auto& value) { function(io, value); }

@@ -157,6 +157,13 @@ Acad::ErrorStatus AcDbDatabase::getAcDbObjectId(AcDbObjectId& id, AcDbHandle han
     return Acad::eOk;
 }
 
+std::vector<AcDbObjectId> AcDbDatabase::ObjectIds() const {
+    std::vector<AcDbObjectId> ids;
+    for (const auto& [handle, pStub] : m_mapStubs)
+        if (!pStub->m_bErased) ids.emplace_back(pStub.get());
+    return ids;
+}
+
 Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner) {
     if (!pObject) return Acad::eNullObjectPointer;
     if (!pObject->m_id.isNull()) return Acad::eAlreadyInDb;

@@ -73,6 +73,9 @@ public:
     void SetFilename(const ACHAR* fileName) { m_strFilename = fileName; }
     Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, AcDbHandle handle) const; ///< eUnknownHandle
 
+    std::vector<AcDbObjectId> ObjectIds() const; ///< of all objects in database order, erased ones left out
+    AcDbHandle handseed() const { return AcDbHandle(m_nNextHandle); } ///< what the next object gets
+
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
 

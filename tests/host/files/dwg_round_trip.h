@@ -33,6 +33,3 @@ Value FromContent(const CBytes& content, std::uint64_t nHandle, File file) {
     EXPECT_TRUE(reader.IsAtEnd());
     return value;
 }
-
-/// A description of a class as a function of both directions.
-#define DWG_FILED(function) [](auto& io, auto& value) { function(io, value); }

@@ -135,6 +135,21 @@ TEST(AcDbDatabase, KnowsNoForeignHandle) {
     EXPECT_EQ(id, database.ModelSpaceId());
 }
 
+TEST(AcDbDatabase, NamesItsObjectsInOrderWithoutErasedOnes) {
+    AcDbDatabase database;
+    const std::vector<AcDbObjectId> before = database.ObjectIds();
+    EXPECT_EQ(before.front(), database.blockTableId());
+    const AcDbHandle seed = database.handseed();
+    const AcDbObjectId idFirst = Append(database, new AcDbPolyline),
+                       idSecond = Append(database, new AcDbPolyline);
+    EXPECT_EQ(idFirst.handle(), seed);
+    EXPECT_EQ(database.handseed(), AcDbHandle(seed.Value() + 2));
+    CDbOpen<AcDbPolyline>(idFirst, AcDb::kForWrite)->erase();
+    const std::vector<AcDbObjectId> after = database.ObjectIds();
+    EXPECT_EQ(after.size(), before.size() + 1);
+    EXPECT_EQ(after.back(), idSecond);
+}
+
 TEST(AddObject, RefusesNothingAndWhatHasAnOwner) {
     AcDbDatabase database, other;
     AcDbObjectId id;

@@ -1,0 +1,41 @@
+#include "host/files/dwg_handle_map.h"
+
+#include "platform/acad/db_stub.h"
+
+#include <algorithm>
+
+AcDbObjectId RecordNamed(AcDbObjectId idTable, const ACHAR* name) {
+    const auto* const pTable = PeekObject<AcDbSymbolTable>(idTable);
+    return pTable ? pTable->Find(name) : AcDbObjectId::kNull;
+}
+
+CDwgHandleMap::CDwgHandleMap(const AcDbDatabase& database)
+    : m_nNext(std::max(database.handseed().Value(), CDwgFixed::s_nFirstFree)) {
+    const std::pair<AcDbObjectId, std::uint64_t> fixed[] = {
+        {database.blockTableId(), CDwgFixed::s_nBlocks},
+        {database.layerTableId(), CDwgFixed::s_nLayers},
+        {database.textStyleTableId(), CDwgFixed::s_nStyles},
+        {database.linetypeTableId(), CDwgFixed::s_nLinetypes},
+        {database.regAppTableId(), CDwgFixed::s_nApps},
+        {database.namedObjectsDictionaryId(), CDwgFixed::s_nNamedObjects},
+        {database.ModelSpaceId(), CDwgFixed::s_nModelSpace},
+        {RecordNamed(database.blockTableId(), ACDB_PAPER_SPACE), CDwgFixed::s_nPaperSpace},
+        {RecordNamed(database.layerTableId(), L"0"), CDwgFixed::s_nLayer0},
+        {RecordNamed(database.textStyleTableId(), L"Standard"), CDwgFixed::s_nStandardStyle},
+        {RecordNamed(database.regAppTableId(), L"ACAD"), CDwgFixed::s_nAcadApp},
+        {RecordNamed(database.linetypeTableId(), L"ByBlock"), CDwgFixed::s_nByBlock},
+        {RecordNamed(database.linetypeTableId(), L"ByLayer"), CDwgFixed::s_nByLayer},
+        {RecordNamed(database.linetypeTableId(), L"Continuous"), CDwgFixed::s_nContinuous}};
+    for (const auto& [id, nHandle] : fixed)
+        if (!id.isNull()) m_mapHandles[id.handle()] = nHandle;
+    for (const AcDbObjectId& id : database.ObjectIds()) {
+        if (id.handle().Value() >= CDwgFixed::s_nFirstFree) break; // they come in order
+        if (m_mapHandles.try_emplace(id.handle(), m_nNext).second) ++m_nNext;
+    }
+}
+
+std::uint64_t CDwgHandleMap::Of(AcDbObjectId id) const {
+    if (id.isNull() || id.isErased()) return 0;
+    const auto found = m_mapHandles.find(id.handle());
+    return found == m_mapHandles.end() ? id.handle().Value() : found->second;
+}

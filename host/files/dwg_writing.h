@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/files/dwg_common.h"
+#include "host/files/dwg_extended_data.h"
+#include "host/files/dwg_handle_map.h"
+#include "host/files/dwg_text.h"
+
+/// What the parts of a drawing that is being written share.
+struct CDwgWriting {
+    const AcDbDatabase& m_database;
+    const CDwgText& m_text;
+    std::uint16_t m_nCodePage; ///< the text's
+    CDwgHandleMap& m_handles;
+};
+
+/// The extended data of an object as its record holds them.
+std::vector<CDwgExtendedData> DwgExtendedDataOf(const AcDbObject& object, const CDwgWriting& writing);
+
+/// The objects that are told of changes to this one, as far as they are in the file.
+std::vector<CDwgHandle> DwgReactorsOf(const AcDbObject& object, const CDwgWriting& writing);
