@@ -106,6 +106,7 @@ struct CDwgControlPoint {
 /// A spline in one of its two forms.
 struct CDwgSpline {
     static constexpr std::uint32_t s_nByControlPoints = 1, s_nByFitPoints = 2;
+    static constexpr std::uint32_t s_nHighestDegree = 25;
     std::uint32_t m_nForm = s_nByControlPoints;
     std::uint32_t m_nDegree = 3;
     // By fit points.
@@ -149,11 +150,12 @@ void FileControlPoints(Io& io, Spline& spline) {
     });
 }
 
-/// Fails for a form that is none.
+/// Fails for a form that is none and for a degree that no curve has.
 template <class Io, class Spline>
 void FileSpline(Io& io, Spline& spline) {
     io.BL(spline.m_nForm);
     io.BL(spline.m_nDegree);
+    if (spline.m_nDegree > CDwgSpline::s_nHighestDegree) return io.Fail();
     if (spline.m_nForm == CDwgSpline::s_nByFitPoints) return FileFitPoints(io, spline);
     if (spline.m_nForm == CDwgSpline::s_nByControlPoints) return FileControlPoints(io, spline);
     io.Fail();

@@ -164,6 +164,12 @@ std::vector<AcDbObjectId> AcDbDatabase::ObjectIds() const {
     return ids;
 }
 
+bool AcDbDatabase::SetHandseed(AcDbHandle handle) {
+    if (handle.isNull() || m_mapStubs.contains(handle)) return false;
+    m_nNextHandle = handle.Value();
+    return true;
+}
+
 Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner) {
     if (!pObject) return Acad::eNullObjectPointer;
     if (!pObject->m_id.isNull()) return Acad::eAlreadyInDb;

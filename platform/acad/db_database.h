@@ -75,6 +75,9 @@ public:
 
     std::vector<AcDbObjectId> ObjectIds() const; ///< of all objects in database order, erased ones left out
     AcDbHandle handseed() const { return AcDbHandle(m_nNextHandle); } ///< what the next object gets
+    /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed, for
+    /// a handle that an object has.
+    bool SetHandseed(AcDbHandle handle);
 
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);

@@ -207,6 +207,11 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* pChain) {
     return m_xdata.Put(pChain, database());
 }
 
+void AcDbObject::PutXData(CXDataOfApp app) {
+    assertWriteEnabled();
+    m_xdata.PutApp(std::move(app));
+}
+
 Acad::ErrorStatus AcDbObject::dwgOutFields(AcDbDwgFiler* pFiler) const {
     assertReadEnabled();
     pFiler->writeInt32(static_cast<Adesk::Int32>(m_arReactors.size()));

@@ -60,6 +60,7 @@ public:
     resbuf* xData(const ACHAR* appName = nullptr) const;
     Acad::ErrorStatus setXData(const resbuf* pChain); ///< see CXData::Put
     const CXData& XData() const { return m_xdata; }
+    void PutXData(CXDataOfApp app); ///< see CXData::PutApp
 
     /// A free object of the same class, for a copy; null when the class makes none.
     virtual std::unique_ptr<AcDbObject> NewOfSameClass() const;

@@ -37,12 +37,13 @@ public:
     /// (null: the working one) has not registered; then nothing changed.
     Acad::ErrorStatus Put(const resbuf* pChain, const AcDbDatabase* pDatabase);
 
+    /// Puts what an application has in place of what it had; one without values is taken away.
+    void PutApp(CXDataOfApp app);
+
     void Write(AcDbDwgFiler* pFiler) const;
     void Read(AcDbDwgFiler* pFiler);
 
 private:
-    void PutApp(CXDataOfApp app);
-
     std::vector<CXDataOfApp> m_arApps;
 };
 

@@ -45,9 +45,11 @@ TEST(CodeTable, KnowsTheOtherPagesOfTwoBytes) {
 }
 
 TEST(CodeTable, HasAsciiInItsLowerHalfWhateverThePage) {
-    for (const int nPage : {932, 1361, 1252, 7})
+    for (const int nPage : {932, 1361, 1252, 7}) {
+        const CCodeTable table(nPage);
         for (char c = 1; c < 0x7F; ++c)
-            EXPECT_EQ(Decoded(CCodeTable(nPage), std::string(1, c)), std::wstring(1, c)) << nPage;
+            EXPECT_EQ(Decoded(table, std::string(1, c)), std::wstring(1, c)) << nPage;
+    }
 }
 
 TEST(CodeTable, GivesTheReplacementCharacterForBytesThatAreNone) {

@@ -3,31 +3,11 @@
 #include "host/files/dwg_blocks.h"
 #include "host/files/dwg_curves.h"
 #include "host/files/dwg_texts.h"
-#include "platform/acad/db_block_reference.h"
-#include "platform/acad/db_line.h"
 #include "platform/acad/result_buffer.h"
-#include "tests/host/files/dwg_refusal.h"
+#include "tests/host/files/dwg_sample_drawing.h"
 #include "tests/host/files/dwg_written.h"
 
 namespace {
-
-AcDbObjectId Append(AcDbObjectId idBlock, AcDbEntity* pEntity) {
-    const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
-    AcDbObjectId id;
-    block->appendAcDbEntity(id, pEntity);
-    pEntity->close();
-    return id;
-}
-
-AcDbObjectId AddBlock(AcDbDatabase& database, const ACHAR* name) {
-    const CDbOpen<AcDbBlockTable> table(database.blockTableId(), AcDb::kForWrite);
-    auto* const pBlock = new AcDbBlockTableRecord;
-    pBlock->setName(name);
-    AcDbObjectId id;
-    table->add(id, pBlock);
-    pBlock->close();
-    return id;
-}
 
 CDwgEntityCommon CommonOf(const CDwgRecord& record) {
     CDwgRecordReader reader(record);
@@ -46,7 +26,7 @@ CDwgBlockHeader HeaderOf(const CDwgWritten& written, std::uint64_t nBlock) {
 TEST(WriteDwgBlocks, ChainsTheEntitiesOfModelSpace) {
     AcDbDatabase database;
     for (int i = 0; i < 3; ++i)
-        Append(database.ModelSpaceId(), new AcDbLine);
+        AppendTo(database.ModelSpaceId(), new AcDbLine);
     const CDwgWritten written(database);
     const std::vector<CDwgRecord> lines = written.OfType(g_nDwgLine);
     ASSERT_EQ(lines.size(), 3u);
@@ -83,8 +63,8 @@ TEST(WriteDwgBlocks, GivesTheSpacesTheirEndsAndLayouts) {
 TEST(WriteDwgBlocks, GivesABlockItsOwnEntitiesAndNamesItsInsertions) {
     AcDbDatabase database;
     const AcDbObjectId idBlock = AddBlock(database, L"\u56FE\u6846");
-    Append(idBlock, new AcDbAttributeDefinition({1.0, 2.0, 0.0}, L"text", L"TAG", L"Prompt"));
-    Append(database.ModelSpaceId(), new AcDbBlockReference({7.0, 7.0, 0.0}, idBlock));
+    AppendTo(idBlock, new AcDbAttributeDefinition({1.0, 2.0, 0.0}, L"text", L"TAG", L"Prompt"));
+    AppendTo(database.ModelSpaceId(), new AcDbBlockReference({7.0, 7.0, 0.0}, idBlock));
     const CDwgWritten written(database);
     const std::uint64_t nBlock = CDwgHandleMap(database).Of(idBlock);
     const CDwgBlockHeader header = HeaderOf(written, nBlock);
@@ -100,13 +80,9 @@ TEST(WriteDwgBlocks, GivesABlockItsOwnEntitiesAndNamesItsInsertions) {
 TEST(WriteDwgBlocks, ChainsTheAttributesOfAnInsertion) {
     AcDbDatabase database;
     const AcDbObjectId idReference =
-        Append(database.ModelSpaceId(), new AcDbBlockReference({}, AddBlock(database, L"B")));
-    for (const ACHAR* tag : {L"ONE", L"TWO"}) {
-        const CDbOpen<AcDbBlockReference> reference(idReference, AcDb::kForWrite);
-        auto* const pAttribute = new AcDbAttribute({}, L"value", tag);
-        reference->appendAttribute(pAttribute);
-        pAttribute->close();
-    }
+        AppendTo(database.ModelSpaceId(), new AcDbBlockReference({}, AddBlock(database, L"B")));
+    for (const ACHAR* tag : {L"ONE", L"TWO"})
+        AppendAttribute(idReference, new AcDbAttribute({}, L"value", tag));
     const CDwgWritten written(database);
     const std::vector<CDwgRecord> attributes = written.OfType(g_nDwgAttribute);
     ASSERT_EQ(attributes.size(), 2u);
@@ -126,7 +102,7 @@ TEST(WriteDwgBlocks, GivesEntitiesTheirColorLayerLinetypeAndExtendedData) {
     auto* const pLine = new AcDbLine;
     pLine->setColorIndex(5);
     pLine->setLinetype(RecordNamed(database.linetypeTableId(), L"ByBlock"));
-    const AcDbObjectId id = Append(database.ModelSpaceId(), pLine);
+    const AcDbObjectId id = AppendTo(database.ModelSpaceId(), pLine);
     {
         const CDbOpen<AcDbLine> line(id, AcDb::kForWrite);
         resbuf* const pChain = acutBuildList(1001, L"ACAD", 1000, L"text", 0);
@@ -144,7 +120,7 @@ TEST(WriteDwgBlocks, GivesEntitiesTheirColorLayerLinetypeAndExtendedData) {
 
 TEST(WriteDwgBlocks, LeavesErasedEntitiesOut) {
     AcDbDatabase database;
-    const AcDbObjectId id = Append(database.ModelSpaceId(), new AcDbLine);
+    const AcDbObjectId id = AppendTo(database.ModelSpaceId(), new AcDbLine);
     CDbOpen<AcDbLine>(id, AcDb::kForWrite)->erase();
     const CDwgWritten written(database);
     EXPECT_TRUE(written.OfType(g_nDwgLine).empty());

@@ -1,18 +1,9 @@
 #include "host/files/dwg_drawing_writer.h"
 
 #include "host/files/dwg_fixed_handles.h"
-#include "platform/acad/db_line.h"
+#include "tests/host/files/dwg_sample_drawing.h"
 #include "tests/host/files/dwg_structure.h"
 #include "tests/host/files/dwg_written.h"
-
-namespace {
-void AppendLine(AcDbDatabase& database) {
-    const CDbOpen<AcDbBlockTableRecord> block(database.ModelSpaceId(), AcDb::kForWrite);
-    auto* const pLine = new AcDbLine({0.0, 0.0, 0.0}, {100.0, 50.0, 0.0});
-    block->appendAcDbEntity(pLine);
-    pLine->close();
-}
-} // namespace
 
 TEST(DwgFileOf, AnEmptyDrawingIsSoundAndHasWhatEveryFileHas) {
     const AcDbDatabase database;
@@ -30,7 +21,7 @@ TEST(DwgFileOf, AnEmptyDrawingIsSoundAndHasWhatEveryFileHas) {
 TEST(DwgFileOf, ADrawingWithEntitiesIsSound) {
     AcDbDatabase database;
     for (int i = 0; i < 200; ++i)
-        AppendLine(database);
+        AppendTo(database.ModelSpaceId(), new AcDbLine({0.0, 0.0, 0.0}, {100.0, 50.0, 0.0}));
     EXPECT_EQ(DwgFaults(WriteDwgFile(DwgFileOf(database))), "");
 }
 

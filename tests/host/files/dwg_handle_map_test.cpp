@@ -1,17 +1,12 @@
 #include "host/files/dwg_handle_map.h"
 
-#include "platform/acad/db_line.h"
+#include "tests/host/files/dwg_sample_drawing.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 AcDbObjectId AppendLine(AcDbDatabase& database) {
-    const CDbOpen<AcDbBlockTableRecord> block(database.ModelSpaceId(), AcDb::kForWrite);
-    AcDbObjectId id;
-    auto* const pLine = new AcDbLine;
-    block->appendAcDbEntity(id, pLine);
-    pLine->close();
-    return id;
+    return AppendTo(database.ModelSpaceId(), new AcDbLine);
 }
 } // namespace
 

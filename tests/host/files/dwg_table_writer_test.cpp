@@ -3,19 +3,10 @@
 #include "host/files/dwg_dictionaries.h"
 #include "host/files/dwg_viewport.h"
 #include "tests/host/files/dwg_refusal.h"
+#include "tests/host/files/dwg_sample_drawing.h"
 #include "tests/host/files/dwg_written.h"
 
 namespace {
-
-template <class Table, class Record>
-AcDbObjectId AddRecord(AcDbObjectId idTable, const ACHAR* name, Record* pRecord) {
-    const CDbOpen<Table> table(idTable, AcDb::kForWrite);
-    AcDbObjectId id;
-    pRecord->setName(name);
-    table->add(id, pRecord);
-    pRecord->close();
-    return id;
-}
 
 template <class Record, class File>
 std::map<std::string, Record> Named(const std::vector<CDwgRecord>& records, File file) {
@@ -33,7 +24,7 @@ TEST(WriteDwgTables, GivesLayersTheirColorAndLinetype) {
     AcDbDatabase database;
     auto* const pLayer = new AcDbLayerTableRecord;
     pLayer->SetColorIndex(3);
-    AddRecord<AcDbLayerTable>(database.layerTableId(), L"\u571F\u5C42", pLayer);
+    AddRecord(database.layerTableId(), L"\u571F\u5C42", pLayer);
     const CDwgWritten written(database);
     const auto layers = Named<CDwgLayerRecord>(written.OfType(g_nDwgLayer), DWG_FILED(FileLayer));
     ASSERT_EQ(layers.size(), 2u);
@@ -50,8 +41,7 @@ TEST(WriteDwgTables, GivesLayersTheirColorAndLinetype) {
 
 TEST(WriteDwgTables, LeavesErasedRecordsOut) {
     AcDbDatabase database;
-    const AcDbObjectId id =
-        AddRecord<AcDbLayerTable>(database.layerTableId(), L"gone", new AcDbLayerTableRecord);
+    const AcDbObjectId id = AddRecord(database.layerTableId(), L"gone", new AcDbLayerTableRecord);
     CDbOpen<AcDbLayerTableRecord>(id, AcDb::kForWrite)->erase();
     EXPECT_EQ(CDwgWritten(database).OfType(g_nDwgLayer).size(), 1u);
 }
@@ -60,7 +50,7 @@ TEST(WriteDwgTables, GivesLinetypesTheirDashesAndLength) {
     AcDbDatabase database;
     auto* const pLinetype = new AcDbLinetypeTableRecord;
     pLinetype->SetPattern(L"Dashed", {1.0, -0.5, 0.0, -0.5});
-    AddRecord<AcDbLinetypeTable>(database.linetypeTableId(), L"DASHDOT", pLinetype);
+    AddRecord(database.linetypeTableId(), L"DASHDOT", pLinetype);
     const CDwgWritten written(database);
     const auto linetypes = Named<CDwgLinetypeRecord>(written.OfType(g_nDwgLinetype), DWG_FILED(FileLinetype));
     ASSERT_EQ(linetypes.size(), 4u);
@@ -80,7 +70,7 @@ TEST(WriteDwgTables, RefusesALinetypeOfMoreDashesThanAFileHolds) {
     AcDbDatabase database;
     auto* const pLinetype = new AcDbLinetypeTableRecord;
     pLinetype->SetPattern(L"", std::vector<double>(256, 1.0));
-    AddRecord<AcDbLinetypeTable>(database.linetypeTableId(), L"long", pLinetype);
+    AddRecord(database.linetypeTableId(), L"long", pLinetype);
     EXPECT_NE(RefusalOf([&] { DwgFileOf(database); }).find("too many dashes"), std::string::npos);
 }
 
@@ -89,7 +79,7 @@ TEST(WriteDwgTables, GivesStylesTheirFontsAndNamedOnesAsExtendedData) {
     auto* const pStyle = new AcDbTextStyleTableRecord;
     pStyle->setFont(L"\u4EFF\u5B8B", Adesk::kTrue, Adesk::kFalse, 134, 2);
     pStyle->setXScale(0.7);
-    AddRecord<AcDbTextStyleTable>(database.textStyleTableId(), L"named", pStyle);
+    AddRecord(database.textStyleTableId(), L"named", pStyle);
     const std::vector<CDwgRecord> records = CDwgWritten(database).OfType(g_nDwgStyle);
     const auto styles = Named<CDwgStyleRecord>(records, DWG_FILED(FileStyle));
     EXPECT_EQ(styles.at("Standard").m_strFont, "txt.shx");

@@ -150,6 +150,16 @@ TEST(AcDbDatabase, NamesItsObjectsInOrderWithoutErasedOnes) {
     EXPECT_EQ(after.back(), idSecond);
 }
 
+TEST(AcDbDatabase, GivesTheNextObjectTheHandleThatIsAskedForIfItIsFree) {
+    AcDbDatabase database;
+    EXPECT_TRUE(database.SetHandseed(AcDbHandle(0x100)));
+    EXPECT_EQ(Append(database, new AcDbPolyline).handle(), AcDbHandle(0x100));
+    EXPECT_EQ(database.handseed(), AcDbHandle(0x101));
+    EXPECT_FALSE(database.SetHandseed(AcDbHandle(0x100)));
+    EXPECT_FALSE(database.SetHandseed(AcDbHandle()));
+    EXPECT_EQ(database.handseed(), AcDbHandle(0x101));
+}
+
 TEST(AddObject, RefusesNothingAndWhatHasAnOwner) {
     AcDbDatabase database, other;
     AcDbObjectId id;
