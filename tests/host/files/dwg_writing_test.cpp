@@ -1,0 +1,33 @@
+#include "host/files/dwg_writing.h"
+
+#include "tests/host/files/dwg_sample_drawing.h"
+
+#include <gtest/gtest.h>
+
+TEST(DwgReactorsOf, LeavesOutThoseThatAreNotInTheFile) {
+    AcDbDatabase database;
+    const AcDbObjectId idLine = AppendTo(database.ModelSpaceId(), new AcDbLine),
+                       idGone = AppendTo(database.ModelSpaceId(), new AcDbLine),
+                       idTold = AppendTo(database.ModelSpaceId(), new AcDbLine);
+    const CDbOpen<AcDbLine> line(idLine, AcDb::kForWrite);
+    line->addPersistentReactor(idGone);
+    line->addPersistentReactor(idTold);
+    CDbOpen<AcDbLine>(idGone, AcDb::kForWrite)->erase();
+    const CDwgText text(g_nDwgAnsi936);
+    CDwgHandleMap handles(database);
+    EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, text, g_nDwgAnsi936, handles}),
+              std::vector(1, SoftPointer(handles.Of(idTold))));
+}
+
+TEST(DwgExtendedDataOf, PacksEachApplicationsValuesUnderItsHandle) {
+    AcDbDatabase database;
+    const AcDbObjectId idApp = AddRecord(database.regAppTableId(), L"APP", new AcDbRegAppTableRecord);
+    AcDbLine line;
+    line.PutXData({idApp, {{1000, L"text"}, {1003, L"0"}}});
+    const CDwgText text(g_nDwgAnsi936);
+    CDwgHandleMap handles(database);
+    const auto extended = DwgExtendedDataOf(line, {database, text, g_nDwgAnsi936, handles});
+    ASSERT_EQ(extended.size(), 1u);
+    EXPECT_EQ(extended[0].m_hApp, HardPointer(handles.Of(idApp)));
+    EXPECT_EQ(extended[0].m_arBytes.back(), CDwgFixed::s_nLayer0);
+}
