@@ -37,6 +37,7 @@ private:
         m_reading.m_ids[record.m_nHandle] = id;
         const CDbOpen<AcDbBlockTableRecord> block(id, AcDb::kForWrite);
         block->setOrigin(header.m_ptBase);
+        ReadDwgExtendedData(*block.Get(), record, m_reading);
         m_headers.emplace(record.m_nHandle, std::move(header));
     }
 

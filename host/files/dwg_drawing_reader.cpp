@@ -1,10 +1,11 @@
 #include "host/files/dwg_drawing_reader.h"
 
 #include "host/files/dwg_block_reader.h"
+#include "host/files/dwg_common.h"
 #include "host/files/dwg_error.h"
 #include "host/files/dwg_fixed_handles.h"
+#include "host/files/dwg_handle_map.h"
 #include "host/files/dwg_table_reader.h"
-#include "host/files/dwg_table_records.h"
 
 #include <algorithm>
 
@@ -12,12 +13,44 @@ namespace {
 
 constexpr std::uint64_t g_nHighestHandle = std::uint64_t{1} << 62; ///< leaves room for objects to come
 
-/// Those of the records of layers, line types and so on; the font of a style is read already.
+/// Takes the font away that stands among a style's extended data, since the style itself has it by now.
+void DropTypeface(AcDbTextStyleTableRecord& style, const AcDbDatabase& database) {
+    std::wstring strTypeface;
+    Adesk::Boolean bBold = 0, bItalic = 0;
+    int nCharset = 0, nPitchAndFamily = 0;
+    style.font(strTypeface, bBold, bItalic, nCharset, nPitchAndFamily);
+    if (!strTypeface.empty()) style.PutXData({RecordNamed(database.regAppTableId(), L"ACAD"), {}});
+}
+
+/// Those of the records of layers, line types and so on.
 void ReadTablesExtendedData(const CDwgReading& reading) {
     for (const auto& [nHandle, id] : reading.m_ids) {
-        const CDwgRecord& record = reading.m_records.at(nHandle);
         const CDbOpen<AcDbSymbolTableRecord> open(id, AcDb::kForWrite);
-        if (open && record.m_nType != g_nDwgStyle) ReadDwgExtendedData(*open.Get(), record, reading);
+        ReadDwgExtendedData(*open.Get(), reading.m_records.at(nHandle), reading);
+        if (auto* const pStyle = AcDbTextStyleTableRecord::cast(open.Get()))
+            DropTypeface(*pStyle, reading.m_database);
+    }
+}
+
+/// The objects that an object tells of changes, all of which must have been read.
+void ReadReactors(AcDbObject& object, const CDwgRecord& record, const CDwgReading& reading) {
+    CDwgRecordReader io(record);
+    CDwgEntityCommon entity;
+    CDwgObjectCommon other;
+    const bool bEntity = object.isKindOf(AcDbEntity::desc());
+    if (bEntity) {
+        FileEntityCommon(io, entity);
+    } else {
+        FileObjectCommon(io, other);
+    }
+    for (const CDwgHandle& handle : bEntity ? entity.m_arReactors : other.m_arReactors)
+        object.addPersistentReactor(reading.IdOf(handle)); // which refuses none
+}
+
+void ReadAllReactors(const CDwgReading& reading) {
+    for (const auto& [nHandle, id] : reading.m_ids) {
+        const CDbOpen<AcDbObject> open(id, AcDb::kForWrite);
+        if (open) ReadReactors(*open.Get(), reading.m_records.at(nHandle), reading);
     }
 }
 
@@ -52,6 +85,7 @@ std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file) {
     ReadDwgTables(file.m_variables.m_roots, reading);
     ReadTablesExtendedData(reading);
     ReadDwgBlocks(reading);
+    ReadAllReactors(reading);
     ReadVariables(file.m_variables, reading);
     TakeDwgHandle(reading, std::max(reading.m_nSpareHandle, CDwgFixed::s_nFirstFree));
     pDatabase->SetModified(false);

@@ -113,6 +113,37 @@ TEST(DrawingOfDwg, KeepsTheVariables) {
     EXPECT_TRUE(ReadBack(AcDbDatabase())->celtype().isNull());
 }
 
+TEST(DrawingOfDwg, KeepsWhoIsToldOfChanges) {
+    AcDbDatabase database;
+    const AcDbObjectId idLine = AppendTo(database.ModelSpaceId(), new AcDbLine),
+                       idTold = AppendTo(database.ModelSpaceId(), new AcDbLine);
+    CDbOpen<AcDbLine>(idLine, AcDb::kForWrite)->addPersistentReactor(idTold);
+    CDbOpen<AcDbLayerTableRecord>(database.clayer(), AcDb::kForWrite)->addPersistentReactor(idTold);
+    const auto pBack = ReadBack(database);
+    const auto ids = EntitiesOf(pBack->ModelSpaceId());
+    EXPECT_TRUE(CDbOpen<AcDbLine>(ids[0])->hasPersistentReactor(ids[1]));
+    EXPECT_TRUE(CDbOpen<AcDbLayerTableRecord>(pBack->clayer())->hasPersistentReactor(ids[1]));
+}
+
+TEST(DrawingOfDwg, KeepsExtendedDataOfRecordsAndEntities) {
+    AcDbDatabase database;
+    const AcDbObjectId idApp = AddRecord(database.regAppTableId(), L"APP", new AcDbRegAppTableRecord);
+    const AcDbObjectId idLine = AppendTo(database.ModelSpaceId(), new AcDbLine);
+    for (const AcDbObjectId& id : {idLine, database.clayer(), database.ModelSpaceId()})
+        CDbOpen<AcDbObject>(id, AcDb::kForWrite)->PutXData({idApp, {{1000, L"\u571F"}, {1040, -0.0}}});
+    const auto pBack = ReadBack(database);
+    for (const AcDbObjectId& id :
+         {EntitiesOf(pBack->ModelSpaceId())[0], pBack->clayer(), pBack->ModelSpaceId()}) {
+        const CDbOpen<AcDbObject> object(id);
+        ASSERT_EQ(object->XData().Apps().size(), 1u);
+        const CXDataOfApp& app = object->XData().Apps()[0];
+        EXPECT_EQ(SymbolName(app.m_idApp), "APP");
+        ASSERT_EQ(app.m_arItems.size(), 2u);
+        EXPECT_EQ(std::get<std::wstring>(app.m_arItems[0].m_value), L"\u571F");
+        EXPECT_TRUE(std::signbit(std::get<double>(app.m_arItems[1].m_value)));
+    }
+}
+
 TEST(DrawingOfDwg, RefusesHandlesThatLeaveNoRoomForOthers) {
     CDwgFile file = DwgFileOf(AcDbDatabase());
     file.m_contents[0xFFFFFFFFFFFFFFFF] = {};

@@ -76,6 +76,7 @@ TEST(ReadDwgTables, KeepsBothKindsOfFonts) {
     EXPECT_TRUE(bBold && !bItalic);
     EXPECT_EQ(nCharset, 134);
     EXPECT_EQ(nPitchAndFamily, 2);
+    EXPECT_TRUE(named->XData().Apps().empty());
     const auto& shapes = RecordOf<AcDbTextStyleTableRecord>(pBack->textStyleTableId(), L"shapes");
     EXPECT_EQ(shapes.FileName(), L"txt.shx");
     EXPECT_EQ(shapes.BigFontFileName(), L"big.shx");
