@@ -1,15 +1,15 @@
 #include "host/files/dwg_block_reader.h"
 
 #include "host/files/dwg_blocks.h"
+#include "host/files/dwg_custom_entities.h"
 #include "host/files/dwg_entity_reader.h"
 #include "host/files/dwg_handle_map.h"
 #include "platform/acad/db_block_reference.h"
 
+#include <algorithm>
 #include <set>
 
 namespace {
-
-constexpr std::uint16_t g_nFirstClass = 500;
 
 class CBlockReader {
 public:
@@ -21,6 +21,9 @@ public:
             if (record.m_nType == g_nDwgBlockHeader) ReadHeader(record);
         for (const auto& [nHandle, header] : m_headers)
             ReadEntities(header, m_reading.m_ids.at(nHandle));
+        for (const auto& [nHandle, id] : m_custom)
+            ReadDwgCustomEntity(*CDbOpen<AcDbEntity>(id, AcDb::kForWrite).Get(),
+                                m_reading.m_records.at(nHandle), m_reading);
     }
 
 private:
@@ -64,17 +67,30 @@ private:
         return id;
     }
 
+    /// An entity of a fixed type, or an empty one of a class of the file.
+    CDwgReadEntity ReadEntity(const CDwgRecord& record) const {
+        CDwgReadEntity read = ReadDwgEntity(record, m_reading);
+        if (read.m_pEntity) return read;
+        const auto& classes = m_reading.m_classes;
+        const auto found = std::find_if(classes.begin(), classes.end(), [&](const CDwgClass& entry) {
+            return entry.m_nNumber == record.m_nType;
+        });
+        if (found == classes.end())
+            RefuseDwgObject(record.m_nHandle, "an entity of its type cannot be kept.");
+        read.m_pEntity = MakeDwgCustomEntity(*found, m_reading.m_text);
+        if (!read.m_pEntity) RefuseDwgObject(record.m_nHandle, "an entity of its class cannot be kept.");
+        CDwgRecordReader io(record);
+        FileEntityCommon(io, read.m_common);
+        return read;
+    }
+
     /// Follows a chain of entities; each is read once, whatever the chain says.
     template <class Take>
     void FollowChain(std::uint64_t nFirst, std::uint64_t nLast, Take take) {
         for (std::uint64_t nHandle = nFirst; nHandle != 0;) {
             const CDwgRecord* const pRecord = Find(nHandle);
             if (!pRecord || !m_taken.insert(nHandle).second) return;
-            CDwgReadEntity read = ReadDwgEntity(*pRecord, m_reading);
-            if (!read.m_pEntity)
-                RefuseDwgObject(nHandle, pRecord->m_nType < g_nFirstClass
-                                             ? "an entity of its type cannot be kept."
-                                             : "an entity of its class cannot be kept.");
+            CDwgReadEntity read = ReadEntity(*pRecord);
             const bool bLast = nHandle == nLast;
             const std::uint64_t nNext =
                 read.m_common.m_bNeighbours ? nHandle + 1 : read.m_common.m_hNext.m_nValue;
@@ -112,16 +128,22 @@ private:
                     });
     }
 
-    /// What can be given only to an entity of the drawing; closes it.
+    /// What can be given only to an entity of the drawing; closes it. Custom ones read it themselves, once
+    /// all is there that they may refer to.
     void Finish(AcDbEntity& entity, const CDwgRecord& record, AcDbObjectId id) {
         m_reading.m_ids[record.m_nHandle] = id;
-        ReadDwgExtendedData(entity, record, m_reading);
+        if (record.m_nType < g_nDwgFirstClass) {
+            ReadDwgExtendedData(entity, record, m_reading);
+        } else {
+            m_custom.emplace_back(record.m_nHandle, id);
+        }
         entity.close();
     }
 
     CDwgReading& m_reading;
     std::map<std::uint64_t, CDwgBlockHeader> m_headers;
     std::set<std::uint64_t> m_taken;
+    std::vector<std::pair<std::uint64_t, AcDbObjectId>> m_custom;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "host/files/dwg_block_writer.h"
 
 #include "host/files/dwg_blocks.h"
+#include "host/files/dwg_custom_entities.h"
 #include "host/files/dwg_entity_writer.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_stub.h"
@@ -135,7 +136,7 @@ private:
         const auto* const pReference = AcDbBlockReference::cast(entity.Get());
         if (pReference) attributes = WriteAttributes(*pReference, common.m_hLayer);
         std::optional<CDwgRecord> record = WriteDwgEntity(*entity.Get(), common, attributes, m_writing);
-        if (!record) RefuseDwgObject(m_writing.m_handles.Of(id), "its class has no place in a file.");
+        if (!record) record = WriteDwgCustomEntity(*entity.Get(), common, m_writing);
         m_records.push_back(std::move(*record));
     }
 

@@ -53,8 +53,8 @@ CDwgFile DwgFileOf(const AcDbDatabase& database) {
     CDwgFile file;
     const CDwgText text(file.m_identity.m_nCodePage);
     CDwgHandleMap handles(database);
-    const CDwgWriting writing{database, text, file.m_identity.m_nCodePage, handles};
     file.m_arClasses = DwgStandardClasses();
+    const CDwgWriting writing{database, text, file.m_identity.m_nCodePage, handles, file.m_arClasses};
     std::vector<CDwgRecord> records = DwgStandardObjects();
     WriteDwgTables(writing, records);
     WriteDwgBlocks(writing, records);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/dwg_classes.h"
 #include "host/files/dwg_record_io.h"
 #include "host/files/dwg_text.h"
 #include "platform/acad/db_database.h"
@@ -13,6 +14,7 @@ struct CDwgReading {
     std::uint16_t m_nCodePage;                     ///< the text's
     std::map<std::uint64_t, CDwgRecord> m_records; ///< all of the file
     std::map<std::uint64_t, AcDbObjectId> m_ids;   ///< what was made of them so far
+    const std::vector<CDwgClass>& m_classes;       ///< of the file
     std::uint64_t m_nSpareHandle = 1;              ///< above the file's, for an object whose own is taken
 
     /// What was made of an object; null for none.

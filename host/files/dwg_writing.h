@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/dwg_classes.h"
 #include "host/files/dwg_common.h"
 #include "host/files/dwg_extended_data.h"
 #include "host/files/dwg_handle_map.h"
@@ -11,6 +12,7 @@ struct CDwgWriting {
     const CDwgText& m_text;
     std::uint16_t m_nCodePage; ///< the text's
     CDwgHandleMap& m_handles;
+    std::vector<CDwgClass>& m_classes; ///< of the file
 };
 
 /// The extended data of an object as its record holds them.

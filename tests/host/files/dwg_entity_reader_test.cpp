@@ -31,7 +31,8 @@ public:
 private:
     AcDbDatabase m_database;
     CDwgText m_text{g_nDwgAnsi936};
-    CDwgReading m_reading{m_database, m_text, g_nDwgAnsi936, {}, {}};
+    std::vector<CDwgClass> m_classes;
+    CDwgReading m_reading{m_database, m_text, g_nDwgAnsi936, {}, {}, m_classes};
 };
 
 template <class Class>

@@ -17,7 +17,8 @@ namespace {
 class CEntityWriting {
 public:
     std::optional<CDwgRecord> Write(const AcDbEntity& entity, const CDwgSequence& attributes = {}) {
-        return WriteDwgEntity(entity, {}, attributes, {m_database, m_text, g_nDwgAnsi936, m_handles});
+        return WriteDwgEntity(entity, {}, attributes,
+                              {m_database, m_text, g_nDwgAnsi936, m_handles, m_classes});
     }
     /// The own part of an entity of the type.
     template <class Part, class File>
@@ -37,6 +38,7 @@ private:
     AcDbDatabase m_database;
     CDwgText m_text{g_nDwgAnsi936};
     CDwgHandleMap m_handles{m_database};
+    std::vector<CDwgClass> m_classes;
 };
 
 AcGePoint3dArray Points(std::initializer_list<AcGePoint3d> points) {

@@ -13,7 +13,8 @@ const CDwgText g_text(g_nDwgAnsi936);
 
 TEST(TakeDwgHandle, GivesTheHandleOfTheFileOrASpareOne) {
     AcDbDatabase database;
-    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}, 0x200};
+    const std::vector<CDwgClass> classes;
+    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}, classes, 0x200};
     TakeDwgHandle(reading, 0x100);
     EXPECT_EQ(AppendTo(database.ModelSpaceId(), new AcDbLine).handle(), AcDbHandle(0x100));
     TakeDwgHandle(reading, 0x100);
@@ -24,7 +25,8 @@ TEST(TakeDwgHandle, GivesTheHandleOfTheFileOrASpareOne) {
 
 TEST(ReadDwgExtendedData, GivesAnObjectWhatKnownApplicationsHungOnIt) {
     AcDbDatabase database;
-    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}};
+    const std::vector<CDwgClass> classes;
+    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}, classes};
     reading.m_ids[0x12] = RecordNamed(database.regAppTableId(), L"ACAD");
     reading.m_ids[0x10] = database.clayer();
     CDwgRecord record;

@@ -15,7 +15,8 @@ TEST(DwgReactorsOf, LeavesOutThoseThatAreNotInTheFile) {
     CDbOpen<AcDbLine>(idGone, AcDb::kForWrite)->erase();
     const CDwgText text(g_nDwgAnsi936);
     CDwgHandleMap handles(database);
-    EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, text, g_nDwgAnsi936, handles}),
+    std::vector<CDwgClass> classes;
+    EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, text, g_nDwgAnsi936, handles, classes}),
               std::vector(1, SoftPointer(handles.Of(idTold))));
 }
 
@@ -26,7 +27,8 @@ TEST(DwgExtendedDataOf, PacksEachApplicationsValuesUnderItsHandle) {
     line.PutXData({idApp, {{1000, L"text"}, {1003, L"0"}}});
     const CDwgText text(g_nDwgAnsi936);
     CDwgHandleMap handles(database);
-    const auto extended = DwgExtendedDataOf(line, {database, text, g_nDwgAnsi936, handles});
+    std::vector<CDwgClass> classes;
+    const auto extended = DwgExtendedDataOf(line, {database, text, g_nDwgAnsi936, handles, classes});
     ASSERT_EQ(extended.size(), 1u);
     EXPECT_EQ(extended[0].m_hApp, HardPointer(handles.Of(idApp)));
     EXPECT_EQ(extended[0].m_arBytes.back(), CDwgFixed::s_nLayer0);
