@@ -1,0 +1,58 @@
+#include "host/files/dxf_writer.h"
+
+#include "host/files/dxf_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <utility>
+
+void CDxfWriter::Code(int nCode) {
+    const std::string strCode = std::to_string(nCode);
+    if (strCode.size() < 3) m_strBytes.append(3 - strCode.size(), ' ');
+    m_strBytes += strCode;
+    m_strBytes += '\n';
+}
+
+void CDxfWriter::Word(int nCode, std::string_view word) {
+    Code(nCode);
+    m_strBytes += word;
+    m_strBytes += '\n';
+}
+
+void CDxfWriter::Text(int nCode, std::wstring_view text) {
+    Word(nCode, EncodeDxfText(text));
+}
+
+void CDxfWriter::Real(int nCode, double value) {
+    if (!std::isfinite(value)) m_bFinite = false;
+    std::array<char, 32> digits{};
+    std::string strNumber(digits.begin(), std::to_chars(digits.begin(), digits.end(), value).ptr);
+    if (strNumber.find('.') == std::string::npos)
+        strNumber.insert(std::min(strNumber.find('e'), strNumber.size()), ".0");
+    Word(nCode, strNumber);
+}
+
+void CDxfWriter::Whole(int nCode, std::int64_t value) {
+    Word(nCode, std::to_string(value));
+}
+
+void CDxfWriter::Handle(int nCode, AcDbHandle handle) {
+    Word(nCode, handle.isNull() ? "0" : handle.Hex());
+}
+
+void CDxfWriter::Point(int nCode, const AcGePoint2d& point) {
+    Real(nCode, point.x);
+    Real(nCode + 10, point.y);
+}
+
+void CDxfWriter::Point(int nCode, const AcGePoint3d& point) {
+    Point(nCode, AcGePoint2d(point.x, point.y));
+    Real(nCode + 20, point.z);
+}
+
+bool CDxfWriter::TakeBackUnlessFinite(std::size_t nSize) {
+    const bool bFinite = std::exchange(m_bFinite, true);
+    if (!bFinite) m_strBytes.resize(nSize);
+    return !bFinite;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/acad/db_object_id.h"
+#include "platform/acad/geometry.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Writes groups in the text form, one call a group.
+class CDxfWriter {
+public:
+    void Word(int nCode, std::string_view word); ///< ASCII, as it stands
+    void Text(int nCode, std::wstring_view text);
+    void Real(int nCode, double value); ///< the shortest text that reads back to the same number
+    void Whole(int nCode, std::int64_t value);
+    void Handle(int nCode, AcDbHandle handle);
+    void Point(int nCode, const AcGePoint2d& point);
+    void Point(int nCode, const AcGePoint3d& point);
+
+    const std::string& Bytes() const { return m_strBytes; }
+    /// Takes back what was written behind the first nSize bytes, when a number in it was not finite, which no
+    /// file can hold. True if so.
+    bool TakeBackUnlessFinite(std::size_t nSize);
+
+private:
+    void Code(int nCode);
+
+    std::string m_strBytes;
+    bool m_bFinite = true;
+};
