@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 ACRX_DEFINE_DESC(AcDbDatabase, AcRxObject)
 
@@ -184,6 +185,18 @@ Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject,
     pObject->m_idOwner = idOwner;
     m_undoLog.NoteAppended(*pStub);
     m_mapStubs.emplace(pStub->m_handle, std::move(pStub));
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbDatabase::SetHandle(AcDbObjectId id, AcDbHandle handle) {
+    constexpr Adesk::UInt64 nHighest = std::numeric_limits<Adesk::Int64>::max();
+    if (id.isNull() || id.database() != this) return Acad::eWrongDatabase;
+    if (handle.isNull() || handle.Value() > nHighest || m_mapStubs.contains(handle))
+        return Acad::eInvalidInput;
+    auto node = m_mapStubs.extract(id.handle());
+    node.key() = node.mapped()->m_handle = handle;
+    m_mapStubs.insert(std::move(node));
+    m_nNextHandle = std::max(m_nNextHandle, handle.Value() + 1);
     return Acad::eOk;
 }
 

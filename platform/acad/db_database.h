@@ -78,6 +78,9 @@ public:
     /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed, for
     /// a handle that an object has.
     bool SetHandseed(AcDbHandle handle);
+    /// Gives an object of this drawing another handle, as a file has it, before anything refers to the former
+    /// one. eInvalidInput for one that is taken, null or beyond 63 bits; eWrongDatabase.
+    Acad::ErrorStatus SetHandle(AcDbObjectId id, AcDbHandle handle);
 
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);

@@ -172,6 +172,29 @@ TEST(AddObject, RefusesNothingAndWhatHasAnOwner) {
     EXPECT_EQ(other.AddObject(id, pOwned, AcDbObjectId::kNull), Acad::eAlreadyInDb);
 }
 
+TEST(SetHandle, MovesAnObjectAndTheHandlesToCome) {
+    AcDbDatabase database;
+    const AcDbHandle former = database.ModelSpaceId().handle();
+    EXPECT_EQ(database.SetHandle(database.ModelSpaceId(), AcDbHandle(0x1F0)), Acad::eOk);
+    EXPECT_EQ(database.ModelSpaceId().handle(), AcDbHandle(0x1F0));
+    AcDbObjectId id;
+    EXPECT_EQ(database.getAcDbObjectId(id, former), Acad::eUnknownHandle);
+    ASSERT_EQ(database.getAcDbObjectId(id, AcDbHandle(0x1F0)), Acad::eOk);
+    EXPECT_EQ(id, database.ModelSpaceId());
+    EXPECT_EQ(database.handseed(), AcDbHandle(0x1F1));
+}
+
+TEST(SetHandle, RefusesATakenOneAndWhatIsNone) {
+    AcDbDatabase database, other;
+    const AcDbObjectId id = database.ModelSpaceId();
+    EXPECT_EQ(database.SetHandle(id, database.layerTableId().handle()), Acad::eInvalidInput);
+    EXPECT_EQ(database.SetHandle(id, AcDbHandle()), Acad::eInvalidInput);
+    EXPECT_EQ(database.SetHandle(id, AcDbHandle(~Adesk::UInt64{0})), Acad::eInvalidInput);
+    EXPECT_EQ(database.SetHandle(AcDbObjectId::kNull, AcDbHandle(0x1F0)), Acad::eWrongDatabase);
+    EXPECT_EQ(other.SetHandle(id, AcDbHandle(0x1F0)), Acad::eWrongDatabase);
+    EXPECT_EQ(id, database.ModelSpaceId());
+}
+
 TEST(SymbolName, OfANullIdOrOfNoRecordIsEmpty) {
     AcDbDatabase database;
     EXPECT_EQ(SymbolName(AcDbObjectId::kNull), "");

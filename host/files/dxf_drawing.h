@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/files/dxf_record.h"
+#include "platform/acad/db_database.h"
+
+#include <map>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+/// What a file holds and its drawing does not, or the reverse: each kind once, with its count.
+using CDxfLosses = std::map<std::string, int>;
+
+/// A drawing while a file is read into it. Records of tables are found by name; what is named before it is
+/// defined, or never is, stands there with the values of a new one.
+class CDxfDrawing {
+public:
+    explicit CDxfDrawing(AcDbDatabase& database)
+        : m_database(database) {}
+
+    AcDbDatabase& Database() const { return m_database; }
+    AcDbObjectId Block(const std::wstring& strName);
+    AcDbObjectId Layer(const std::wstring& strName);
+    AcDbObjectId LinetypeRecord(const std::wstring& strName);
+    /// The line type that an entity is given by its name: null for ByLayer and no name.
+    AcDbObjectId Linetype(const std::wstring& strName);
+    AcDbObjectId TextStyle(const std::wstring& strName);
+    AcDbObjectId App(const std::wstring& strName);
+
+    /// Gives an object the handle of its record and its extended data.
+    void Identify(AcDbObjectId id, const CDxfRecord& record);
+
+    void Lose(const std::string& strKind) { ++m_mapLost[strKind]; }
+    void Lose(const CDxfRecord& record) { Lose(std::string(record.m_type)); }
+    const CDxfLosses& Losses() const { return m_mapLost; }
+
+private:
+    using CIds = std::unordered_map<std::wstring, AcDbObjectId>; ///< by the name in upper case
+    template <class Table, class Record>
+    AcDbObjectId Named(AcDbObjectId idTable, CIds& mapIds, const std::wstring& strName);
+    void TakeHandle(AcDbObjectId id, AcDbHandle handle);
+
+    AcDbDatabase& m_database;
+    CIds m_mapBlocks, m_mapLayers, m_mapLinetypes, m_mapTextStyles, m_mapApps;
+    std::unordered_set<Adesk::UInt64> m_setTaken; ///< handles that the file gave
+    CDxfLosses m_mapLost;
+};

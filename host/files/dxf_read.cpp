@@ -1,0 +1,105 @@
+#include "host/files/dxf_read.h"
+
+#include "host/files/dxf_header.h"
+#include "host/files/dxf_read_entities.h"
+#include "host/files/dxf_read_tables.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// Objects that every drawing has and that are written anew.
+constexpr std::array<std::string_view, 5> g_arUsualObjects = {"DICTIONARY", "ACDBDICTIONARYWDFLT",
+                                                              "ACDBPLACEHOLDER", "LAYOUT", "MLINESTYLE"};
+
+/// A file on its way into a drawing, section by section.
+class CDxfReading {
+public:
+    CDxfReading(CDxfReader& reader, AcDbDatabase& database)
+        : m_records(reader)
+        , m_drawing(database)
+        , m_entities(m_drawing) {}
+
+    CDxfLosses Read() {
+        while (Next()) {
+            if (m_record.m_type == "EOF") {
+                m_header.Apply(m_drawing);
+                m_drawing.Database().SetModified(false);
+                return m_drawing.Losses();
+            }
+            if (m_record.m_type != "SECTION") m_records.Fail(m_record, "a section is expected");
+            ReadSection(m_record.Text(2));
+        }
+        m_records.Fail(m_record, "the file ends before its end is told");
+    }
+
+private:
+    bool Next() { return m_records.Next(&m_record); }
+
+    void ReadSection(const std::wstring& strName) {
+        if (strName == L"HEADER") ReadHeader();
+        const CDxfRecord section = m_record;
+        while (Next()) {
+            if (m_record.m_type == "ENDSEC") return m_entities.End();
+            if (strName == L"TABLES") ReadDxfTableRecord(m_record, m_drawing);
+            if (strName == L"BLOCKS") ReadBlocks();
+            if (strName == L"ENTITIES") m_entities.Add(m_record, Space());
+            if (strName == L"OBJECTS") ReadObject();
+        }
+        m_records.Fail(section, "a section that does not end");
+    }
+
+    void ReadHeader() {
+        m_header = CDxfHeader(m_record);
+        m_records.SetEncoding(m_header.Encoding());
+    }
+
+    AcDbObjectId Space() {
+        return m_drawing.Block(m_record.Whole(67) != 0 ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE);
+    }
+
+    void ReadBlocks() {
+        if (m_record.m_type == "BLOCK") return BeginBlock();
+        if (m_record.m_type == "ENDBLK") {
+            m_entities.End();
+            return m_idBlock.setNull();
+        }
+        if (m_idBlock.isNull()) m_records.Fail(m_record, "a block is expected");
+        m_entities.Add(m_record, m_idBlock);
+    }
+
+    void BeginBlock() {
+        constexpr int nExternal = 4;
+        if (m_record.HasFlag(70, nExternal)) m_drawing.Lose("BLOCK of another file");
+        m_idBlock = m_drawing.Block(m_record.Text(2));
+        if (m_idBlock.isNull()) m_records.Fail(m_record, "a block without a name");
+        const CDbOpen<AcDbBlockTableRecord> block(m_idBlock, AcDb::kForWrite);
+        block->setOrigin(m_record.Point(10));
+    }
+
+    void ReadObject() {
+        if (m_record.m_type == "DICTIONARY" && !m_bRootRead) {
+            m_bRootRead = true; // the first dictionary is the one of named objects
+            m_drawing.Identify(m_drawing.Database().namedObjectsDictionaryId(), m_record);
+        }
+        if (std::find(g_arUsualObjects.begin(), g_arUsualObjects.end(), m_record.m_type) ==
+            g_arUsualObjects.end())
+            m_drawing.Lose(m_record);
+    }
+
+    CDxfRecords m_records;
+    CDxfDrawing m_drawing;
+    CDxfEntities m_entities;
+    CDxfHeader m_header;
+    CDxfRecord m_record;
+    AcDbObjectId m_idBlock; ///< the one under way
+    bool m_bRootRead = false;
+};
+
+} // namespace
+
+CDxfLosses ReadDxf(std::string_view bytes, AcDbDatabase& database) {
+    const std::unique_ptr<CDxfReader> pReader = OpenDxf(bytes);
+    return CDxfReading(*pReader, database).Read();
+}

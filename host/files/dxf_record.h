@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/files/dxf_reader.h"
+#include "host/files/dxf_text.h"
+#include "platform/acad/geometry.h"
+
+#include <vector>
+
+/// A record of a DXF file: group 0 with its type, and the groups up to the next one. Groups of applications
+/// and embedded objects are left out.
+struct CDxfRecord {
+    std::string_view m_type;
+    std::size_t m_nPlace = 0;
+    std::vector<CDxfTag> m_arTags;
+    std::vector<CDxfTag> m_arXData; ///< from the first group 1001 on
+    const CDxfEncoding* m_pEncoding = nullptr;
+
+    // The first value under a code, or what stands for it where there is none.
+    const CDxfTag* Find(int nCode) const; ///< null for none
+    std::wstring Text(int nCode, const std::wstring& strElse = {}) const;
+    double Real(int nCode, double dElse = 0.0) const;
+    std::int64_t Whole(int nCode, std::int64_t nElse = 0) const;
+    bool HasFlag(int nCode, std::int64_t nFlag) const { return (Whole(nCode) & nFlag) != 0; }
+    /// The point whose x has this code; a missing coordinate is 0.
+    AcGePoint3d Point(int nCode) const;
+
+    // All values under a code, in their order.
+    std::vector<double> Reals(int nCode) const;
+    std::vector<AcGePoint3d> Points(int nCode) const;
+};
+
+/// Takes the records out of a file.
+class CDxfRecords {
+public:
+    /// Throws CDxfFailure for a file that does not begin with a record.
+    explicit CDxfRecords(CDxfReader& reader);
+    /// The encoding of texts, also of records that are there already.
+    void SetEncoding(const CDxfEncoding& encoding) { m_encoding = encoding; }
+    /// The next record. False at the end of the bytes.
+    bool Next(CDxfRecord* pRecord);
+    [[noreturn]] void Fail(const CDxfRecord& record, const std::string& strWhat) const {
+        m_reader.Fail(record.m_nPlace, strWhat);
+    }
+
+private:
+    void SkipApplicationGroup();
+
+    CDxfReader& m_reader;
+    CDxfEncoding m_encoding;
+    CDxfTag m_tag; ///< the one behind the record taken last
+    bool m_bTag;
+};
