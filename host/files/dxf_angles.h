@@ -3,5 +3,6 @@
 
 double DxfRadians(double dDegrees);
 
-/// The degrees that read back as exactly these radians, where there are such.
+/// The degrees that read back as exactly these radians, where there are such: not each number of radians has
+/// them.
 double DxfDegrees(double dRadians);

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "host/files/dxf_losses.h"
 #include "host/files/dxf_record.h"
 #include "platform/acad/db_database.h"
 
-#include <map>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
-
-/// What a file holds and its drawing does not, or the reverse: each kind once, with its count.
-using CDxfLosses = std::map<std::string, int>;
 
 /// A drawing while a file is read into it. Records of tables are found by name; what is named before it is
 /// defined, or never is, stands there with the values of a new one.

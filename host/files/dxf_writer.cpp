@@ -2,10 +2,10 @@
 
 #include "host/files/dxf_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <utility>
 
 void CDxfWriter::Code(int nCode) {
     const std::string strCode = std::to_string(nCode);
@@ -51,8 +51,8 @@ void CDxfWriter::Point(int nCode, const AcGePoint3d& point) {
     Real(nCode + 20, point.z);
 }
 
-bool CDxfWriter::TakeBackUnlessFinite(std::size_t nSize) {
-    const bool bFinite = std::exchange(m_bFinite, true);
-    if (!bFinite) m_strBytes.resize(nSize);
-    return !bFinite;
+bool CDxfWriter::KeepIf(bool bWanted, std::size_t nSize) {
+    const bool bKept = std::exchange(m_bFinite, true) && bWanted;
+    if (!bKept) m_strBytes.resize(nSize);
+    return bKept;
 }

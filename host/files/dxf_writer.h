@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// Writes groups in the text form, one call a group.
 class CDxfWriter {
@@ -19,9 +20,10 @@ public:
     void Point(int nCode, const AcGePoint3d& point);
 
     const std::string& Bytes() const { return m_strBytes; }
-    /// Takes back what was written behind the first nSize bytes, when a number in it was not finite, which no
-    /// file can hold. True if so.
-    bool TakeBackUnlessFinite(std::size_t nSize);
+    std::string TakeBytes() { return std::exchange(m_strBytes, {}); } ///< what was written so far
+    /// Keeps what was written behind the first nSize bytes, or takes it back: when it is not wanted, or when
+    /// a number in it was not finite, which no file can hold. True when it is kept.
+    bool KeepIf(bool bWanted, std::size_t nSize);
 
 private:
     void Code(int nCode);

@@ -1,5 +1,6 @@
 #include "host/files/dxf_xdata.h"
 
+#include "host/files/dxf_output.h"
 #include "platform/acad/result_buffer.h"
 
 namespace {
@@ -49,6 +50,15 @@ const CDxfTag* Fill(resbuf& buffer, const CDxfTag* pTag, const CDxfTag* pEnd, co
     return pTag;
 }
 
+struct CWriteItem {
+    CDxfWriter& m_writer;
+    int m_nCode;
+    void operator()(const std::wstring& text) const { m_writer.Text(m_nCode, text); }
+    void operator()(double value) const { m_writer.Real(m_nCode, value); }
+    void operator()(const AcGePoint3d& point) const { m_writer.Point(m_nCode, point); }
+    void operator()(Adesk::Int32 value) const { m_writer.Whole(m_nCode, value); }
+};
+
 } // namespace
 
 resbuf* ReadDxfXData(const CDxfRecord& record, CDxfDrawing& drawing) {
@@ -64,4 +74,12 @@ resbuf* ReadDxfXData(const CDxfRecord& record, CDxfDrawing& drawing) {
         pTag = Fill(chain.Append(pTag->m_nCode), pTag, pEnd, *record.m_pEncoding);
     }
     return chain.First();
+}
+
+void WriteDxfXData(CDxfWriter& writer, const AcDbObject& object) {
+    for (const CXDataOfApp& app : object.XData().Apps()) {
+        writer.Text(g_nApp, DxfName(app.m_idApp));
+        for (const CXDataItem& item : app.m_arItems)
+            std::visit(CWriteItem{writer, item.m_nCode}, item.m_value);
+    }
 }

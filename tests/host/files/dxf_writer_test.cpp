@@ -38,13 +38,15 @@ TEST(DxfWriter, WritesTheShortestRealWithAPoint) {
     EXPECT_EQ(Written(1.0 / 3.0), "0.3333333333333333");
 }
 
-TEST(DxfWriter, TakesBackWhatHoldsANumberThatIsNotFinite) {
+TEST(DxfWriter, TakesBackWhatIsNotWantedOrNotFinite) {
     CDxfWriter writer;
     writer.Word(0, "LINE");
+    EXPECT_TRUE(writer.KeepIf(true, 0));
     const std::size_t nSize = writer.Bytes().size();
-    EXPECT_FALSE(writer.TakeBackUnlessFinite(nSize));
+    writer.Real(40, 1.0);
+    EXPECT_FALSE(writer.KeepIf(false, nSize));
     writer.Real(40, std::numeric_limits<double>::quiet_NaN());
-    EXPECT_TRUE(writer.TakeBackUnlessFinite(nSize));
-    EXPECT_EQ(writer.Bytes(), "  0\nLINE\n");
-    EXPECT_FALSE(writer.TakeBackUnlessFinite(0));
+    EXPECT_FALSE(writer.KeepIf(true, nSize));
+    EXPECT_EQ(writer.TakeBytes(), "  0\nLINE\n");
+    EXPECT_EQ(writer.Bytes(), "");
 }

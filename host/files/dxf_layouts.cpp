@@ -1,0 +1,19 @@
+#include "host/files/dxf_layouts.h"
+
+#include <algorithm>
+
+CDxfStructure::CDxfStructure(CDxfOutput& out)
+    : m_plotStyle(out.NewHandle()) {
+    m_arLayouts.push_back({out.Database().ModelSpaceId(), out.NewHandle(), L"Model", 0});
+    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId())) {
+        if (!IsDxfPaperSpace(DxfName(id))) continue;
+        const int nTab = static_cast<int>(m_arLayouts.size());
+        m_arLayouts.push_back({id, out.NewHandle(), L"Layout" + std::to_wstring(nTab), nTab});
+    }
+}
+
+AcDbHandle CDxfStructure::LayoutOf(AcDbObjectId idBlock) const {
+    const auto found = std::find_if(m_arLayouts.begin(), m_arLayouts.end(),
+                                    [&](const CDxfLayout& layout) { return layout.m_idBlock == idBlock; });
+    return found == m_arLayouts.end() ? AcDbHandle() : found->m_handle;
+}

@@ -1,0 +1,32 @@
+#include "host/files/dxf_output.h"
+
+#include "platform/acad/wide_names.h"
+
+#include <algorithm>
+
+void CDxfOutput::Record(std::string_view type, AcDbHandle handle, AcDbHandle owner) {
+    Word(0, type);
+    Handle(type == "DIMSTYLE" ? 105 : 5, handle);
+    Handle(330, owner);
+}
+
+void CDxfOutput::BeginSection(std::string_view name) {
+    Word(0, "SECTION");
+    Word(2, name);
+}
+
+std::wstring DxfName(AcDbObjectId idRecord) {
+    const CDbOpen<AcDbSymbolTableRecord> record(idRecord);
+    return record ? record->Name() : std::wstring();
+}
+
+std::vector<AcDbObjectId> DxfRecords(AcDbObjectId idTable) {
+    const CDbOpen<AcDbSymbolTable> table(idTable);
+    std::vector<AcDbObjectId> ids = table->RecordIds();
+    std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
+    return ids;
+}
+
+bool IsDxfPaperSpace(const std::wstring& strName) {
+    return UpperName(strName).starts_with(UpperName(ACDB_PAPER_SPACE));
+}

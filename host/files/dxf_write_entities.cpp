@@ -1,0 +1,122 @@
+#include "host/files/dxf_write_entities.h"
+
+#include "host/files/dxf_entity_types.h"
+#include "host/files/dxf_xdata.h"
+#include "platform/acad/db_block_reference.h"
+#include "platform/acad/wide_names.h"
+#include "platform/windows/code_page.h"
+
+namespace {
+
+/// Where an entity stands in the file.
+struct CPlace {
+    AcDbHandle m_owner;
+    bool m_bOnPaper;
+};
+
+std::string TypeName(const AcDbEntity& entity) {
+    return GbkFromWide(entity.isA()->dxfName());
+}
+
+/// What all entities have. A free one has the layer that it would get in the drawing.
+void WriteProperties(CDxfOutput& out, const AcDbEntity& entity, const CPlace& place) {
+    const bool bFree = entity.objectId().isNull();
+    out.Record(TypeName(entity), bFree ? out.NewHandle() : entity.handle(), place.m_owner);
+    out.Subclass("AcDbEntity");
+    if (place.m_bOnPaper) out.Whole(67, 1);
+    out.Text(8, DxfName(entity.layerId().isNull() ? out.Database().clayer() : entity.layerId()));
+    if (!entity.linetypeId().isNull()) out.Text(6, DxfName(entity.linetypeId()));
+    if (entity.colorIndex() != g_nColorByLayer) out.Whole(62, entity.colorIndex());
+}
+
+/// Writes an entity of a type that files have; false, and counted as lost, when it cannot be.
+bool WriteOrdinary(CDxfOutput& out, const AcDbEntity& entity, const CPlace& place) {
+    const std::size_t nBefore = out.Bytes().size();
+    const CDxfEntityType* const pType = DxfEntityType(entity);
+    if (pType) WriteProperties(out, entity, place);
+    const bool bWritten = pType && pType->m_pWrite(out, entity);
+    if (bWritten) WriteDxfXData(out, entity);
+    if (out.KeepIf(bWritten, nBefore)) return true;
+    out.Lose(TypeName(entity));
+    return false;
+}
+
+void WriteAttributes(CDxfOutput& out, const AcDbBlockReference& reference, bool bOnPaper) {
+    const std::vector<AcDbObjectId> ids = reference.AttributeIds();
+    if (ids.empty()) return;
+    const CPlace place{reference.handle(), bOnPaper};
+    for (const AcDbObjectId& id : ids)
+        if (const CDbOpen<AcDbAttribute> attribute(id); attribute)
+            WriteOrdinary(out, *attribute.Get(), place);
+    out.Record("SEQEND", out.NewHandle(), reference.handle());
+    out.Subclass("AcDbEntity");
+    out.Text(8, DxfName(reference.layerId()));
+}
+
+void WriteExploded(CDxfOutput& out, const AcDbEntity& entity, const CDxfExplosions& explosions,
+                   const CPlace& place) {
+    const CDxfExplosions::CParts* const pParts = explosions.PartsOf(entity);
+    if (!pParts) return out.Lose(TypeName(entity));
+    for (const std::unique_ptr<AcDbEntity>& pPart : *pParts)
+        WriteOrdinary(out, *pPart, place);
+}
+
+void WriteEntitiesOf(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlockTableRecord& block) {
+    const CPlace place{block.handle(), IsDxfPaperSpace(block.Name())};
+    for (const AcDbObjectId& id : block.EntityIds()) {
+        const CDbOpen<AcDbEntity> entity(id);
+        if (!DxfEntityType(*entity.Get())) {
+            WriteExploded(out, *entity.Get(), explosions, place);
+        } else if (WriteOrdinary(out, *entity.Get(), place)) {
+            const auto* const pReference = AcDbBlockReference::cast(entity.Get());
+            if (pReference) WriteAttributes(out, *pReference, place.m_bOnPaper);
+        }
+    }
+}
+
+/// Model space and the sheet in front, whose entities stand in a section of their own.
+bool HasOwnSection(const AcDbBlockTableRecord& block) {
+    return SameName(block.Name(), ACDB_MODEL_SPACE) || SameName(block.Name(), ACDB_PAPER_SPACE);
+}
+
+/// The record that begins or ends a block.
+void WriteBoundary(CDxfOutput& out, std::string_view type, const AcDbBlockTableRecord& block) {
+    out.Record(type, out.NewHandle(), block.handle());
+    out.Subclass("AcDbEntity");
+    if (IsDxfPaperSpace(block.Name())) out.Whole(67, 1);
+    out.Word(8, "0");
+}
+
+void WriteBlock(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlockTableRecord& block) {
+    constexpr int nAnonymous = 1;
+    WriteBoundary(out, "BLOCK", block);
+    out.Subclass("AcDbBlockBegin");
+    out.Text(2, block.Name());
+    const bool bSpace = IsDxfPaperSpace(block.Name()) || SameName(block.Name(), ACDB_MODEL_SPACE);
+    out.Whole(70, block.Name().starts_with(L'*') && !bSpace ? nAnonymous : 0);
+    const std::size_t nBefore = out.Bytes().size();
+    out.Point(10, block.origin());
+    if (!out.KeepIf(true, nBefore)) out.Point(10, AcGePoint3d::kOrigin);
+    out.Text(3, block.Name());
+    out.Word(1, "");
+    if (!HasOwnSection(block)) WriteEntitiesOf(out, explosions, block);
+    WriteBoundary(out, "ENDBLK", block);
+    out.Subclass("AcDbBlockEnd");
+}
+
+} // namespace
+
+void WriteDxfBlocks(CDxfOutput& out, const CDxfExplosions& explosions) {
+    out.BeginSection("BLOCKS");
+    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId()))
+        if (const CDbOpen<AcDbBlockTableRecord> block(id); block) WriteBlock(out, explosions, *block.Get());
+    out.EndSection();
+}
+
+void WriteDxfEntities(CDxfOutput& out, const CDxfExplosions& explosions) {
+    out.BeginSection("ENTITIES");
+    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId()))
+        if (const CDbOpen<AcDbBlockTableRecord> block(id); block && HasOwnSection(*block.Get()))
+            WriteEntitiesOf(out, explosions, *block.Get());
+    out.EndSection();
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "host/files/dxf_layouts.h"
+
+/// Writes the section of classes: those of the objects below that not every version knows.
+void WriteDxfClasses(CDxfOutput& out);
+
+/// Writes the section of objects: the dictionary of named objects with what every drawing has in it. Other
+/// named objects are counted as lost.
+void WriteDxfObjects(CDxfOutput& out, const CDxfStructure& structure);
