@@ -25,6 +25,7 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const ACHAR* name) {
         if (!idOther.isNull() && idOther != objectId()) return Acad::eDuplicateKey;
     }
     m_strName = name;
+    TellTable();
     return Acad::eOk;
 }
 
@@ -35,15 +36,26 @@ Acad::ErrorStatus AcDbSymbolTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) cons
 
 Acad::ErrorStatus AcDbSymbolTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
     if (const Acad::ErrorStatus status = AcDbObject::dwgInFields(pFiler); status != Acad::eOk) return status;
-    return ReadText(pFiler, m_strName);
+    const Acad::ErrorStatus status = ReadText(pFiler, m_strName);
+    TellTable();
+    return status;
+}
+
+void AcDbSymbolTableRecord::TellTable() const {
+    if (auto* const pTable = PeekObject<AcDbSymbolTable>(ownerId())) pTable->NoteName(objectId(), m_strName);
+}
+
+void AcDbSymbolTable::NoteName(AcDbObjectId id, const std::wstring& strName) {
+    m_mapByName.emplace(UpperName(strName), id);
 }
 
 AcDbObjectId AcDbSymbolTable::Find(const ACHAR* name) const {
-    for (const AcDbObjectId& id : m_arIds) {
-        const auto* const pRecord = PeekObject<AcDbSymbolTableRecord>(id);
-        if (!id.isErased() && SameName(pRecord->Name(), name)) return id;
-    }
-    return AcDbObjectId::kNull;
+    const auto [first, last] = m_mapByName.equal_range(UpperName(name));
+    const auto found = std::find_if(first, last, [name](const auto& entry) {
+        const AcDbObjectId& id = entry.second;
+        return !id.isErased() && SameName(PeekObject<AcDbSymbolTableRecord>(id)->Name(), name);
+    });
+    return found == last ? AcDbObjectId::kNull : found->second;
 }
 
 Acad::ErrorStatus AcDbSymbolTable::getAt(const ACHAR* name, AcDbObjectId& id) const {
@@ -67,8 +79,10 @@ Acad::ErrorStatus AcDbSymbolTable::add(AcDbObjectId& id, AcDbSymbolTableRecord* 
     if (pRecord->Name().empty()) return Acad::eInvalidInput;
     if (!Find(pRecord->Name().c_str()).isNull()) return Acad::eDuplicateKey;
     const Acad::ErrorStatus status = database()->AddObject(id, pRecord, objectId());
-    if (status == Acad::eOk) m_arIds.push_back(id);
-    return status;
+    if (status != Acad::eOk) return status;
+    m_arIds.push_back(id);
+    NoteName(id, pRecord->Name());
+    return Acad::eOk;
 }
 
 Acad::ErrorStatus AcDbSymbolTable::add(AcDbSymbolTableRecord* pRecord) {

@@ -4,6 +4,7 @@
 #include "platform/acad/db_object.h"
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class AcDbSymbolTableRecord : public AcDbObject, public AcHeapOperators {
@@ -16,6 +17,8 @@ public:
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 private:
+    void TellTable() const;
+
     std::wstring m_strName;
 };
 
@@ -41,7 +44,12 @@ public:
     AcDbObjectId Find(const ACHAR* name) const;
 
 private:
+    friend class AcDbSymbolTableRecord;
+    void NoteName(AcDbObjectId id, const std::wstring& strName);
+
     std::vector<AcDbObjectId> m_arIds;
+    /// By each name in upper case that a record has, or had: renamed and erased ones stay.
+    std::unordered_multimap<std::wstring, AcDbObjectId> m_mapByName;
 };
 
 inline constexpr const ACHAR* ACDB_MODEL_SPACE = L"*Model_Space";

@@ -65,6 +65,22 @@ TEST(AcDbSymbolTable, RefusesANameThatItHas) {
     EXPECT_EQ(SymbolName(id), "a");
 }
 
+TEST(AcDbSymbolTable, FindsARenamedRecordByItsNewNameOnlyUntilThatIsUndone) {
+    AcDbDatabase database;
+    const AcDbObjectId idLayer =
+        AddRecord<AcDbLayerTable>(database.layerTableId(), L"Curves", new AcDbLayerTableRecord);
+    database.UndoLog().BeginStep();
+    EXPECT_EQ(CDbOpen<AcDbLayerTableRecord>(idLayer, AcDb::kForWrite)->setName(L"Readings"), Acad::eOk);
+    const auto find = [&](const ACHAR* name) {
+        return CDbOpen<AcDbLayerTable>(database.layerTableId())->Find(name);
+    };
+    EXPECT_EQ(find(L"READINGS"), idLayer);
+    EXPECT_TRUE(find(L"CURVES").isNull());
+    EXPECT_EQ(database.UndoLog().Undo(1), 1);
+    EXPECT_EQ(find(L"CURVES"), idLayer);
+    EXPECT_TRUE(find(L"READINGS").isNull());
+}
+
 TEST(AcDbSymbolTable, ForgetsTheNameOfAnErasedRecord) {
     AcDbDatabase database;
     const AcDbObjectId id =
