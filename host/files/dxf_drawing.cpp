@@ -21,31 +21,30 @@ AcDbHandle HandleOf(const CDxfRecord& record) {
     return AcDbHandle(value);
 }
 
-} // namespace
-
-template <class Table, class Record>
-AcDbObjectId CDxfDrawing::Named(AcDbObjectId idTable, CIds& mapIds, const std::wstring& strName) {
-    AcDbObjectId& id = mapIds[UpperName(strName)];
+/// The record of a table with that name, made if need be; null for no name.
+template <class Record>
+AcDbObjectId Named(AcDbObjectId idTable, const std::wstring& strName) {
+    const CDbOpen<AcDbSymbolTable> table(idTable, AcDb::kForWrite);
+    AcDbObjectId id = table->Find(strName.c_str());
     if (!id.isNull()) return id;
-    const CDbOpen<Table> table(idTable, AcDb::kForWrite);
-    if (table->getAt(strName.c_str(), id) == Acad::eOk) return id;
     auto pRecord = std::make_unique<Record>();
     pRecord->setName(strName.c_str());
     if (table->add(id, pRecord.get()) == Acad::eOk) pRecord.release()->close();
     return id;
 }
 
+} // namespace
+
 AcDbObjectId CDxfDrawing::Block(const std::wstring& strName) {
     // R12 has its own names for the two spaces.
     const std::wstring strUpper = UpperName(strName);
     if (strUpper == L"$MODEL_SPACE") return m_database.ModelSpaceId();
     const std::wstring strKnown = strUpper == L"$PAPER_SPACE" ? ACDB_PAPER_SPACE : strName;
-    return Named<AcDbBlockTable, AcDbBlockTableRecord>(m_database.blockTableId(), m_mapBlocks, strKnown);
+    return Named<AcDbBlockTableRecord>(m_database.blockTableId(), strKnown);
 }
 
 AcDbObjectId CDxfDrawing::Layer(const std::wstring& strName) {
-    return Named<AcDbLayerTable, AcDbLayerTableRecord>(m_database.layerTableId(), m_mapLayers,
-                                                       strName.empty() ? L"0" : strName);
+    return Named<AcDbLayerTableRecord>(m_database.layerTableId(), strName.empty() ? L"0" : strName);
 }
 
 AcDbObjectId CDxfDrawing::Linetype(const std::wstring& strName) {
@@ -54,17 +53,16 @@ AcDbObjectId CDxfDrawing::Linetype(const std::wstring& strName) {
 }
 
 AcDbObjectId CDxfDrawing::LinetypeRecord(const std::wstring& strName) {
-    return Named<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_database.linetypeTableId(), m_mapLinetypes,
-                                                             strName);
+    return Named<AcDbLinetypeTableRecord>(m_database.linetypeTableId(), strName);
 }
 
 AcDbObjectId CDxfDrawing::TextStyle(const std::wstring& strName) {
-    return Named<AcDbTextStyleTable, AcDbTextStyleTableRecord>(m_database.textStyleTableId(), m_mapTextStyles,
-                                                               strName.empty() ? L"Standard" : strName);
+    return Named<AcDbTextStyleTableRecord>(m_database.textStyleTableId(),
+                                           strName.empty() ? L"Standard" : strName);
 }
 
 AcDbObjectId CDxfDrawing::App(const std::wstring& strName) {
-    return Named<AcDbRegAppTable, AcDbRegAppTableRecord>(m_database.regAppTableId(), m_mapApps, strName);
+    return Named<AcDbRegAppTableRecord>(m_database.regAppTableId(), strName);
 }
 
 void CDxfDrawing::Identify(AcDbObjectId id, const CDxfRecord& record) {

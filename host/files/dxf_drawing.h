@@ -5,7 +5,6 @@
 #include "platform/acad/db_database.h"
 
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 
 /// A drawing while a file is read into it. Records of tables are found by name; what is named before it is
@@ -32,13 +31,9 @@ public:
     const CDxfLosses& Losses() const { return m_mapLost; }
 
 private:
-    using CIds = std::unordered_map<std::wstring, AcDbObjectId>; ///< by the name in upper case
-    template <class Table, class Record>
-    AcDbObjectId Named(AcDbObjectId idTable, CIds& mapIds, const std::wstring& strName);
     void TakeHandle(AcDbObjectId id, AcDbHandle handle);
 
     AcDbDatabase& m_database;
-    CIds m_mapBlocks, m_mapLayers, m_mapLinetypes, m_mapTextStyles, m_mapApps;
     std::unordered_set<Adesk::UInt64> m_setTaken; ///< handles that the file gave
     CDxfLosses m_mapLost;
 };

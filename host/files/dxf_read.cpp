@@ -1,5 +1,6 @@
 #include "host/files/dxf_read.h"
 
+#include "host/files/dxf_block_check.h"
 #include "host/files/dxf_header.h"
 #include "host/files/dxf_read_entities.h"
 #include "host/files/dxf_read_tables.h"
@@ -25,6 +26,7 @@ public:
         while (Next()) {
             if (m_record.m_type == "EOF") {
                 m_header.Apply(m_drawing);
+                CheckDxfBlocks(m_drawing.Database());
                 m_drawing.Database().SetModified(false);
                 return m_drawing.Losses();
             }

@@ -80,8 +80,9 @@ std::unique_ptr<AcDbEntity> ReadDxfArc(const CDxfRecord& record, CDxfDrawing&) {
 std::unique_ptr<AcDbEntity> ReadDxfLwPolyline(const CDxfRecord& record, CDxfDrawing& drawing) {
     if (record.Real(38) != 0.0) drawing.Lose("LWPOLYLINE elevation");
     std::vector<CPolylineVertex> arVertices;
+    const double dWidth = Width(record.Real(43));
     for (const CDxfTag& tag : record.m_arTags)
-        TakeVertexValue(tag, Width(record.Real(43)), arVertices);
+        TakeVertexValue(tag, dWidth, arVertices);
     auto pPolyline = std::make_unique<AcDbPolyline>(static_cast<unsigned int>(arVertices.size()));
     for (const CPolylineVertex& vertex : arVertices)
         pPolyline->addVertexAt(pPolyline->numVerts(), vertex.m_pt, vertex.m_dBulge, vertex.m_dStartWidth,

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Writes the drawings beside it, one in each version and form, with python3-ezdxf: the same content, as far as the
+"""Writes the drawings in versions/, one in each version and form, with python3-ezdxf: the same content, as far as the
 version has it. R12 has no LWPOLYLINE and no SPLINE."""
 import math
 import os
@@ -7,7 +7,7 @@ import os
 import ezdxf
 from ezdxf.enums import TextEntityAlignment
 
-FOLDER = os.path.dirname(os.path.abspath(__file__))
+FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), 'versions')
 VERSIONS = ['R12', 'R2000', 'R2004', 'R2007', 'R2010', 'R2013', 'R2018']
 
 

@@ -17,7 +17,7 @@ namespace {
 
 std::string Fixture(const std::string& strName) {
     std::string strBytes;
-    EXPECT_TRUE(ReadFileWhole(TERVO_TEST_DATA "/dxf/" + strName + ".dxf", &strBytes)) << strName;
+    EXPECT_TRUE(ReadFileWhole(TERVO_TEST_DATA "/dxf/versions/" + strName + ".dxf", &strBytes)) << strName;
     return strBytes;
 }
 

@@ -326,7 +326,8 @@ TEST(WriteDxf, CountsWhatItCannotWrite) {
 TEST(WriteDxf, WritesWhatItReadOfEachVersionAgain) {
     for (const char* szName : {"r12_text", "r2000_text", "r2007_binary", "r2018_text"}) {
         std::string strBytes;
-        ASSERT_TRUE(ReadFileWhole(TERVO_TEST_DATA "/dxf/" + std::string(szName) + ".dxf", &strBytes));
+        ASSERT_TRUE(
+            ReadFileWhole(TERVO_TEST_DATA "/dxf/versions/" + std::string(szName) + ".dxf", &strBytes));
         AcDbDatabase drawing, back;
         ReadDxf(strBytes, drawing);
         const CDxfFile file = ThereAndBack(drawing, back);
