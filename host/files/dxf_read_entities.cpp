@@ -118,6 +118,7 @@ void CDxfEntities::Begin(const CDxfRecord& record, AcDbObjectId idBlock) {
 void CDxfEntities::BeginPolyline(const CDxfRecord& record, AcDbObjectId idBlock) {
     m_pPolyline = ReadDxfPolyline(record);
     m_polyline = record;
+    if (m_pPolyline && record.Real(30) != 0.0) m_drawing.Lose("POLYLINE elevation");
     m_idBlockOfPolyline = idBlock;
     m_bUnreadSequence = !m_pPolyline;
     if (!m_pPolyline) m_drawing.Lose(record);

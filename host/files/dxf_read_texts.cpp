@@ -23,6 +23,7 @@ bool SetAlignment(const CDxfRecord& record, int nVerticalCode, AcDbText& text) {
 
 /// What all kinds of text have; the code of the vertical mode is their own.
 bool SetText(const CDxfRecord& record, int nVerticalCode, CDxfDrawing& drawing, AcDbText& text) {
+    if (record.Whole(71) != 0) drawing.Lose("text backward or upside down");
     text.setTextStyle(drawing.TextStyle(record.Text(7)));
     text.setPosition(record.Point(10));
     text.setTextString(record.Text(1).c_str());

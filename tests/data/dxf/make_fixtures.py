@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """Writes the drawings in versions/, one in each version and form, with python3-ezdxf: the same content, as far as the
-version has it. R12 has no LWPOLYLINE and no SPLINE."""
+version has it. R12 has no LWPOLYLINE and no SPLINE. One is in a code page without Chinese, which is escaped in it."""
 import math
 import os
 
@@ -53,9 +53,9 @@ def entities(doc, has_r2000_types):
     doc.layout('Layout1').add_line((0, 0), (1, 0)) if has_r2000_types else None
 
 
-def drawing(version):
+def drawing(version, encoding='gbk'):
     doc = ezdxf.new(version)
-    doc.encoding = 'gbk'
+    doc.encoding = encoding
     doc.header['$LTSCALE'] = 10.0
     doc.header['$INSBASE'] = (7, 8, 0)
     tables(doc)
@@ -68,3 +68,4 @@ def drawing(version):
 for name in VERSIONS:
     for form, ending in (('asc', 'text'), ('bin', 'binary')):
         drawing(name).saveas(os.path.join(FOLDER, f'{name.lower()}_{ending}.dxf'), fmt=form)
+drawing('R2000', 'cp1252').saveas(os.path.join(FOLDER, 'r2000_western_text.dxf'))

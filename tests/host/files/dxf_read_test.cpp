@@ -190,10 +190,10 @@ TEST_P(DxfFixture, KeepsTheHandles) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Versions, DxfFixture,
-                         testing::Values("r12_text", "r12_binary", "r2000_text", "r2000_binary", "r2004_text",
-                                         "r2004_binary", "r2007_text", "r2007_binary", "r2010_text",
-                                         "r2010_binary", "r2013_text", "r2013_binary", "r2018_text",
-                                         "r2018_binary"),
+                         testing::Values("r12_text", "r12_binary", "r2000_text", "r2000_binary",
+                                         "r2000_western_text", "r2004_text", "r2004_binary", "r2007_text",
+                                         "r2007_binary", "r2010_text", "r2010_binary", "r2013_text",
+                                         "r2013_binary", "r2018_text", "r2018_binary"),
                          [](const auto& row) { return std::string(row.param); });
 
 TEST(ReadDxf, NamesThePlaceOfWhatItCannotRead) {
@@ -270,26 +270,23 @@ TEST(ReadDxf, MakesTheLayerStyleAndBlockThatNoTableDefines) {
     EXPECT_EQ(SymbolName(references[0]->blockTableRecord()), "GONE");
 }
 
-TEST(ReadDxf, TakesTheFontByNameOutOfTheStylesExtendedData) {
-    AcDbDatabase drawing;
-    ReadDxf("0\nSECTION\n2\nTABLES\n0\nSTYLE\n2\nSONG\n3\n\n1001\nACAD\n1000\nSimSun\n1071\n33588786\n"
-            "0\nENDSEC\n0\nEOF\n",
-            drawing);
-    const CDbOpen<AcDbTextStyleTableRecord> style(Record(drawing.textStyleTableId(), L"SONG"));
-    std::wstring strTypeface;
-    Adesk::Boolean bBold = 0, bItalic = 0;
-    int nCharset = 0, nPitchAndFamily = 0;
-    style->font(strTypeface, bBold, bItalic, nCharset, nPitchAndFamily);
-    EXPECT_EQ(strTypeface, L"SimSun");
-    EXPECT_TRUE(bBold);
-    EXPECT_FALSE(bItalic);
-    EXPECT_EQ(nCharset, 134);
-    EXPECT_EQ(nPitchAndFamily, 50);
-    EXPECT_TRUE(style->XData().Apps().empty());
-}
-
 TEST(ReadDxf, CountsPropertiesThatNoEntityHasHere) {
     AcDbDatabase drawing;
     const CDxfLosses losses = ReadDxf(WithEntities("0\nLINE\n370\n25\n48\n1.0\n420\n255\n60\n1\n"), drawing);
     EXPECT_EQ(losses, (CDxfLosses{{"hidden entity", 1}, {"line weight", 1}, {"true colour", 1}}));
+}
+
+TEST(ReadDxf, CountsWhatAnEntityLosesOfItsShape) {
+    AcDbDatabase drawing;
+    const CDxfLosses losses = ReadDxf(WithEntities("0\nLWPOLYLINE\n38\n5.0\n10\n1.0\n20\n1.0\n"
+                                                   "0\nPOLYLINE\n10\n0.0\n20\n0.0\n30\n5.0\n0\nSEQEND\n"
+                                                   "0\nTEXT\n40\n1.0\n71\n2\n"
+                                                   "0\nINSERT\n2\nB\n70\n3\n"),
+                                      drawing);
+    EXPECT_EQ(losses, (CDxfLosses{{"INSERT in rows and columns", 1},
+                                  {"LWPOLYLINE elevation", 1},
+                                  {"POLYLINE elevation", 1},
+                                  {"text backward or upside down", 1}}));
+    EXPECT_EQ(Entities<AcDbPolyline>(drawing.ModelSpaceId()).size(), 2U);
+    EXPECT_EQ(Entities<AcDbBlockReference>(drawing.ModelSpaceId()).size(), 1U);
 }
