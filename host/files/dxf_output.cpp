@@ -6,7 +6,7 @@
 
 void CDxfOutput::Record(std::string_view type, AcDbHandle handle, AcDbHandle owner) {
     Word(0, type);
-    Handle(type == "DIMSTYLE" ? 105 : 5, handle);
+    Handle(type == "DIMSTYLE" ? 105 : 5, handle); // there group 5 is the name of a block
     Handle(330, owner);
 }
 

@@ -117,11 +117,11 @@ void CDxfEntities::Begin(const CDxfRecord& record, AcDbObjectId idBlock) {
 
 void CDxfEntities::BeginPolyline(const CDxfRecord& record, AcDbObjectId idBlock) {
     m_pPolyline = ReadDxfPolyline(record);
-    m_polyline = record;
-    if (m_pPolyline && record.Real(30) != 0.0) m_drawing.Lose("POLYLINE elevation");
-    m_idBlockOfPolyline = idBlock;
     m_bUnreadSequence = !m_pPolyline;
-    if (!m_pPolyline) m_drawing.Lose(record);
+    if (!m_pPolyline) return m_drawing.Lose(record);
+    if (record.Real(30) != 0.0) m_drawing.Lose("POLYLINE elevation");
+    m_polyline = record;
+    m_idBlockOfPolyline = idBlock;
 }
 
 void CDxfEntities::AddVertex(const CDxfRecord& record) {

@@ -6,6 +6,8 @@
 #include "platform/acad/wide_names.h"
 #include "platform/windows/code_page.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Where an entity stands in the file.
@@ -65,7 +67,9 @@ void WriteEntitiesOf(CDxfOutput& out, const CDxfExplosions& explosions, const Ac
     const CPlace place{block.handle(), IsDxfPaperSpace(block.Name())};
     for (const AcDbObjectId& id : block.EntityIds()) {
         const CDbOpen<AcDbEntity> entity(id);
-        if (!DxfEntityType(*entity.Get())) {
+        if (!entity) {
+            out.Lose("entity in use");
+        } else if (!DxfEntityType(*entity.Get())) {
             WriteExploded(out, *entity.Get(), explosions, place);
         } else if (WriteOrdinary(out, *entity.Get(), place)) {
             const auto* const pReference = AcDbBlockReference::cast(entity.Get());
@@ -87,13 +91,27 @@ void WriteBoundary(CDxfOutput& out, std::string_view type, const AcDbBlockTableR
     out.Word(8, "0");
 }
 
+/// Whether a reference to the block is given attributes.
+bool AsksForAttributes(const AcDbBlockTableRecord& block) {
+    const std::vector<AcDbObjectId> ids = block.EntityIds();
+    return std::any_of(ids.begin(), ids.end(), [](const AcDbObjectId& id) {
+        const CDbOpen<AcDbAttributeDefinition> definition(id);
+        return definition && !definition->isConstant();
+    });
+}
+
+int BlockFlags(const AcDbBlockTableRecord& block) {
+    constexpr int nAnonymous = 1, nWithAttributes = 2;
+    const bool bSpace = IsDxfPaperSpace(block.Name()) || SameName(block.Name(), ACDB_MODEL_SPACE);
+    return (block.Name().starts_with(L'*') && !bSpace ? nAnonymous : 0) |
+           (AsksForAttributes(block) ? nWithAttributes : 0);
+}
+
 void WriteBlock(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlockTableRecord& block) {
-    constexpr int nAnonymous = 1;
     WriteBoundary(out, "BLOCK", block);
     out.Subclass("AcDbBlockBegin");
     out.Text(2, block.Name());
-    const bool bSpace = IsDxfPaperSpace(block.Name()) || SameName(block.Name(), ACDB_MODEL_SPACE);
-    out.Whole(70, block.Name().starts_with(L'*') && !bSpace ? nAnonymous : 0);
+    out.Whole(70, BlockFlags(block));
     const std::size_t nBefore = out.Bytes().size();
     out.Point(10, block.origin());
     if (!out.KeepIf(true, nBefore)) out.Point(10, AcGePoint3d::kOrigin);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/files/dxf_layouts.h"
+#include "host/files/dxf_structure.h"
 
 /// Writes the section of classes: those of the objects below that not every version knows.
 void WriteDxfClasses(CDxfOutput& out);

@@ -1,4 +1,4 @@
-#include "host/files/dxf_layouts.h"
+#include "host/files/dxf_structure.h"
 
 #include <algorithm>
 
