@@ -48,7 +48,7 @@ void CBitReader::RC(std::uint8_t& n) {
 template <class Value>
 void CBitReader::LittleEndian(Value& value, unsigned nBytes) {
     value = 0;
-    if (!Has(nBytes * 8)) return;
+    if (!Has(std::size_t{nBytes} * 8)) return;
     for (unsigned i = 0; i < nBytes; ++i) {
         std::uint8_t byte = 0;
         RC(byte);
@@ -169,7 +169,7 @@ void CBitReader::H(CDwgHandle& handle) {
     handle = {};
     const std::uint8_t nCode = Bits(4), nBytes = Bits(4);
     if (nBytes > sizeof handle.m_nValue) return Fail();
-    if (!Has(nBytes * 8u)) return;
+    if (!Has(std::size_t{nBytes} * 8)) return;
     handle.m_nCode = nCode;
     for (unsigned i = 0; i < nBytes; ++i) {
         std::uint8_t byte = 0;

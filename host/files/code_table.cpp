@@ -75,7 +75,7 @@ CCodeTable::CCodeTable(int nCodePage)
 
 void CCodeTable::Enter(unsigned nCode, wchar_t character) {
     if (character <= 0 || character >= static_cast<wchar_t>(g_nCodes)) return;
-    m_decoded[nCode] = static_cast<std::uint16_t>(character);
+    m_decoded[nCode] = static_cast<std::uint16_t>(static_cast<std::uint32_t>(character));
     std::uint16_t& nEncoded = m_encoded[static_cast<std::size_t>(character)];
     if (!nEncoded) nEncoded = static_cast<std::uint16_t>(nCode);
 }

@@ -63,6 +63,7 @@ private:
 
     CChain ChainOf(const std::vector<AcDbObjectId>& ids) const {
         std::vector<std::uint64_t> handles;
+        handles.reserve(ids.size());
         for (const AcDbObjectId& id : ids)
             handles.push_back(m_writing.m_handles.Of(id));
         return CChain(std::move(handles));
