@@ -28,14 +28,13 @@ namespace {
 
 constexpr int g_nLimitSeconds = 5;              // of the processor for one input, under the sanitizers too
 constexpr std::size_t g_nKeptBytes = 1U << 24U; // for tables that are made by the first inputs and stay
-constexpr std::size_t g_nFreeBytes = 1U << 16U;
-constexpr std::size_t g_nBytesPerInputByte = 64;
 constexpr int g_nFault = 1;
 constexpr int g_nUnreadable = 4;
 
 struct COptions {
     double m_dSeconds = 0.0;
     std::uint64_t m_nInputs = 0, m_nSeed = 1;
+    std::size_t m_nBytesPerByte = 64, m_nFreeBytes = 1U << 16U;
     std::string m_strCorpus, m_strFault = "fault.input";
 };
 
@@ -104,14 +103,14 @@ void StopTheTicks() {
     setitimer(ITIMER_PROF, &none, nullptr);
 }
 
-/// nKept is what the target may hold besides what the input warrants.
-void RunOne(const CInput& input, std::size_t nKept) {
+/// nMost is what the target may hold.
+void RunOne(const CInput& input, std::size_t nMost) {
     g_present.m_pInput = &input;
     g_present.m_nInput = g_present.m_nInput + 1;
     // A copy that ends where its block ends: a byte beyond it is a fault that the sanitizer sees.
     const auto pCopy = std::make_unique<std::uint8_t[]>(input.size());
     std::copy(input.begin(), input.end(), pCopy.get());
-    LimitAllocations(nKept + g_nBytesPerInputByte * input.size(), OnTooMuchMemory);
+    LimitAllocations(nMost, OnTooMuchMemory);
     LLVMFuzzerTestOneInput(pCopy.get(), input.size());
     LiftAllocationLimit();
 }
@@ -134,12 +133,15 @@ void Run(const std::vector<CInput>& corpus, const COptions& options) {
     using CClock = std::chrono::steady_clock;
     const auto start = CClock::now();
     const auto seconds = [&] { return std::chrono::duration<double>(CClock::now() - start).count(); };
-    for (const std::size_t nKept : {g_nKeptBytes, g_nFreeBytes})
+    const auto run = [&](const CInput& input, std::size_t nFree) {
+        RunOne(input, nFree + options.m_nBytesPerByte * input.size());
+    };
+    for (const std::size_t nFree : {g_nKeptBytes, options.m_nFreeBytes})
         for (const CInput& input : corpus)
-            RunOne(input, nKept);
+            run(input, nFree);
     CRandom random(options.m_nSeed);
     while (g_present.m_nInput < options.m_nInputs || seconds() < options.m_dSeconds)
-        RunOne(Mutate(corpus, random), g_nFreeBytes);
+        run(Mutate(corpus, random), options.m_nFreeBytes);
     std::cout << g_present.m_nInput << " inputs in " << seconds() << " s, seed " << options.m_nSeed
               << ": no fault\n";
 }
@@ -152,6 +154,9 @@ int main(int argc, char** argv) {
     app.add_option("--seconds", options.m_dSeconds, "Go on at least so long");
     app.add_option("--inputs", options.m_nInputs, "and for at least so many inputs");
     app.add_option("--seed", options.m_nSeed, "Of the mutations")->capture_default_str();
+    app.add_option("--bytes-per-byte", options.m_nBytesPerByte, "What may be held for each byte of an input")
+        ->capture_default_str();
+    app.add_option("--free-bytes", options.m_nFreeBytes, "and for any input")->capture_default_str();
     app.add_option("--fault", options.m_strFault, "Where the input of a fault is kept")
         ->capture_default_str();
     app.add_option("corpus", options.m_strCorpus, "Folder of inputs")->required();

@@ -1,18 +1,27 @@
-// Writes the corpus of the record targets anew: fuzz_make_corpus FOLDER. It is committed; a record that has
-// changed needs new ones.
+// Writes the corpus of the record targets and of drawing files anew: fuzz_make_corpus FOLDER. It is
+// committed; a record that has changed needs new ones.
 
 #include "chart/chart_entity.h"
 #include "frame/frame_entity.h"
+#include "host/files/dwg_record.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/result_buffer.h"
+#include "tests/fuzz/dwg_input.h"
 #include "tests/fuzz/record_input.h"
 #include "tests/support/readings.h"
+#include "tests/support/sample_drawing.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <set>
 
 namespace {
+
+void WriteFile(const std::filesystem::path& path, const CBytes& bytes) {
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
 
 class CCorpus {
 public:
@@ -21,9 +30,7 @@ public:
         std::filesystem::create_directories(m_folder);
     }
     void Add(const std::string& strName, const AcDbObject& object, AcDb::FilerType type) {
-        const CInput bytes = m_inputs.Encode({type, RecordOf(object, type)});
-        std::ofstream(m_folder / strName, std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        WriteFile(m_folder / strName, m_inputs.Encode({type, RecordOf(object, type)}));
     }
     AcDbDatabase& Drawing() { return m_inputs.Drawing(); }
 
@@ -73,6 +80,28 @@ void AddFrames(CCorpus& corpus) {
     corpus.Add("with-data", frame, AcDb::kUndoFiler);
 }
 
+void AddDrawings(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    WriteFile(folder / "empty.dwg", WriteDwgFile(DwgFilledBy([](AcDbDatabase&) {})));
+    WriteFile(folder / "every-kind.dwg", WriteDwgFile(DwgFilledBy(AddOneOfEachKind)));
+    CDwgFile sheet = DwgFilledBy(AddSheet);
+    WriteFile(folder / "sheet.dwg", WriteDwgFile(sheet));
+    for (CDwgClass& fileClass : sheet.m_arClasses)
+        if (fileClass.m_bEntities) fileClass.m_strClassName += "OfAnother";
+    WriteFile(folder / "unknown-classes.dwg", WriteDwgFile(sheet));
+}
+
+/// One object of each type.
+void AddDrawingObjects(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    std::set<std::uint16_t> types;
+    const CDwgFile file = DwgOfEveryKind();
+    for (const auto& [nHandle, content] : file.m_contents) {
+        const std::uint16_t nType = ReadDwgRecord(content, nHandle).m_nType;
+        if (types.insert(nType).second) WriteFile(folder / ("type-" + std::to_string(nType)), content);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -86,5 +115,8 @@ int main(int argc, char** argv) {
     AddCharts(charts);
     AddFrames(frames);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    const CModuleClasses classes;
+    AddDrawings(folder / "dwg");
+    AddDrawingObjects(folder / "dwg-object");
     return 0;
 }
