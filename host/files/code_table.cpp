@@ -1,11 +1,13 @@
 #include "host/files/code_table.h"
 
+#include "host/files/code_page.h"
 #include "platform/windows/code_page.h"
 
 #include <iconv.h>
 
 #include <array>
 #include <cstring>
+#include <map>
 
 namespace {
 
@@ -55,13 +57,20 @@ std::string BytesOf(unsigned nCode) {
 
 } // namespace
 
+const CCodeTable& CCodeTable::Of(int nCodePage) {
+    static std::map<int, CCodeTable> s_tables;
+    const auto found = s_tables.find(nCodePage);
+    if (found != s_tables.end()) return found->second;
+    if (!CConverter(nCodePage).IsKnown()) return Of(g_nWesternPage);
+    return s_tables.try_emplace(nCodePage, nCodePage).first->second;
+}
+
 CCodeTable::CCodeTable(int nCodePage)
     : m_decoded(g_nCodes)
     , m_encoded(g_nCodes) {
     for (unsigned nCode = 1; nCode < 0x80; ++nCode)
         Enter(nCode, static_cast<wchar_t>(nCode));
     const CConverter converter(nCodePage);
-    if (!converter.IsKnown()) return;
     const auto convert = [&](unsigned nCode) {
         return nCodePage == CP_GBK ? FromSystemPage(BytesOf(nCode)) : converter.Convert(BytesOf(nCode));
     };
@@ -83,8 +92,8 @@ void CCodeTable::Enter(unsigned nCode, wchar_t character) {
 wchar_t CCodeTable::Next(std::string_view text, std::size_t& nAt) const {
     const auto byteAt = [text](std::size_t n) { return static_cast<unsigned char>(text[n]); };
     const unsigned nFirst = byteAt(nAt++);
-    if (nFirst == 0 || m_decoded[nFirst]) return m_decoded[nFirst];
-    if (nAt == text.size()) return g_chUnknown;
+    if (m_decoded[nFirst]) return m_decoded[nFirst];
+    if (nFirst == 0 || nAt == text.size()) return g_chUnknown;
     const wchar_t character = m_decoded[nFirst << 8 | byteAt(nAt)];
     if (!character) return g_chUnknown;
     ++nAt;

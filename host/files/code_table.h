@@ -9,11 +9,15 @@
 /// A code page as a table: characters of the basic plane in one or two bytes. Its lower half is ASCII.
 class CCodeTable {
 public:
-    /// nCodePage is the system's number of it: 936, 1252, ... One that is not known has ASCII alone.
+    /// The table of a page by the system's number, made when it is first asked for and kept; the Western one
+    /// for a number that the system does not know.
+    static const CCodeTable& Of(int nCodePage);
+
+    /// By the number of a page that the system knows.
     explicit CCodeTable(int nCodePage);
 
-    /// The character at nAt, which is moved past it; U+FFFD for a byte that is part of none. nAt <
-    /// text.size().
+    /// The character at nAt, which is moved past it; U+FFFD for a zero and for a byte that is part of none.
+    /// nAt < text.size().
     wchar_t Next(std::string_view text, std::size_t& nAt) const;
     /// The character of a code of one byte or two; 0 for none.
     wchar_t Character(std::uint16_t nCode) const { return m_decoded[nCode]; }

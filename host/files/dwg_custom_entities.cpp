@@ -39,7 +39,7 @@ CDwgRecord WriteDwgCustomEntity(const AcDbEntity& entity, const CDwgEntityCommon
     return io.TakeRecord(NumberOf(*entity.isA(), writing), nHandle);
 }
 
-std::unique_ptr<AcDbEntity> MakeDwgCustomEntity(const CDwgClass& fileClass, const CDwgText& text) {
+std::unique_ptr<AcDbEntity> MakeDwgCustomEntity(const CDwgClass& fileClass, const CDrawingText& text) {
     const auto* const pClasses = dynamic_cast<AcRxDictionary*>(acrxSysRegistry()->at(ACDB_CLASS_DICTIONARY));
     const std::wstring strName = text.Decode(fileClass.m_strClassName);
     const auto* const pClass = dynamic_cast<AcRxClass*>(pClasses->at(strName.c_str()));

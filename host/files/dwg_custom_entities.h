@@ -14,7 +14,7 @@ CDwgRecord WriteDwgCustomEntity(const AcDbEntity& entity, const CDwgEntityCommon
                                 const CDwgWriting& writing);
 
 /// A new, free entity of a class of the file; null when it is not known at present, or not as an entity.
-std::unique_ptr<AcDbEntity> MakeDwgCustomEntity(const CDwgClass& fileClass, const CDwgText& text);
+std::unique_ptr<AcDbEntity> MakeDwgCustomEntity(const CDwgClass& fileClass, const CDrawingText& text);
 
 /// Lets an entity, open for writing, read its record; all that it may refer to is in the drawing. Throws
 /// CDwgError unless it reads all of it.

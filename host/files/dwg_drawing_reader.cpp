@@ -78,7 +78,7 @@ std::uint64_t SpareHandle(const CDwgFile& file) {
 std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file) {
     auto pDatabase = std::make_unique<AcDbDatabase>();
     const std::uint16_t nCodePage = file.m_identity.m_nCodePage;
-    const CDwgText text(nCodePage);
+    const CDrawingText text(CodePageOfDwg(nCodePage));
     CDwgReading reading{*pDatabase, text, nCodePage, {}, {}, file.m_arClasses, SpareHandle(file)};
     for (const auto& [nHandle, content] : file.m_contents)
         reading.m_records.emplace_hint(reading.m_records.end(), nHandle, ReadDwgRecord(content, nHandle));

@@ -51,7 +51,7 @@ CDwgVariables VariablesOf(const AcDbDatabase& database, const CDwgHandleMap& han
 
 CDwgFile DwgFileOf(const AcDbDatabase& database) {
     CDwgFile file;
-    const CDwgText text(file.m_identity.m_nCodePage);
+    const CDrawingText text(CodePageOfDwg(file.m_identity.m_nCodePage));
     CDwgHandleMap handles(database);
     file.m_arClasses = DwgStandardClasses();
     const CDwgWriting writing{database, text, file.m_identity.m_nCodePage, handles, file.m_arClasses};

@@ -69,8 +69,7 @@ std::wstring UnpackText(CBitReader& bits, Adesk::Int16 nCode, const CDwgExtended
     bits.RSBig(nCodePage);
     bits.Raw(bytes, nByte);
     const std::string strBytes(bytes.begin(), bytes.end());
-    return nCodePage == context.m_nCodePage ? context.m_text.Decode(strBytes)
-                                            : CDwgText(nCodePage).Decode(strBytes);
+    return CDrawingText(CodePageOfDwg(nCodePage)).Decode(strBytes);
 }
 
 /// Reads the value of a code; false for a code that there is not.

@@ -2,14 +2,14 @@
 // Extended data as they are packed in a drawing file.
 
 #include "host/files/bytes.h"
-#include "host/files/dwg_text.h"
+#include "host/files/drawing_text.h"
 #include "platform/acad/db_xdata.h"
 
 #include <functional>
 
 /// What packing needs to know of the drawing.
 struct CDwgExtendedContext {
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     std::uint16_t m_nCodePage; ///< its number, which stands with each text
     std::function<std::uint64_t(const std::wstring&)> m_handleOfLayer; ///< 0 for a name that is none
     std::function<std::wstring(std::uint64_t)> m_layerOfHandle;        ///< empty for a handle that is none

@@ -2,7 +2,7 @@
 // The first bytes of a drawing file: what it is, and where its sections are.
 
 #include "host/files/bytes.h"
-#include "host/files/dwg_text.h"
+#include "host/files/code_page.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "host/files/dwg_record_io.h"
-#include "host/files/dwg_text.h"
 #include "platform/acad/memory_filer.h"
 
 #include <functional>
@@ -13,7 +13,7 @@ public:
     using CIdOf = std::function<AcDbObjectId(const CDwgHandle&)>; ///< the object of a handle; null for none
 
     /// All must outlive the filer.
-    CDwgInFiler(CDwgRecordReader& io, const CDwgText& text, const CIdOf& idOf)
+    CDwgInFiler(CDwgRecordReader& io, const CDrawingText& text, const CIdOf& idOf)
         : m_io(io)
         , m_text(text)
         , m_idOf(idOf) {}
@@ -63,7 +63,7 @@ private:
     Acad::ErrorStatus Get(AcDbObjectId* pId);
 
     CDwgRecordReader& m_io;
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     const CIdOf& m_idOf;
     Acad::ErrorStatus m_status = Acad::eOk;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "host/files/dwg_record_io.h"
-#include "host/files/dwg_text.h"
 #include "platform/acad/memory_filer.h"
 
 #include <functional>
@@ -15,7 +15,7 @@ public:
         std::function<std::uint64_t(AcDbObjectId)>; ///< an object's handle in the file; 0 for none
 
     /// All must outlive the filer.
-    CDwgOutFiler(CDwgRecordWriter& io, const CDwgText& text, const CHandleOf& handleOf)
+    CDwgOutFiler(CDwgRecordWriter& io, const CDrawingText& text, const CHandleOf& handleOf)
         : m_io(io)
         , m_text(text)
         , m_handleOf(handleOf) {}
@@ -79,7 +79,7 @@ private:
     }
 
     CDwgRecordWriter& m_io;
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     const CHandleOf& m_handleOf;
     Acad::ErrorStatus m_status = Acad::eOk;
 };

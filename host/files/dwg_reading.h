@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "host/files/dwg_classes.h"
 #include "host/files/dwg_record_io.h"
-#include "host/files/dwg_text.h"
 #include "platform/acad/db_database.h"
 
 #include <map>
@@ -10,7 +10,7 @@
 /// What the parts of a drawing that is being read share.
 struct CDwgReading {
     AcDbDatabase& m_database;
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     std::uint16_t m_nCodePage;                     ///< the text's
     std::map<std::uint64_t, CDwgRecord> m_records; ///< all of the file
     std::map<std::uint64_t, AcDbObjectId> m_ids;   ///< what was made of them so far

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "host/files/dwg_classes.h"
 #include "host/files/dwg_common.h"
 #include "host/files/dwg_extended_data.h"
 #include "host/files/dwg_handle_map.h"
-#include "host/files/dwg_text.h"
 
 /// What the parts of a drawing that is being written share.
 struct CDwgWriting {
     const AcDbDatabase& m_database;
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     std::uint16_t m_nCodePage; ///< the text's
     CDwgHandleMap& m_handles;
     std::vector<CDwgClass>& m_classes; ///< of the file

@@ -23,11 +23,13 @@ const CDxfRecord& CDxfHeader::Variable(std::string_view name) const {
     return found == m_mapVariables.end() ? s_none : found->second;
 }
 
-CDxfEncoding CDxfHeader::Encoding() const {
+CDrawingText CDxfHeader::Encoding() const {
     const CDxfTag* const pVersion = Variable("$ACADVER").Find(1);
-    if (pVersion && pVersion->Text() >= g_szFirstUtf8) return CDxfEncoding();
+    if (pVersion && pVersion->Text() >= g_szFirstUtf8)
+        return CDrawingText(g_nUtf8Page, CDrawingText::CCarets::Escapes);
     const CDxfTag* const pCodePage = Variable("$DWGCODEPAGE").Find(3);
-    return CDxfEncoding(pCodePage ? pCodePage->Text() : std::string_view());
+    return CDrawingText(pCodePage ? CodePageOfDxf(pCodePage->Text()) : g_nWesternPage,
+                        CDrawingText::CCarets::Escapes);
 }
 
 void CDxfHeader::Apply(CDxfDrawing& drawing) const {

@@ -12,7 +12,7 @@ public:
     explicit CDxfHeader(const CDxfRecord& section);
 
     /// The encoding of the file's texts: from R2007 on UTF-8, before that a code page.
-    CDxfEncoding Encoding() const;
+    CDrawingText Encoding() const;
     /// Sets the drawing's variables; those that no drawing can have are left as they are.
     void Apply(CDxfDrawing& drawing) const;
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "host/files/dxf_reader.h"
-#include "host/files/dxf_text.h"
 #include "platform/acad/geometry.h"
 
 #include <vector>
@@ -13,7 +13,7 @@ struct CDxfRecord {
     std::size_t m_nPlace = 0;
     std::vector<CDxfTag> m_arTags;
     std::vector<CDxfTag> m_arXData; ///< from the first group 1001 on
-    const CDxfEncoding* m_pEncoding = nullptr;
+    const CDrawingText* m_pEncoding = nullptr;
 
     // The first value under a code, or what stands for it where there is none.
     const CDxfTag* Find(int nCode) const; ///< null for none
@@ -35,7 +35,7 @@ public:
     /// Throws CDxfFailure for a file that does not begin with a record.
     explicit CDxfRecords(CDxfReader& reader);
     /// The encoding of texts, also of records that are there already.
-    void SetEncoding(const CDxfEncoding& encoding) { m_encoding = encoding; }
+    void SetEncoding(const CDrawingText& encoding) { m_encoding = encoding; }
     /// The next record. False at the end of the bytes.
     bool Next(CDxfRecord* pRecord);
     [[noreturn]] void Fail(const CDxfRecord& record, const std::string& strWhat) const {
@@ -46,7 +46,7 @@ private:
     void SkipApplicationGroup();
 
     CDxfReader& m_reader;
-    CDxfEncoding m_encoding;
+    CDrawingText m_encoding{g_nUtf8Page, CDrawingText::CCarets::Escapes};
     CDxfTag m_tag; ///< the one behind the record taken last
     bool m_bTag;
 };

@@ -1,6 +1,5 @@
 #include "host/files/dxf_write.h"
 
-#include "host/files/dxf_text.h"
 #include "host/files/dxf_write_entities.h"
 #include "host/files/dxf_write_objects.h"
 #include "host/files/dxf_write_tables.h"

@@ -1,7 +1,5 @@
 #include "host/files/dxf_writer.h"
 
-#include "host/files/dxf_text.h"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -21,7 +19,7 @@ void CDxfWriter::Word(int nCode, std::string_view word) {
 }
 
 void CDxfWriter::Text(int nCode, std::wstring_view text) {
-    Word(nCode, EncodeDxfText(text));
+    Word(nCode, m_text.Encode(text));
 }
 
 void CDxfWriter::Real(int nCode, double value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/drawing_text.h"
 #include "platform/acad/db_object_id.h"
 #include "platform/acad/geometry.h"
 
@@ -7,6 +8,9 @@
 #include <string>
 #include <string_view>
 #include <utility>
+
+/// The code page of the texts that are written.
+inline constexpr std::string_view g_szDxfCodePage = "ANSI_936";
 
 /// Writes groups in the text form, one call a group.
 class CDxfWriter {
@@ -28,6 +32,7 @@ public:
 private:
     void Code(int nCode);
 
+    CDrawingText m_text{CodePageOfDxf(g_szDxfCodePage), CDrawingText::CCarets::Escapes};
     std::string m_strBytes;
     bool m_bFinite = true;
 };

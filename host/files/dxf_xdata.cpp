@@ -25,7 +25,7 @@ private:
 
 /// Fills a buffer of the tag's code. The other two coordinates of a point follow in tags of their own, and
 /// the last one taken is returned.
-const CDxfTag* Fill(resbuf& buffer, const CDxfTag* pTag, const CDxfTag* pEnd, const CDxfEncoding& encoding) {
+const CDxfTag* Fill(resbuf& buffer, const CDxfTag* pTag, const CDxfTag* pEnd, const CDrawingText& encoding) {
     switch (ResbufKind(buffer.restype)) {
     case CResbufKind::Text:
         buffer.resval.rstring = acutNewString(encoding.Decode(pTag->Text()).c_str());

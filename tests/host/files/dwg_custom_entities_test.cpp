@@ -102,7 +102,7 @@ TEST_F(DwgCustomEntities, AreRefusedWhenTheirClassIsNotKnown) {
 }
 
 TEST_F(DwgCustomEntities, AreNotMadeOfAClassThatIsNoEntitys) {
-    const CDwgText text(g_nDwgAnsi936);
+    const CDrawingText text(g_nChinesePage);
     EXPECT_TRUE(MakeDwgCustomEntity({503, 0, "", "CMarkEntity", "", false, true}, text));
     EXPECT_FALSE(MakeDwgCustomEntity({503, 0, "", "CMarkEntity", "", false, false}, text));
     EXPECT_FALSE(MakeDwgCustomEntity({503, 0, "", "AcDbLayerTableRecord", "", false, true}, text));

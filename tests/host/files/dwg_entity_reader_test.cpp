@@ -30,7 +30,7 @@ public:
 
 private:
     AcDbDatabase m_database;
-    CDwgText m_text{g_nDwgAnsi936};
+    CDrawingText m_text{g_nChinesePage};
     std::vector<CDwgClass> m_classes;
     CDwgReading m_reading{m_database, m_text, g_nDwgAnsi936, {}, {}, m_classes};
 };

@@ -36,7 +36,7 @@ public:
 
 private:
     AcDbDatabase m_database;
-    CDwgText m_text{g_nDwgAnsi936};
+    CDrawingText m_text{g_nChinesePage};
     CDwgHandleMap m_handles{m_database};
     std::vector<CDwgClass> m_classes;
 };

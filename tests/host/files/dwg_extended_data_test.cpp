@@ -7,7 +7,7 @@
 
 namespace {
 
-const CDwgText g_text(g_nDwgAnsi936);
+const CDrawingText g_text(g_nChinesePage);
 
 CDwgExtendedContext Context() {
     return {g_text, g_nDwgAnsi936, [](const std::wstring& strName) { return strName == L"0" ? 0x10u : 0u; },

@@ -11,7 +11,7 @@
 
 namespace {
 
-const CDwgText g_text(g_nDwgAnsi936);
+const CDrawingText g_text(g_nChinesePage);
 
 /// The record that an operation writes; objects stand under their own handles.
 template <class Write>

@@ -10,7 +10,7 @@ namespace {
 /// A filer with all that it stands on.
 struct CFiling {
     CDwgRecordWriter m_io;
-    CDwgText m_text{g_nDwgAnsi936};
+    CDrawingText m_text{g_nChinesePage};
     CDwgOutFiler::CHandleOf m_handleOf = [](AcDbObjectId id) { return id.isNull() ? 0u : 0x1Fu; };
     CDwgOutFiler m_filer{m_io, m_text, m_handleOf};
 };

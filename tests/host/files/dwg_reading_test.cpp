@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 namespace {
-const CDwgText g_text(g_nDwgAnsi936);
+const CDrawingText g_text(g_nChinesePage);
 }
 
 TEST(TakeDwgHandle, GivesTheHandleOfTheFileOrASpareOne) {

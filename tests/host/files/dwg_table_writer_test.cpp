@@ -88,7 +88,7 @@ TEST(WriteDwgTables, GivesStylesTheirFontsAndNamedOnesAsExtendedData) {
     EXPECT_TRUE(records[0].m_arExtended.empty());
     ASSERT_EQ(records[1].m_arExtended.size(), 1u);
     EXPECT_EQ(records[1].m_arExtended[0].m_hApp, HardPointer(CDwgFixed::s_nAcadApp));
-    const CDwgText text(g_nDwgAnsi936);
+    const CDrawingText text(g_nChinesePage);
     const auto items =
         UnpackExtendedData(records[1].m_arExtended[0].m_arBytes, {text, g_nDwgAnsi936, {}, {}});
     ASSERT_EQ(items.size(), 2u);

@@ -13,7 +13,7 @@ TEST(DwgReactorsOf, LeavesOutThoseThatAreNotInTheFile) {
     line->addPersistentReactor(idGone);
     line->addPersistentReactor(idTold);
     CDbOpen<AcDbLine>(idGone, AcDb::kForWrite)->erase();
-    const CDwgText text(g_nDwgAnsi936);
+    const CDrawingText text(g_nChinesePage);
     CDwgHandleMap handles(database);
     std::vector<CDwgClass> classes;
     EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, text, g_nDwgAnsi936, handles, classes}),
@@ -25,7 +25,7 @@ TEST(DwgExtendedDataOf, PacksEachApplicationsValuesUnderItsHandle) {
     const AcDbObjectId idApp = AddRecord(database.regAppTableId(), L"APP", new AcDbRegAppTableRecord);
     AcDbLine line;
     line.PutXData({idApp, {{1000, L"text"}, {1003, L"0"}}});
-    const CDwgText text(g_nDwgAnsi936);
+    const CDrawingText text(g_nChinesePage);
     CDwgHandleMap handles(database);
     std::vector<CDwgClass> classes;
     const auto extended = DwgExtendedDataOf(line, {database, text, g_nDwgAnsi936, handles, classes});
