@@ -40,3 +40,25 @@ void operator delete(void* pMemory) noexcept {
 void operator delete(void* pMemory, std::size_t) noexcept {
     operator delete(pMemory);
 }
+
+// The other forms, which the sanitizers have for themselves.
+
+void* operator new(std::size_t nBytes, const std::nothrow_t&) noexcept {
+    try {
+        return operator new(nBytes);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+void* operator new[](std::size_t nBytes) {
+    return operator new(nBytes);
+}
+
+void operator delete[](void* pMemory) noexcept {
+    operator delete(pMemory);
+}
+
+void operator delete[](void* pMemory, std::size_t) noexcept {
+    operator delete(pMemory);
+}
