@@ -1,12 +1,45 @@
-// Commands that change or list the drawings that are open.
+// Commands that change, save or list the drawings that are open.
 
+#include "host/console/drawing_saving.h"
 #include "host/console/drawing_session.h"
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
+#include "host/files/drawing_failure.h"
 
 void CommandNew(CHost& host) {
     host.m_input.End();
     NewDrawing(host);
+}
+
+void CommandOpen(CHost& host) {
+    const std::string path = host.m_input.Text("File: ");
+    host.m_input.End();
+    try {
+        OpenDrawing(host, FindDrawingFile(path));
+    } catch (const CDrawingFailure& failure) {
+        throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be opened: " + failure.what());
+    }
+}
+
+void CommandSaveAs(CHost& host) {
+    AcApDocument& document = host.Document();
+    const std::string path = host.m_input.Text("File: ");
+    const std::optional<std::string> option = host.m_input.WordOnLine();
+    host.m_input.End();
+    if (option && *option != "exploded")
+        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not exploded, which alone may follow the path: " + *option);
+    SaveDrawingAs(host, document, path, option.has_value());
+}
+
+void CommandQSave(CHost& host) {
+    AcApDocument& document = host.Document();
+    if (document.isNamedDrawing()) {
+        host.m_input.End();
+        return SaveDrawing(host, document);
+    }
+    const std::string path = host.m_input.Text("File: ");
+    host.m_input.End();
+    SaveDrawingAs(host, document, path, false);
 }
 
 void CommandClose(CHost& host) {

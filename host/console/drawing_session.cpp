@@ -1,62 +1,99 @@
 #include "host/console/drawing_session.h"
 
-#include "host/console/drawing_files.h"
+#include "host/console/drawing_saving.h"
+#include "host/console/redraw.h"
+#include "host/console/texts.h"
+#include "host/files/drawing_storage.h"
 #include "platform/acad/dynamic_linker.h"
 #include "platform/acad/editor.h"
+#include "platform/acad/host_application.h"
+#include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
+
+#include <filesystem>
 
 namespace {
 
-/// The words on the line of the command that runs stay for that command.
-std::string AskLine(CHost& host, const std::string& strPrompt) {
-    return WithoutBlanksAround(host.m_input.Line(strPrompt));
-}
-
-void Save(CHost& host, AcApDocument& document) {
-    const std::string strPath =
-        document.isNamedDrawing() ? CDrawings::NameOf(document) : AskLine(host, "File: ");
-    const Acad::ErrorStatus status = WriteDrawingFile(*document.database(), strPath);
-    if (status != Acad::eOk)
-        throw CRunFailure(EXIT_FILE_FAILED, CDrawings::NameOf(document) + " cannot be saved to " + strPath +
-                                                ": " + Acad::ErrorStatusText(status));
-    document.database()->SetModified(false);
-}
-
-void AskToSave(CHost& host, AcApDocument& document) {
-    if (!document.database()->IsModified()) return;
-    const std::string strAnswer = AskLine(host, "Save changes to " + CDrawings::NameOf(document) + "? ");
-    if (strAnswer == "yes") {
-        Save(host, document);
-    } else if (strAnswer != "no") {
+/// True when it was saved. The words on the line of the command that runs stay for that command.
+bool AskToSave(CHost& host, AcApDocument& document) {
+    if (!document.database()->IsModified()) return false;
+    const std::string strAnswer =
+        WithoutBlanksAround(host.m_input.Line("Save changes to " + CDrawings::NameOf(document) + "? "));
+    if (strAnswer != "yes" && strAnswer != "no")
         throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither yes, no nor cancel: " + strAnswer);
-    }
+    if (strAnswer == "yes") SaveDrawing(host, document);
+    return strAnswer == "yes";
 }
 
-/// In single-document mode the current drawing gives way.
-void Add(CHost& host, std::unique_ptr<AcDbDatabase> pDatabase) {
-    AcApDocument* const pCurrent = host.m_drawings.CurrentDocument();
-    if (pCurrent && IsSingleDocument()) CloseDrawing(host, *pCurrent);
-    host.m_drawings.Add(std::move(pDatabase));
+void Discard(CHost& host, AcApDocument& document) {
+    host.m_drawings.Close(document);
     host.m_input.ForgetLastPoint();
+}
+
+/// The drawing that gives way to another one: in single-document mode the current one. Null for none.
+AcApDocument* InTheWay(const CHost& host) {
+    return IsSingleDocument() ? host.m_drawings.CurrentDocument() : nullptr;
+}
+
+/// A file that was read, and how it is called.
+struct COpenedFile {
+    std::string m_strPath; ///< full, UTF-8
+    std::wstring m_strName;
+    CReadDrawing m_read;
+};
+
+COpenedFile ReadFile(const std::string& strPath) {
+    const std::string strFullPath = std::filesystem::absolute(strPath).lexically_normal().string();
+    return {strFullPath, WideAnswer(strFullPath), LoadDrawing(strFullPath)};
+}
+
+void TellWhatItHolds(const CHost& host, const COpenedFile& file) {
+    const std::optional<CDrawingFormat> ending = FormatOfEnding(file.m_strPath);
+    if (ending && *ending != file.m_read.m_format)
+        host.Print(file.m_strPath + " holds a " +
+                   (file.m_read.m_format == CDrawingFormat::Dwg ? "DWG" : "DXF") +
+                   " drawing, against its ending");
+    if (!file.m_read.m_losses.empty())
+        host.Print(file.m_strPath + " holds what the drawing does not: " + LossesText(file.m_read.m_losses));
+}
+
+void Show(CHost& host, COpenedFile file) {
+    TellWhatItHolds(host, file);
+    AcDbDatabase& drawing = *file.m_read.m_pDatabase;
+    drawing.SetFilename(file.m_strName.c_str());
+    host.m_drawings.Add(std::move(file.m_read.m_pDatabase),
+                        {false, file.m_strPath, std::move(file.m_read.m_losses)});
+    host.m_input.ForgetLastPoint();
+    DrawAll(drawing);
+    drawing.SetModified(false); // an entity may load a line type to draw itself
 }
 
 } // namespace
 
 void NewDrawing(CHost& host) {
-    Add(host, std::make_unique<AcDbDatabase>());
+    if (AcApDocument* const pCurrent = InTheWay(host)) CloseDrawing(host, *pCurrent);
+    host.m_drawings.AddNew();
+    host.m_input.ForgetLastPoint();
 }
 
-Acad::ErrorStatus OpenDrawing(CHost& host, const std::string& strPath) {
-    auto pDatabase = std::make_unique<AcDbDatabase>();
-    const Acad::ErrorStatus status = ReadDrawingFile(strPath, *pDatabase);
-    if (status != Acad::eOk) return status;
-    Add(host, std::move(pDatabase));
-    return Acad::eOk;
+void OpenDrawing(CHost& host, const std::string& strPath) {
+    COpenedFile file = ReadFile(strPath);
+    if (AcApDocument* const pCurrent = InTheWay(host)) {
+        if (AskToSave(host, *pCurrent)) file = ReadFile(strPath); // it may be the very file that was saved
+        Discard(host, *pCurrent);
+    }
+    Show(host, std::move(file));
+}
+
+void OpenFirstDrawing(CHost& host, const std::string& strPath) {
+    COpenedFile file = ReadFile(strPath);
+    Discard(host, host.Document());
+    Show(host, std::move(file));
 }
 
 void CloseDrawing(CHost& host, AcApDocument& document) {
     AskToSave(host, document);
-    host.m_drawings.Close(document);
-    host.m_input.ForgetLastPoint();
+    Discard(host, document);
 }
 
 void ActivateDrawing(CHost& host, AcApDocument& document) {
@@ -75,4 +112,13 @@ void EndSession(CHost& host) {
     while (AcApDocument* const pDocument = host.m_drawings.CurrentDocument())
         host.m_drawings.Close(*pDocument);
     acrxDynamicLinker()->SendToAll(AcRx::kQuitMsg);
+}
+
+std::string FindDrawingFile(const std::string& strPath) {
+    const std::string strGbk = GbkAnswer(strPath);
+    const std::string strFound = EditorHost() ? EditorHost()->FindFile(strGbk) : std::string();
+    if (!strFound.empty()) return ToUtf8(strFound);
+    std::string utf8;
+    ResolvePath({}, strGbk, &utf8);
+    return utf8;
 }

@@ -33,10 +33,11 @@ std::string CDrawings::FolderGbk() const {
     return Utf8ToGbk(path.parent_path().string(), &gbk) ? gbk : std::string();
 }
 
-void CDrawings::Add(std::unique_ptr<AcDbDatabase> pDatabase) {
+void CDrawings::Add(std::unique_ptr<AcDbDatabase> pDatabase, CFileNotes notes) {
     pDatabase->SetModified(false);
     const std::wstring strTitle = L"Drawing" + std::to_wstring(++m_nMade);
-    m_arDrawings.push_back({std::make_unique<AcApDocument>(std::move(pDatabase), strTitle), 0});
+    m_arDrawings.push_back(
+        {std::make_unique<AcApDocument>(std::move(pDatabase), strTitle), std::move(notes), 0});
     MakeCurrent(*m_arDrawings.back().m_pDocument);
     acrxDynamicLinker()->SendToAll(AcRx::kLoadDwgMsg);
 }
@@ -59,6 +60,12 @@ void CDrawings::Close(AcApDocument& document) {
         m_arDrawings.begin(), m_arDrawings.end(),
         [](const COpenDrawing& a, const COpenDrawing& b) { return a.m_nActivated < b.m_nActivated; });
     if (latest != m_arDrawings.end()) MakeCurrent(*latest->m_pDocument);
+}
+
+CFileNotes& CDrawings::NotesOf(const AcApDocument& document) {
+    return std::find_if(m_arDrawings.begin(), m_arDrawings.end(),
+                        [&](const COpenDrawing& drawing) { return drawing.m_pDocument.get() == &document; })
+        ->m_notes;
 }
 
 std::string CDrawings::NameOf(const AcApDocument& document) {

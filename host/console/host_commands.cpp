@@ -9,6 +9,12 @@ constexpr std::array g_arCommands = {
     CHostCommand{"NEW", CommandNew, "begins a new drawing; while SDI is not 0, in place of the current one",
                  true},
     CHostCommand{"QNEW", CommandNew, "the same", true},
+    CHostCommand{"OPEN", CommandOpen,
+                 "path: opens a DWG or DXF file; while SDI is not 0, in place of the current drawing", true},
+    CHostCommand{"QSAVE", CommandQSave, "saves the drawing to its file; one without a file asks for a path"},
+    CHostCommand{
+        "SAVEAS", CommandSaveAs,
+        "path [exploded]: saves the drawing as .dwg or .dxf, in a .dxf custom entities as their parts"},
     CHostCommand{"CLOSE", CommandClose, "closes the current drawing", true},
     CHostCommand{"QUIT", CommandQuit, "ends the run"},
     CHostCommand{"DOCUMENTS", CommandDocuments,

@@ -21,6 +21,9 @@ const CHostCommand* FindHostCommand(std::string_view strName);
 
 // document_commands.cpp
 void CommandNew(CHost& host);
+void CommandOpen(CHost& host);
+void CommandSaveAs(CHost& host);
+void CommandQSave(CHost& host);
 void CommandClose(CHost& host);
 void CommandQuit(CHost& host);
 void CommandDocuments(CHost& host);

@@ -28,6 +28,7 @@ std::optional<CProgramOptions> ReadOptions(int argc, char** argv, int* pStatus) 
            "../lib/tervo)")
         ->type_name("FILE");
     app.add_flag("-q", options.m_bQuiet, "leave out prompts and the answers read");
+    app.add_option("DRAWING", options.m_strDrawing, "file of the drawing to begin with, DWG or DXF");
     app.set_version_flag("--version", std::string("tvcad ") + TERVO_VERSION);
     app.footer(CommandHelp);
     try {

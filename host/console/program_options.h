@@ -5,9 +5,10 @@
 
 /// What the program was called with. Texts are UTF-8.
 struct CProgramOptions {
-    std::string m_strRoot;   ///< the installation; empty: the one that the environment names
-    std::string m_strScript; ///< "-" is standard input; empty: no script
-    std::string m_strModule; ///< empty: the default one; "none": none
+    std::string m_strRoot;    ///< the installation; empty: the one that the environment names
+    std::string m_strScript;  ///< "-" is standard input; empty: no script
+    std::string m_strDrawing; ///< file of the drawing to begin with; empty: a new one
+    std::string m_strModule;  ///< empty: the default one; "none": none
     bool m_bQuiet = false;
 };
 

@@ -1,6 +1,7 @@
 #include "host/console/script_documents.h"
 
 #include "host/console/drawing_session.h"
+#include "host/files/drawing_failure.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 
@@ -11,6 +12,8 @@ template <class Change>
 Acad::ErrorStatus StatusOf(CHost& host, const Change& change) {
     try {
         return change();
+    } catch (const CDrawingFailure& failure) {
+        return failure.Status();
     } catch (const CCommandCancelled&) {
         return Acad::eUserBreak;
     } catch (const CRunFailure& failure) {
@@ -35,7 +38,9 @@ Acad::ErrorStatus CScriptDocuments::NewDocument() {
 Acad::ErrorStatus CScriptDocuments::OpenDocument(const std::wstring& strPath) {
     return StatusOf(m_host, [&] {
         std::string utf8;
-        return ResolvePath({}, GbkFromWide(strPath), &utf8) ? OpenDrawing(m_host, utf8) : Acad::eFileNotFound;
+        if (!ResolvePath({}, GbkFromWide(strPath), &utf8)) return Acad::eFileNotFound;
+        OpenDrawing(m_host, utf8);
+        return Acad::eOk;
     });
 }
 

@@ -7,6 +7,8 @@
 #include "host/console/script_documents.h"
 #include "host/console/script_editor.h"
 #include "host/console/texts.h"
+#include "host/files/drawing_failure.h"
+#include "host/files/registered_drawing_files.h"
 #include "host/plot/fonts.h"
 #include "host/plot/headless.h"
 #include "platform/ado/report.h"
@@ -80,6 +82,22 @@ void LoadAtStart(CHost& host, const std::string& strModule) {
               << std::endl;
 }
 
+/// Opens the drawing that the program was called with, if any. False, and the reason told, when it can't be.
+bool OpenAtStart(CHost& host, const std::string& strDrawing) {
+    if (strDrawing.empty()) return true;
+    std::string strReason;
+    try {
+        OpenFirstDrawing(host, FindDrawingFile(strDrawing));
+        return true;
+    } catch (const CDrawingFailure& failure) {
+        strReason = failure.what();
+    } catch (const CRunFailure& failure) { // a name that the code page lacks
+        strReason = failure.what();
+    }
+    std::cerr << "tvcad: " << strDrawing << " cannot be opened: " << strReason << std::endl;
+    return false;
+}
+
 // What is told at the end, and the status that goes with it.
 int Finish(const CHost& host) {
     if (const std::optional<CRunFault>& fault = host.m_answers.Fault()) {
@@ -93,6 +111,15 @@ int Finish(const CHost& host) {
     return host.m_bModuleFailed ? EXIT_FILE_FAILED : EXIT_DONE;
 }
 
+int RunToEnd(CHost& host, const CProgramOptions& options, CTextOutput& output) {
+    LoadAtStart(host, options.m_strModule);
+    if (!OpenAtStart(host, options.m_strDrawing)) return EXIT_FILE_FAILED;
+    RunCommands(host);
+    output.BeginLine();
+    output.Flush();
+    return Finish(host);
+}
+
 int RunFrom(std::istream& input, const CProgramOptions& options, const std::string& strRootGbk) {
     CTextOutput output;
     CScriptAnswers answers(options.m_strScript, input, output, options.m_strScript == g_pStandardInput,
@@ -101,6 +128,7 @@ int RunFrom(std::istream& input, const CProgramOptions& options, const std::stri
     CRegisteredFonts fonts(output);
     const CRegisteredDialogs dialogs(answers);
     const CRegisteredReports reports(output);
+    const CRegisteredDrawingFiles files;
     CModules modules;
     int nStatus = EXIT_DONE;
     {
@@ -109,11 +137,7 @@ int RunFrom(std::istream& input, const CProgramOptions& options, const std::stri
         CHost host{answers, commandInput, drawings, modules, fonts.Fonts()};
         const CScriptEditor editor(output, host, strRootGbk);
         const CScriptDocuments documents(host);
-        LoadAtStart(host, options.m_strModule);
-        RunCommands(host);
-        output.BeginLine();
-        output.Flush();
-        nStatus = Finish(host);
+        nStatus = RunToEnd(host, options, output);
         EndSession(host);
     }
     modules.UnloadAll(); // after the drawings: their entities' code is in the modules

@@ -38,8 +38,9 @@ std::vector<AcDbDatabase*>& OpenDrawings() {
 
 } // namespace
 
-AcDbDatabase::AcDbDatabase() {
+AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) {
     OpenDrawings().push_back(this);
+    if (!buildDefaultDrawing) return;
     auto* const pBlocks = AddTable<AcDbBlockTable>(*this, m_idBlockTable);
     auto* const pLayers = AddTable<AcDbLayerTable>(*this, m_idLayerTable);
     auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, m_idLinetypeTable);

@@ -32,8 +32,9 @@ public:
     AcRxClass* isA() const override { return AcDbDatabase::desc(); }
 
     /// A new drawing holds model and paper space, layer "0", the line types ByLayer, ByBlock and Continuous,
-    /// the text style "Standard", the application "ACAD" and an empty dictionary of named objects.
-    AcDbDatabase();
+    /// the text style "Standard", the application "ACAD" and an empty dictionary of named objects. Without
+    /// these it holds nothing at all, and is for readDwgFile.
+    explicit AcDbDatabase(bool buildDefaultDrawing = true);
     ~AcDbDatabase() override;
 
     Acad::ErrorStatus getBlockTable(AcDbBlockTable*& pTable, AcDb::OpenMode mode);
@@ -69,14 +70,26 @@ public:
     /// file does not hold it), eDuplicateKey (the drawing has it already).
     Acad::ErrorStatus loadLineTypeFile(const ACHAR* linetype, const ACHAR* fileName);
 
+    // Files, by way of the program's CDrawingFileHost: eNotApplicable where there is none. A name goes with
+    // either slash and in any case. eInvalidInput for no name and for one that cannot be a path;
+    // eFileAccessErr for a file that cannot be read or written; eFilerError for what it holds, or cannot
+    // hold.
+
+    /// Fills a drawing that was made without the default one, else eNotApplicable; it gets the file's name.
+    /// eFileNotFound. A file is read whole and then let go, so that no share mode keeps others from it.
+    Acad::ErrorStatus readDwgFile(const ACHAR* fileName, int shareMode = 0x20);
+    /// Writes the drawing, in the format that the name's ending stands for; it keeps its own name. What the
+    /// file held stays beside it with the ending .bak. eWasOpenForWrite while an object is.
+    Acad::ErrorStatus saveAs(const ACHAR* fileName);
+
     Acad::ErrorStatus getFilename(std::wstring& fileName) const;
     void SetFilename(const ACHAR* fileName) { m_strFilename = fileName; }
     Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& id, AcDbHandle handle) const; ///< eUnknownHandle
 
     std::vector<AcDbObjectId> ObjectIds() const; ///< of all objects in database order, erased ones left out
     AcDbHandle handseed() const { return AcDbHandle(m_nNextHandle); } ///< what the next object gets
-    /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed, for
-    /// a handle that an object has.
+    /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed,
+    /// for a handle that an object has.
     bool SetHandseed(AcDbHandle handle);
     /// Gives an object of this drawing another handle, as a file has it, before anything refers to the former
     /// one. eInvalidInput for one that is taken, null or beyond 63 bits; eWrongDatabase.
@@ -102,7 +115,7 @@ public:
                                          bool deferXlation = false);
     /// A new drawing, the caller's to delete also when something could not be cloned: like this one; of the
     /// entities of a block, with its base point (eNotThatKindOfClass, eWrongDatabase); of some entities, with
-    /// a base point.
+    /// a base point. eNoDatabase, and no new drawing, for one that holds nothing at all.
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
@@ -129,6 +142,7 @@ public:
 
 private:
     friend class AcDbObject;
+    void TakeContents(AcDbDatabase& other);
     void NoteChanged(CDbStub& stub);
     template <class T>
     Acad::ErrorStatus SetCurrent(AcDbObjectId CDbVariables::*pVariable, AcDbObjectId id);

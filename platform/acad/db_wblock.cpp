@@ -56,6 +56,8 @@ Acad::ErrorStatus AcDbDatabase::wblockCloneObjects(const AcDbObjectIdArray& obje
 }
 
 Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput) {
+    pOutput = nullptr;
+    if (m_mapStubs.empty()) return Acad::eNoDatabase;
     auto pNew = std::make_unique<AcDbDatabase>();
     AcDbIdMapping mapping;
     CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);

@@ -45,8 +45,9 @@ constexpr const char* g_arStatusNames[] = {
     "eUserBreak",
     "eDuplicateRecordName",
     "eCannotScaleNonUniformly",
+    "eFileAccessErr",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eCannotScaleNonUniformly + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eFileAccessErr + 1, "every status has its name");
 
 } // namespace
 

@@ -44,6 +44,7 @@ enum ErrorStatus {
     eUserBreak = 36,      ///< the user gave it up
     eDuplicateRecordName = 37,
     eCannotScaleNonUniformly = 38, ///< the object cannot follow a scale that differs by direction
+    eFileAccessErr = 39,           ///< a file cannot be read or written
 };
 
 /// The status's name, for messages ("eWasErased").

@@ -3,6 +3,7 @@
 namespace {
 
 CEditorHost* g_pEditorHost = nullptr;
+CDrawingFileHost* g_pDrawingFileHost = nullptr;
 
 } // namespace
 
@@ -17,4 +18,12 @@ CEditorHost* EditorHost() {
 
 void SetEditorHost(CEditorHost* pHost) {
     g_pEditorHost = pHost;
+}
+
+CDrawingFileHost* DrawingFileHost() {
+    return g_pDrawingFileHost;
+}
+
+void SetDrawingFileHost(CDrawingFileHost* pHost) {
+    g_pDrawingFileHost = pHost;
 }

@@ -51,3 +51,15 @@ public:
 
 CEditorHost* EditorHost(); ///< null when none is registered
 void SetEditorHost(CEditorHost* pHost);
+
+/// The files of drawings, for AcDbDatabase::readDwgFile and saveAs. Paths are UTF-8.
+class CDrawingFileHost {
+public:
+    virtual ~CDrawingFileHost() = default;
+    /// A drawing made anew; untouched when the status is not eOk.
+    virtual Acad::ErrorStatus Read(const std::string& utf8Path, std::unique_ptr<AcDbDatabase>* pDatabase) = 0;
+    virtual Acad::ErrorStatus Write(const AcDbDatabase& database, const std::string& utf8Path) = 0;
+};
+
+CDrawingFileHost* DrawingFileHost(); ///< null when none is registered
+void SetDrawingFileHost(CDrawingFileHost* pHost);

@@ -19,22 +19,26 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// Where a path leads over links, also to a file that is not there yet.
+/// Where a path leads over links, also to a file that is not there yet. Empty, with errno, when they go
+/// round.
 std::string LinkTarget(const std::string& path) {
     constexpr int MOST_LINKS = 40;
     namespace fs = std::filesystem;
     fs::path target = path;
     std::error_code error;
-    for (int i = 0; i < MOST_LINKS && fs::is_symlink(fs::symlink_status(target, error)); ++i)
+    for (int i = 0; i < MOST_LINKS; ++i) {
+        if (!fs::is_symlink(fs::symlink_status(target, error))) return target.string();
         target = target.parent_path() / fs::read_symlink(target, error);
-    return target.string();
+    }
+    errno = ELOOP;
+    return {};
 }
 
-/// Gives the new file what the one it replaces had: its mode and, as far as this user may, its owner. A file
-/// without predecessor gets the usual mode.
-bool TakeOver(const std::string& path, int descriptor) {
+/// Gives the new file what the one that it follows has: its mode and, as far as this user may, its owner.
+/// Where there is none it gets the usual mode.
+bool TakeOver(const std::string& former, int descriptor) {
     struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
+    if (stat(former.c_str(), &status) != 0) {
         const mode_t mask = umask(0);
         umask(mask);
         return fchmod(descriptor, 0666 & ~mask) == 0;
@@ -57,6 +61,56 @@ bool WriteAll(int descriptor, std::string_view bytes) {
 void FlushFolder(const std::string& folder) {
     const CDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor) fsync(descriptor.Get());
+}
+
+/// Removes a file and leaves errno as it is.
+void Discard(const std::string& path) {
+    const int reason = errno;
+    unlink(path.c_str());
+    errno = reason;
+}
+
+/// Writes a file of some new name beside the target, up to the disk, with what former has of mode and owner.
+/// The file's path; empty, with errno, and nothing left, when it fails.
+std::string WriteBeside(const std::string& target, std::string_view bytes, const std::string& former) {
+    const std::string folder = FolderOf(target);
+    std::string beside = (folder == "." ? std::string("./") : folder) + ".tervo-XXXXXX";
+    CDescriptor descriptor(mkostemp(beside.data(), O_CLOEXEC));
+    if (!descriptor) return {};
+    if (WriteAll(descriptor.Get(), bytes) && TakeOver(former, descriptor.Get()) &&
+        fsync(descriptor.Get()) == 0 && descriptor.Close())
+        return beside;
+    Discard(beside);
+    return {};
+}
+
+/// One step: the name stands for the former file up to it, for the new one from then on.
+bool Rename(const std::string& path, const std::string& target) {
+    if (rename(path.c_str(), target.c_str()) == 0) return true;
+    Discard(path);
+    return false;
+}
+
+/// The target's name with the ending .bak, never the target's own.
+std::string BackupOf(const std::string& target) {
+    const std::filesystem::path backup = std::filesystem::path(target).replace_extension(".bak");
+    return backup == target ? target + ".bak" : backup.string();
+}
+
+bool CopyToBackup(const std::string& target) {
+    std::string former;
+    if (!ReadFileWhole(target, &former)) return false;
+    const std::string beside = WriteBeside(BackupOf(target), former, target);
+    return !beside.empty() && Rename(beside, BackupOf(target));
+}
+
+/// Lets the target's file, if there is one, stand under its backup's name too, by way of a spare one.
+bool KeepAsBackup(const std::string& target, const std::string& spare) {
+    if (link(target.c_str(), spare.c_str()) != 0)
+        return errno == ENOENT || CopyToBackup(target); // not every file system has second names
+    if (!Rename(spare, BackupOf(target))) return false;
+    unlink(spare.c_str()); // which stays when the backup's name stood for the same file already
+    return true;
 }
 
 } // namespace
@@ -85,19 +139,23 @@ bool ReadFileWhole(const std::string& utf8Path, std::string* bytes) {
 
 bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes) {
     const std::string target = LinkTarget(utf8Path);
-    const std::string folder = FolderOf(target);
-    std::string beside = (folder == "." ? std::string("./") : folder) + ".tervo-XXXXXX";
-    CDescriptor descriptor(mkostemp(beside.data(), O_CLOEXEC));
-    if (!descriptor) return false;
-    const bool written = WriteAll(descriptor.Get(), bytes) && TakeOver(target, descriptor.Get()) &&
-                         fsync(descriptor.Get()) == 0 && descriptor.Close() &&
-                         rename(beside.c_str(), target.c_str()) == 0;
-    if (!written) {
-        const int reason = errno;
-        unlink(beside.c_str());
-        errno = reason;
+    if (target.empty()) return false;
+    const std::string beside = WriteBeside(target, bytes, target);
+    if (beside.empty() || !Rename(beside, target)) return false;
+    FlushFolder(FolderOf(target));
+    return true;
+}
+
+bool WriteFileWithBackup(const std::string& utf8Path, std::string_view bytes) {
+    const std::string target = LinkTarget(utf8Path);
+    if (target.empty()) return false;
+    const std::string beside = WriteBeside(target, bytes, target);
+    if (beside.empty()) return false;
+    if (!KeepAsBackup(target, beside + "-")) {
+        Discard(beside);
         return false;
     }
-    FlushFolder(folder);
+    if (!Rename(beside, target)) return false;
+    FlushFolder(FolderOf(target));
     return true;
 }

@@ -12,3 +12,7 @@ bool ReadFileWhole(const std::string& utf8Path, std::string* bytes);
 /// a failure (false, errno tells why) leaves the old. Keeps the mode of a file that is replaced, and its
 /// owner where this user may; follows a link.
 bool WriteFileWhole(const std::string& utf8Path, std::string_view bytes);
+
+/// The same, and the file that is replaced stays beside the new one with the ending .bak, in place of what
+/// had that name. At every moment one of the two is there under the path.
+bool WriteFileWithBackup(const std::string& utf8Path, std::string_view bytes);

@@ -1,4 +1,4 @@
-// NEW, QNEW, CLOSE, QUIT, DOCUMENTS and ACTIVATE in real runs.
+// NEW, QNEW, OPEN, SAVEAS, QSAVE, CLOSE, QUIT, DOCUMENTS and ACTIVATE in real runs.
 
 #include "tests/host/console/program_run.h"
 
@@ -67,11 +67,15 @@ TEST_F(DocumentCommands, TheAnswerIsTheNextLineNotAWord) {
 }
 
 TEST_F(DocumentCommands, ADrawingWithoutAFileIsAskedForAPathAndKeptWhenItCannotBeSavedThere) {
-    CProgramResult result = RunScript("LINES\nCLOSE\nyes\nmy drawing.dwg\nDOCUMENTS\n", "-q");
+    CProgramResult result = RunScript("LINES\nCLOSE\nyes\nnone/my drawing.dwg\nDOCUMENTS\n", "-q");
     EXPECT_EQ(result.m_nStatus, 4);
     EXPECT_EQ(result.m_strOut, "");
-    EXPECT_EQ(result.m_strErr, "script:4: Drawing1 cannot be saved to my drawing.dwg: eNotImplementedYet\n");
-    EXPECT_FALSE(std::filesystem::exists(m_folder / "my drawing.dwg"));
+    EXPECT_EQ(result.m_strErr,
+              "script:4: Drawing1 cannot be saved to none/my drawing.dwg: No such file or directory\n");
+    result = RunScript("LINES\nCLOSE\nyes\nmy drawing.dwg\nDOCUMENTS\n", "-q");
+    EXPECT_EQ(result.m_strErr, "");
+    EXPECT_EQ(result.m_strOut, "");
+    EXPECT_TRUE(std::filesystem::exists(m_folder / "my drawing.dwg"));
     result = RunScript("LINES\nCLOSE\nyes\ncancel\nDOCUMENTS\n", "-q");
     EXPECT_EQ(result.m_nStatus, 0);
     EXPECT_EQ(result.m_strOut, "1 * Drawing1 (changed)\n");

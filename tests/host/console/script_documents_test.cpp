@@ -8,7 +8,7 @@ TEST_F(ScriptDocuments, FilesAreOpenedInTheApplicationsContextOnly) {
     WriteFile("present.dwg", "AC1015");
     EXPECT_EQ(RunDocuments("OPENFILES\nDOCUMENTS\n").m_strOut,
               "\nmissing eInvalidContext\npresent eInvalidContext"
-              "\nmissing eFileNotFound\npresent eNotImplementedYet\n"
+              "\nmissing eFileNotFound\npresent eFilerError\n"
               "1 * Drawing1\n");
 }
 

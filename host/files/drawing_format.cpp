@@ -1,0 +1,106 @@
+#include "host/files/drawing_format.h"
+
+#include "host/files/dwg_drawing_reader.h"
+#include "host/files/dwg_drawing_writer.h"
+#include "host/files/dxf_binary_reader.h"
+#include "host/files/dxf_read.h"
+#include "host/files/dxf_write.h"
+#include "platform/windows/code_page.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool BeginsLikeDwg(std::string_view bytes) {
+    return bytes.size() > 2 && bytes.starts_with("AC") && IsDigit(bytes[2]);
+}
+
+/// A text file begins with a section or a comment: with the number of either, alone on its line.
+bool BeginsLikeDxf(std::string_view bytes) {
+    if (bytes.starts_with(g_szDxfBinarySentinel)) return true;
+    constexpr std::string_view strBlanks = " \t\r";
+    std::string_view line = bytes.substr(0, bytes.find('\n'));
+    line.remove_prefix(std::min(line.find_first_not_of(strBlanks), line.size()));
+    line = line.substr(0, line.find_last_not_of(strBlanks) + 1);
+    return line == "0" || line == "999";
+}
+
+CReadDrawing ReadDwg(std::string_view bytes) {
+    const auto* const pBytes = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    return {DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()})), CDrawingFormat::Dwg, {}};
+}
+
+CReadDrawing ReadDxfDrawing(std::string_view bytes) {
+    CReadDrawing read{std::make_unique<AcDbDatabase>(), CDrawingFormat::Dxf, {}};
+    read.m_losses = ReadDxf(bytes, *read.m_pDatabase);
+    return read;
+}
+
+CReadDrawing ReadEither(std::string_view bytes) {
+    if (BeginsLikeDwg(bytes)) return ReadDwg(bytes);
+    if (BeginsLikeDxf(bytes)) return ReadDxfDrawing(bytes);
+    throw CDrawingFailure(Acad::eFilerError, bytes.empty() ? "the file is empty"
+                                                           : "the file is neither a DWG nor a DXF drawing");
+}
+
+CWrittenDrawing WriteDwg(const AcDbDatabase& database) {
+    const CBytes bytes = WriteDwgFile(DwgFileOf(database));
+    return {std::string(bytes.begin(), bytes.end()), {}};
+}
+
+CWrittenDrawing WriteDxfDrawing(const AcDbDatabase& database) {
+    CDxfFile file = WriteDxf(database);
+    return {std::move(file.m_strBytes), std::move(file.m_losses)};
+}
+
+void CheckNoneOpen(const AcDbDatabase& database) {
+    for (const AcDbObjectId& id : database.ObjectIds())
+        if (!CDbOpen<AcDbObject>(id))
+            throw CDrawingFailure(Acad::eWasOpenForWrite,
+                                  "the object #" + id.handle().Hex() + " is being changed");
+}
+
+/// What a format's own routine throws, for the user.
+template <class Work>
+auto Told(const Work& work) {
+    try {
+        return work();
+    } catch (const CDrawingFailure&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw CDrawingFailure(Acad::eFilerError, ToUtf8(error.what()));
+    }
+}
+
+} // namespace
+
+std::optional<CDrawingFormat> FormatOfEnding(const std::string& utf8Path) {
+    std::string ending = std::filesystem::path(utf8Path).extension().string();
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    if (ending == ".dwg") return CDrawingFormat::Dwg;
+    if (ending == ".dxf") return CDrawingFormat::Dxf;
+    return std::nullopt;
+}
+
+std::string LossesText(const CDrawingLosses& losses) {
+    std::string text;
+    for (const auto& [strKind, nCount] : losses)
+        text += (text.empty() ? "" : "; ") + ToUtf8(strKind) + " (" + std::to_string(nCount) + ")";
+    return text;
+}
+
+CReadDrawing ReadDrawing(std::string_view bytes) {
+    return Told([&] { return ReadEither(bytes); });
+}
+
+CWrittenDrawing WriteDrawing(const AcDbDatabase& database, CDrawingFormat format) {
+    CheckNoneOpen(database);
+    return Told(
+        [&] { return format == CDrawingFormat::Dwg ? WriteDwg(database) : WriteDxfDrawing(database); });
+}
