@@ -20,20 +20,29 @@ struct CRelease {
     std::string_view m_strVersion;
     const char* m_pRelease;
 };
-constexpr CRelease g_arReleases[] = {{"AC1009", "R12"},   {"AC1012", "R13"},   {"AC1014", "R14"},
-                                     {"AC1018", "R2004"}, {"AC1021", "R2007"}, {"AC1024", "R2010"},
-                                     {"AC1027", "R2013"}, {"AC1032", "R2018"}};
+constexpr CRelease g_arReleases[] = {{"AC1002", "R2.5"},  {"AC1003", "R2.6"},  {"AC1004", "R9"},
+                                     {"AC1006", "R10"},   {"AC1009", "R12"},   {"AC1012", "R13"},
+                                     {"AC1014", "R14"},   {"AC1018", "R2004"}, {"AC1021", "R2007"},
+                                     {"AC1024", "R2010"}, {"AC1027", "R2013"}, {"AC1032", "R2018"}};
+
+/// Two letters and four more characters, digits or points.
+bool IsVersion(std::string_view text) {
+    return text.size() == g_strDwgVersion.size() && text.starts_with("AC") &&
+           text.find_first_not_of("0123456789.", 2) == std::string_view::npos;
+}
 
 void CheckVersion(CByteView file) {
     const std::string strVersion(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(std::min(
                                                                   file.size(), g_strDwgVersion.size())));
     if (strVersion == g_strDwgVersion) return;
+    if (!IsVersion(strVersion)) throw CDwgError("The file is no DWG drawing.");
     const auto found =
         std::find_if(std::begin(g_arReleases), std::end(g_arReleases),
                      [&](const CRelease& release) { return release.m_strVersion == strVersion; });
-    if (found == std::end(g_arReleases)) throw CDwgError("The file is no DWG drawing.");
-    throw CDwgError("The drawing is of version " + strVersion + " (" + found->m_pRelease +
-                    "); only AC1015 (R2000) can be read.");
+    const std::string strRelease =
+        found == std::end(g_arReleases) ? "" : std::string(" (") + found->m_pRelease + ")";
+    throw CDwgError("The drawing is of version " + strVersion + strRelease +
+                    "; only AC1015 (R2000) can be read.");
 }
 
 /// The records, as many as there are; bits go up to the file's end.

@@ -122,7 +122,8 @@ public:
                              const AcGePoint3d& basePoint);
     /// Makes a block of what another drawing has in model space, and brings all its layers, styles, line
     /// types and registered applications along. The source is preserved in any case. eNullObjectPointer,
-    /// eInvalidInput for this drawing itself and for no name, eDuplicateRecordName for a block that is there.
+    /// eNoDatabase for one that holds nothing at all, eInvalidInput for this drawing itself and for no name,
+    /// eDuplicateRecordName for a block that is there.
     Acad::ErrorStatus insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,
                              bool preserveSource = true);
     /// Clones the other drawing's model space into this one's, transformed.

@@ -104,6 +104,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
                                        bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this || !blockName || !*blockName) return Acad::eInvalidInput;
+    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     {
         const CDbOpen<AcDbBlockTable> table(m_idBlockTable, AcDb::kForWrite);
         if (!table) return table.Status();
@@ -124,6 +125,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
 Acad::ErrorStatus AcDbDatabase::insert(const AcGeMatrix3d& xform, AcDbDatabase* pSource, bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this) return Acad::eInvalidInput;
+    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     AcDbIdMapping mapping;
     CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
     CloneStyles(*pSource, cloner);

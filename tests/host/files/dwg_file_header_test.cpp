@@ -57,9 +57,10 @@ TEST(DwgFileHeader, IsReadWithFiveRecordsToo) {
 
 TEST(DwgFileHeader, NamesTheVersionAndTheReleaseOfAnotherDrawing) {
     for (const auto& [strVersion, strRelease] :
-         {std::pair("AC1009", "R12"), std::pair("AC1012", "R13"), std::pair("AC1014", "R14"),
-          std::pair("AC1018", "R2004"), std::pair("AC1021", "R2007"), std::pair("AC1024", "R2010"),
-          std::pair("AC1027", "R2013"), std::pair("AC1032", "R2018")}) {
+         {std::pair("AC1002", "R2.5"), std::pair("AC1003", "R2.6"), std::pair("AC1004", "R9"),
+          std::pair("AC1006", "R10"), std::pair("AC1009", "R12"), std::pair("AC1012", "R13"),
+          std::pair("AC1014", "R14"), std::pair("AC1018", "R2004"), std::pair("AC1021", "R2007"),
+          std::pair("AC1024", "R2010"), std::pair("AC1027", "R2013"), std::pair("AC1032", "R2018")}) {
         CBytes file = KnownFile();
         std::copy_n(strVersion, 6, file.begin());
         EXPECT_EQ(RefusalOfFile(file), std::string("The drawing is of version ") + strVersion + " (" +
@@ -67,7 +68,17 @@ TEST(DwgFileHeader, NamesTheVersionAndTheReleaseOfAnotherDrawing) {
     }
 }
 
+TEST(DwgFileHeader, NamesTheVersionAlsoWhereItKnowsNoRelease) {
+    CBytes file = KnownFile();
+    for (const char* strVersion : {"AC1099", "AC2.10"}) {
+        std::copy_n(strVersion, 6, file.begin());
+        EXPECT_EQ(RefusalOfFile(file), std::string("The drawing is of version ") + strVersion +
+                                           "; only AC1015 (R2000) can be read.");
+    }
+}
+
 TEST(DwgFileHeader, RefusesWhatIsNoDrawing) {
+    EXPECT_EQ(RefusalOfFile(HexBytes("41 43 31 30 31 58")), "The file is no DWG drawing.");
     EXPECT_EQ(RefusalOfFile({}), "The file is no DWG drawing.");
     EXPECT_EQ(RefusalOfFile(HexBytes("41 43 31 30")), "The file is no DWG drawing.");
     EXPECT_EQ(RefusalOfFile(HexBytes("41 43 31 30 31 35")), "File header: the file ends in it.");
