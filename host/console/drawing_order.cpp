@@ -32,12 +32,3 @@ std::vector<AcDbObjectId> AllEntities(AcDbDatabase& drawing) {
     SortByHandle(&ids);
     return ids;
 }
-
-std::vector<AcDbObjectId> LivingRecords(AcDbObjectId idTable) {
-    std::vector<AcDbObjectId> ids;
-    const CDbOpen<AcDbSymbolTable> table(idTable);
-    if (!table) return ids;
-    ids = table->RecordIds();
-    std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
-    return ids;
-}

@@ -9,6 +9,3 @@ std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase& drawing);
 
 /// The living entities of all blocks, model and paper space among them, in database order.
 std::vector<AcDbObjectId> AllEntities(AcDbDatabase& drawing);
-
-/// The living records of a symbol table, in order of adding.
-std::vector<AcDbObjectId> LivingRecords(AcDbObjectId idTable);

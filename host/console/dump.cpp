@@ -3,10 +3,10 @@
 #include "host/console/drawing_order.h"
 #include "host/console/dump_entities.h"
 #include "host/console/dump_primitives.h"
-#include "host/console/table_keeper.h"
 #include "host/console/texts.h"
 #include "platform/acad/display_recorder.h"
 #include "platform/acad/editor.h"
+#include "platform/acad/table_keeper.h"
 
 #include <algorithm>
 

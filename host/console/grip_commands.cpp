@@ -5,11 +5,11 @@
 #include "host/console/numbers.h"
 #include "host/console/output_file.h"
 #include "host/console/refusal.h"
-#include "host/console/table_keeper.h"
 #include "host/console/words.h"
 #include "platform/acad/display_recorder.h"
 #include "platform/acad/field_table.h"
 #include "platform/acad/free_copy.h"
+#include "platform/acad/table_keeper.h"
 
 #include <optional>
 

@@ -31,8 +31,13 @@ CDwgRecord WriteDwgCustomEntity(const AcDbEntity& entity, const CDwgEntityCommon
                                 const CDwgWriting& writing) {
     const std::uint64_t nHandle = writing.m_handles.Of(entity.objectId());
     const CDwgOutFiler::CHandleOf handleOf = [&](AcDbObjectId id) { return writing.m_handles.Of(id); };
+    CDwgEntityCommon drawn = common;
+    if (const CBytes* const pPicture = writing.m_pPictures ? writing.m_pPictures->Of(entity) : nullptr) {
+        drawn.m_bGraphics = true;
+        drawn.m_arGraphics = *pPicture;
+    }
     CDwgRecordWriter io;
-    FileEntityCommon(io, common);
+    FileEntityCommon(io, drawn);
     CDwgOutFiler filer(io, writing.m_text, handleOf);
     if (entity.dwgOut(&filer) != Acad::eOk || filer.filerStatus() != Acad::eOk)
         RefuseDwgObject(nHandle, "it cannot be written into a file.");

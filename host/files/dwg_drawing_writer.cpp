@@ -52,9 +52,11 @@ CDwgVariables VariablesOf(const AcDbDatabase& database, const CDwgHandleMap& han
 CDwgFile DwgFileOf(const AcDbDatabase& database) {
     CDwgFile file;
     const CDrawingText text(CodePageOfDwg(file.m_identity.m_nCodePage));
+    const CCustomPictures pictures(database, text);
     CDwgHandleMap handles(database);
     file.m_arClasses = DwgStandardClasses();
-    const CDwgWriting writing{database, text, file.m_identity.m_nCodePage, handles, file.m_arClasses};
+    const CDwgWriting writing{database,         text,     file.m_identity.m_nCodePage, handles,
+                              file.m_arClasses, &pictures};
     std::vector<CDwgRecord> records = DwgStandardObjects();
     WriteDwgTables(writing, records);
     WriteDwgBlocks(writing, records);

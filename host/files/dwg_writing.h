@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/custom_pictures.h"
 #include "host/files/drawing_text.h"
 #include "host/files/dwg_classes.h"
 #include "host/files/dwg_common.h"
@@ -12,7 +13,8 @@ struct CDwgWriting {
     const CDrawingText& m_text;
     std::uint16_t m_nCodePage; ///< the text's
     CDwgHandleMap& m_handles;
-    std::vector<CDwgClass>& m_classes; ///< of the file
+    std::vector<CDwgClass>& m_classes;            ///< of the file
+    const CCustomPictures* m_pPictures = nullptr; ///< of custom entities; null for none
 };
 
 /// The extended data of an object as its record holds them.

@@ -59,6 +59,6 @@ private:
 
 void CheckDxfBlocks(const AcDbDatabase& database) {
     CBlockCheck check;
-    for (const AcDbObjectId& id : DxfRecords(database.blockTableId()))
+    for (const AcDbObjectId& id : LivingRecords(database.blockTableId()))
         check.Check(id);
 }

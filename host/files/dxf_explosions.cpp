@@ -3,7 +3,7 @@
 #include "host/files/dxf_entity_types.h"
 
 CDxfExplosions::CDxfExplosions(const AcDbDatabase& database) {
-    for (const AcDbObjectId& idBlock : DxfRecords(database.blockTableId())) {
+    for (const AcDbObjectId& idBlock : LivingRecords(database.blockTableId())) {
         const CDbOpen<AcDbBlockTableRecord> block(idBlock);
         for (const AcDbObjectId& id : block->EntityIds()) {
             const CDbOpen<AcDbEntity> entity(id);

@@ -2,8 +2,6 @@
 
 #include "platform/acad/wide_names.h"
 
-#include <algorithm>
-
 void CDxfOutput::Record(std::string_view type, AcDbHandle handle, AcDbHandle owner) {
     Word(0, type);
     Handle(type == "DIMSTYLE" ? 105 : 5, handle); // there group 5 is the name of a block
@@ -18,13 +16,6 @@ void CDxfOutput::BeginSection(std::string_view name) {
 std::wstring DxfName(AcDbObjectId idRecord) {
     const CDbOpen<AcDbSymbolTableRecord> record(idRecord);
     return record ? record->Name() : std::wstring();
-}
-
-std::vector<AcDbObjectId> DxfRecords(AcDbObjectId idTable) {
-    const CDbOpen<AcDbSymbolTable> table(idTable);
-    std::vector<AcDbObjectId> ids = table->RecordIds();
-    std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
-    return ids;
 }
 
 bool IsDxfPaperSpace(const std::wstring& strName) {

@@ -32,8 +32,5 @@ private:
 /// The name of a table's record; empty for a null id.
 std::wstring DxfName(AcDbObjectId idRecord);
 
-/// The records of a table, erased ones left out.
-std::vector<AcDbObjectId> DxfRecords(AcDbObjectId idTable);
-
 /// Whether a block of that name is a sheet of paper to draw on.
 bool IsDxfPaperSpace(const std::wstring& strName);

@@ -5,7 +5,7 @@
 CDxfStructure::CDxfStructure(CDxfOutput& out)
     : m_plotStyle(out.NewHandle()) {
     m_arLayouts.push_back({out.Database().ModelSpaceId(), out.NewHandle(), L"Model", 0});
-    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId())) {
+    for (const AcDbObjectId& id : LivingRecords(out.Database().blockTableId())) {
         if (!IsDxfPaperSpace(DxfName(id))) continue;
         const int nTab = static_cast<int>(m_arLayouts.size());
         m_arLayouts.push_back({id, out.NewHandle(), L"Layout" + std::to_wstring(nTab), nTab});

@@ -126,14 +126,14 @@ void WriteBlock(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlo
 
 void WriteDxfBlocks(CDxfOutput& out, const CDxfExplosions& explosions) {
     out.BeginSection("BLOCKS");
-    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId()))
+    for (const AcDbObjectId& id : LivingRecords(out.Database().blockTableId()))
         if (const CDbOpen<AcDbBlockTableRecord> block(id); block) WriteBlock(out, explosions, *block.Get());
     out.EndSection();
 }
 
 void WriteDxfEntities(CDxfOutput& out, const CDxfExplosions& explosions) {
     out.BeginSection("ENTITIES");
-    for (const AcDbObjectId& id : DxfRecords(out.Database().blockTableId()))
+    for (const AcDbObjectId& id : LivingRecords(out.Database().blockTableId()))
         if (const CDbOpen<AcDbBlockTableRecord> block(id); block && HasOwnSection(*block.Get()))
             WriteEntitiesOf(out, explosions, *block.Get());
     out.EndSection();

@@ -34,7 +34,7 @@ void BeginRecord(CDxfOutput& out, std::string_view type, std::string_view subcla
 template <class Record, class Write>
 void WriteTable(CDxfOutput& out, AcDbObjectId idTable, std::string_view name, std::string_view subclass,
                 Write write) {
-    const std::vector<AcDbObjectId> ids = DxfRecords(idTable);
+    const std::vector<AcDbObjectId> ids = LivingRecords(idTable);
     BeginTable(out, name, idTable.handle(), ids.size());
     for (const AcDbObjectId& id : ids) {
         const CDbOpen<Record> record(id);

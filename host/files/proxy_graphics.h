@@ -2,7 +2,7 @@
 // An entity's picture as files keep it, for programs that don't know the entity's class.
 
 #include "host/files/bytes.h"
-#include "host/files/dwg_text.h"
+#include "host/files/drawing_text.h"
 #include "platform/acad/db_entity.h"
 
 #include <functional>
@@ -10,7 +10,7 @@
 /// The picture's bytes, texts in the drawing's code page. Colours are kept, and of line types ByLayer and
 /// ByBlock. Bulges become arcs, wide lines filled outlines, splines chords that differ from them by less than
 /// shows on paper. What has a number that is not finite is left out.
-CBytes WriteProxyGraphics(const CDisplayList& picture, const CDwgText& text);
+CBytes WriteProxyGraphics(const CDisplayList& picture, const CDrawingText& text);
 
 /// Makes wide text of a file's narrow one.
 using CProxyTextDecoder = std::function<std::wstring(std::string_view)>;

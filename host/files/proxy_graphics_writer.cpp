@@ -26,7 +26,7 @@ int ChordsOf(const CBezier& piece) {
 /// Builds the bytes chunk by chunk.
 class CProxyGraphicsWriter {
 public:
-    explicit CProxyGraphicsWriter(const CDwgText& text)
+    explicit CProxyGraphicsWriter(const CDrawingText& text)
         : m_text(text) {}
 
     CBytes Write(const CDisplayList& picture) {
@@ -192,7 +192,7 @@ private:
 
     static constexpr std::uint32_t s_nNotYet = std::numeric_limits<std::uint32_t>::max();
 
-    const CDwgText& m_text;
+    const CDrawingText& m_text;
     CBytes m_bytes; ///< of all chunks
     std::uint32_t m_nChunks = 0;
     std::uint32_t m_nColor = s_nNotYet, m_nLinetype = s_nNotYet; ///< in force
@@ -200,6 +200,6 @@ private:
 
 } // namespace
 
-CBytes WriteProxyGraphics(const CDisplayList& picture, const CDwgText& text) {
+CBytes WriteProxyGraphics(const CDisplayList& picture, const CDrawingText& text) {
     return CProxyGraphicsWriter(text).Write(picture);
 }

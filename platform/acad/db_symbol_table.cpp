@@ -89,3 +89,11 @@ Acad::ErrorStatus AcDbSymbolTable::add(AcDbSymbolTableRecord* pRecord) {
     AcDbObjectId id;
     return add(id, pRecord);
 }
+
+std::vector<AcDbObjectId> LivingRecords(AcDbObjectId idTable) {
+    const CDbOpen<AcDbSymbolTable> table(idTable);
+    if (!table) return {};
+    std::vector<AcDbObjectId> ids = table->RecordIds();
+    std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
+    return ids;
+}

@@ -52,5 +52,8 @@ private:
     std::unordered_multimap<std::wstring, AcDbObjectId> m_mapByName;
 };
 
+/// The records of a table in order of adding, erased ones left out; none of a table that somebody changes.
+std::vector<AcDbObjectId> LivingRecords(AcDbObjectId idTable);
+
 inline constexpr const ACHAR* ACDB_MODEL_SPACE = L"*Model_Space";
 inline constexpr const ACHAR* ACDB_PAPER_SPACE = L"*Paper_Space";

@@ -19,12 +19,12 @@ constexpr double g_dQuarter = std::numbers::pi / 2;
 
 CDisplayList ReadBytes(CByteView bytes) {
     const AcDbLine line;
-    const CDwgText text(g_nDwgAnsi936);
+    const CDrawingText text(g_nChinesePage);
     return ReadProxyGraphics(bytes, line, [&](std::string_view narrow) { return text.Decode(narrow); });
 }
 
 CBytes Written(const CDisplayList& picture) {
-    return WriteProxyGraphics(picture, CDwgText(g_nDwgAnsi936));
+    return WriteProxyGraphics(picture, CDrawingText(g_nChinesePage));
 }
 
 CDisplayList ThereAndBack(const CDisplayList& picture) {

@@ -97,3 +97,16 @@ TEST(AcDbSymbolTable, OutsideOfADrawingTakesNoRecord) {
     layer.setName(L"A");
     EXPECT_EQ(table.add(&layer), Acad::eNoDatabase);
 }
+
+TEST(LivingRecords, LeaveOutErasedOnesAndThoseOfATableThatSomebodyChanges) {
+    AcDbDatabase database;
+    const AcDbObjectId idFirst =
+        AddRecord<AcDbLayerTable>(database.layerTableId(), L"A", new AcDbLayerTableRecord);
+    const AcDbObjectId idSecond =
+        AddRecord<AcDbLayerTable>(database.layerTableId(), L"B", new AcDbLayerTableRecord);
+    CDbOpen<AcDbLayerTableRecord>(idFirst, AcDb::kForWrite)->erase();
+    EXPECT_EQ(LivingRecords(database.layerTableId()),
+              (std::vector<AcDbObjectId>{database.clayer(), idSecond}));
+    const CDbOpen<AcDbLayerTable> table(database.layerTableId(), AcDb::kForWrite);
+    EXPECT_TRUE(LivingRecords(database.layerTableId()).empty());
+}

@@ -1,6 +1,4 @@
-#include "host/console/table_keeper.h"
-
-#include "host/console/drawing_order.h"
+#include "platform/acad/table_keeper.h"
 
 #include <array>
 

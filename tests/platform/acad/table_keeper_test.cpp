@@ -1,4 +1,4 @@
-#include "host/console/table_keeper.h"
+#include "platform/acad/table_keeper.h"
 
 #include <gtest/gtest.h>
 
