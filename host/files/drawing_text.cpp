@@ -96,6 +96,12 @@ CDrawingText::CDrawingText(int nCodePage, CCarets carets)
     : m_pTable(nCodePage == g_nUtf8Page ? nullptr : &CCodeTable::Of(nCodePage))
     , m_bCarets(carets == CCarets::Escapes) {}
 
+CDrawingText CDrawingText::WithPlainCarets() const {
+    CDrawingText plain = *this;
+    plain.m_bCarets = false;
+    return plain;
+}
+
 std::wstring CDrawingText::Decode(std::string_view bytes) const {
     // A backslash may be the second byte of a character, so that escapes are sought among characters only.
     std::wstring text;

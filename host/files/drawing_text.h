@@ -14,6 +14,9 @@ public:
     /// By the system's number, UTF-8 too; Western for a page that is not known.
     explicit CDrawingText(int nCodePage, CCarets carets = CCarets::Plain);
 
+    /// The same page, where a `^` is nothing but that.
+    CDrawingText WithPlainCarets() const;
+
     /// Bytes and escapes that are no character, or a zero, give U+FFFD; what only looks like an escape stays
     /// as it is.
     std::wstring Decode(std::string_view bytes) const;

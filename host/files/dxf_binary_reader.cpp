@@ -53,6 +53,7 @@ bool CDxfBinaryReader::Read(CDxfTag* pTag) {
     if (m_nNext == m_bytes.size()) return false;
     pTag->m_nPlace = m_nNext;
     pTag->m_nCode = Code();
+    pTag->m_bDigits = false;
     switch (DxfKindOf(pTag->m_nCode)) {
     case CDxfKind::None:
         Fail(pTag->m_nPlace, "no group code: " + std::to_string(pTag->m_nCode));

@@ -65,6 +65,13 @@ AcDbObjectId CDxfDrawing::App(const std::wstring& strName) {
     return Named<AcDbRegAppTableRecord>(m_database.regAppTableId(), strName);
 }
 
+const CProxyOrigin* CDxfDrawing::Class(std::int64_t nNumber) const {
+    constexpr std::int64_t nFirst = 500;
+    const std::int64_t nCount = static_cast<std::int64_t>(m_arClasses.size());
+    if (nNumber < nFirst || nNumber >= nFirst + nCount) return nullptr;
+    return &m_arClasses[static_cast<std::size_t>(nNumber - nFirst)];
+}
+
 void CDxfDrawing::Identify(AcDbObjectId id, const CDxfRecord& record) {
     TakeHandle(id, HandleOf(record));
     if (record.m_arXData.empty()) return;

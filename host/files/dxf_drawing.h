@@ -3,6 +3,7 @@
 #include "host/files/dxf_losses.h"
 #include "host/files/dxf_record.h"
 #include "platform/acad/db_database.h"
+#include "platform/acad/db_proxy.h"
 
 #include <string>
 #include <unordered_set>
@@ -23,6 +24,10 @@ public:
     AcDbObjectId TextStyle(const std::wstring& strName);
     AcDbObjectId App(const std::wstring& strName);
 
+    /// Takes a class of the file; the first one has the number 500.
+    void AddClass(CProxyOrigin entry) { m_arClasses.push_back(std::move(entry)); }
+    const CProxyOrigin* Class(std::int64_t nNumber) const; ///< null for none
+
     /// Gives an object the handle of its record and its extended data.
     void Identify(AcDbObjectId id, const CDxfRecord& record);
 
@@ -36,4 +41,5 @@ private:
     AcDbDatabase& m_database;
     std::unordered_set<Adesk::UInt64> m_setTaken; ///< handles that the file gave
     CDxfLosses m_mapLost;
+    std::vector<CProxyOrigin> m_arClasses;
 };

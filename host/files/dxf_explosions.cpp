@@ -2,7 +2,9 @@
 
 #include "host/files/dxf_entity_types.h"
 
-CDxfExplosions::CDxfExplosions(const AcDbDatabase& database) {
+CDxfExplosions::CDxfExplosions(const AcDbDatabase& database)
+    : m_keeper(*database.ModelSpaceId().database()) {
+    const CDbVariables variables = database.Variables();
     for (const AcDbObjectId& idBlock : LivingRecords(database.blockTableId())) {
         const CDbOpen<AcDbBlockTableRecord> block(idBlock);
         for (const AcDbObjectId& id : block->EntityIds()) {
@@ -16,6 +18,7 @@ CDxfExplosions::CDxfExplosions(const AcDbDatabase& database) {
             if (status == Acad::eOk) m_mapParts.emplace(id.handle(), std::move(arParts));
         }
     }
+    database.ModelSpaceId().database()->SetVariables(variables); // which are written too
 }
 
 const CDxfExplosions::CParts* CDxfExplosions::PartsOf(const AcDbEntity& entity) const {

@@ -44,6 +44,7 @@ private:
         const CDxfRecord section = m_record;
         while (Next()) {
             if (m_record.m_type == "ENDSEC") return m_entities.End();
+            if (strName == L"CLASSES") ReadClass();
             if (strName == L"TABLES") ReadDxfTableRecord(m_record, m_drawing);
             if (strName == L"BLOCKS") ReadBlocks();
             if (strName == L"ENTITIES") m_entities.Add(m_record, Space());
@@ -56,6 +57,8 @@ private:
         m_header = CDxfHeader(m_record);
         m_records.SetEncoding(m_header.Encoding());
     }
+
+    void ReadClass() { m_drawing.AddClass({m_record.Text(2), m_record.Text(1), m_record.Text(3)}); }
 
     AcDbObjectId Space() {
         return m_drawing.Block(m_record.Whole(67) != 0 ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE);

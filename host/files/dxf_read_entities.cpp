@@ -3,6 +3,7 @@
 #include "host/files/dxf_angles.h"
 #include "host/files/dxf_plane.h"
 #include "host/files/dxf_read_curves.h"
+#include "host/files/dxf_read_proxies.h"
 #include "host/files/dxf_read_texts.h"
 #include "platform/acad/db_block_reference.h"
 
@@ -37,6 +38,7 @@ constexpr std::array g_arTypes = {
     CEntityType{"TEXT", ReadDxfText, true},
     CEntityType{"ATTDEF", ReadDxfAttributeDefinition, true},
     CEntityType{"INSERT", ReadReference, true},
+    CEntityType{"ACAD_PROXY_ENTITY", ReadDxfProxy, false},
 };
 
 const CEntityType* TypeOf(const CDxfRecord& record) {
@@ -154,6 +156,7 @@ AcDbObjectId CDxfEntities::Append(std::unique_ptr<AcDbEntity> pEntity, const CDx
         return id;
     }
     SetProperties(record, m_drawing, *pEntity);
+    if (auto* const pProxy = AcDbProxyEntity::cast(pEntity.get())) GiveDxfPicture(record, *pProxy);
     const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
     if (block && block->appendAcDbEntity(id, pEntity.get()) == Acad::eOk) pEntity.release()->close();
     m_drawing.Identify(id, record);

@@ -15,6 +15,7 @@ struct CDxfTag {
     int m_nCode = 0;
     std::variant<std::string_view, double, std::int64_t> m_value;
     std::size_t m_nPlace = 0; ///< line, or offset in a binary file
+    bool m_bDigits = true;    ///< binary data are hexadecimal digits
 
     /// The value when it is a text, else nothing.
     std::string_view Text() const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace {
 
@@ -14,6 +15,18 @@ AcGePoint3d PointAt(const CDxfTag* pTag, const CDxfTag* pEnd) {
     for (int i = 0; i < 3 && pTag != pEnd && pTag->m_nCode == nCode + 10 * i; ++i)
         coordinates[static_cast<std::size_t>(i)] = std::get<double>((pTag++)->m_value);
     return {coordinates[0], coordinates[1], coordinates[2]};
+}
+
+/// Appends the tag's binary data; false when they are broken.
+bool AppendBytes(const CDxfTag& tag, CBytes& bytes) {
+    const std::string_view text = tag.Text();
+    if (!tag.m_bDigits) return bytes.insert(bytes.end(), text.begin(), text.end()), true;
+    for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
+        std::uint8_t n = 0;
+        if (std::from_chars(&text[i], &text[i] + 2, n, 16).ptr != &text[i] + 2) return false;
+        bytes.push_back(n);
+    }
+    return text.size() % 2 == 0;
 }
 
 } // namespace
@@ -55,6 +68,14 @@ std::vector<AcGePoint3d> CDxfRecord::Points(int nCode) const {
     for (const CDxfTag& tag : m_arTags)
         if (tag.m_nCode == nCode) points.push_back(PointAt(&tag, m_arTags.data() + m_arTags.size()));
     return points;
+}
+
+CBytes CDxfRecord::BytesBehind(const CDxfTag& tag, int nCode) const {
+    CBytes bytes;
+    const CDxfTag* const pEnd = m_arTags.data() + m_arTags.size();
+    for (const CDxfTag* pTag = &tag + 1; pTag != pEnd && pTag->m_nCode == nCode; ++pTag)
+        if (!AppendBytes(*pTag, bytes)) break;
+    return bytes;
 }
 
 CDxfRecords::CDxfRecords(CDxfReader& reader)

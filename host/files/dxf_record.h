@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/bytes.h"
 #include "host/files/drawing_text.h"
 #include "host/files/dxf_reader.h"
 #include "platform/acad/geometry.h"
@@ -27,6 +28,10 @@ struct CDxfRecord {
     // All values under a code, in their order.
     std::vector<double> Reals(int nCode) const;
     std::vector<AcGePoint3d> Points(int nCode) const;
+
+    /// The binary data under a code that follow a tag in a row; what is no pair of hexadecimal digits ends
+    /// them.
+    CBytes BytesBehind(const CDxfTag& tag, int nCode) const;
 };
 
 /// Takes the records out of a file.

@@ -65,19 +65,25 @@ void WriteHeader(CDxfOutput& out) {
     out.EndSection();
 }
 
+CDxfCustomEntities CustomEntities(const AcDbDatabase& database, CDxfCustom custom) {
+    if (custom == CDxfCustom::Exploded)
+        return CDxfCustomEntities(std::in_place_type<CDxfExplosions>, database);
+    return CDxfCustomEntities(std::in_place_type<CCustomPictures>, database, CDrawingText(g_nChinesePage));
+}
+
 } // namespace
 
-CDxfFile WriteDxf(const AcDbDatabase& database) {
-    const CDxfExplosions explosions(database);
+CDxfFile WriteDxf(const AcDbDatabase& database, CDxfCustom custom) {
+    const CDxfCustomEntities customs = CustomEntities(database, custom);
     CDxfOutput out(database);
     const CDxfStructure structure(out);
-    WriteDxfClasses(out);
     WriteDxfTables(out, structure);
-    WriteDxfBlocks(out, explosions);
-    WriteDxfEntities(out, explosions);
+    WriteDxfBlocks(out, customs);
+    WriteDxfEntities(out, customs);
     WriteDxfObjects(out, structure);
     out.Word(0, "EOF");
     const std::string strBehindHeader = out.TakeBytes();
     WriteHeader(out);
+    WriteDxfClasses(out); // which are all known by now
     return {out.TakeBytes() + strBehindHeader, out.Losses()};
 }

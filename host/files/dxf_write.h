@@ -9,6 +9,12 @@ struct CDxfFile {
     CDxfLosses m_losses;
 };
 
-/// The drawing as a DXF file of R2000 in the text form, its texts in the system code page. Custom entities
-/// are written as what they explode into.
-CDxfFile WriteDxf(const AcDbDatabase& database);
+/// What custom entities are written as.
+enum class CDxfCustom {
+    Proxies,  ///< each with its picture and what its class has written
+    Exploded, ///< the ordinary entities that they explode into
+};
+
+/// The drawing, which stays as it is, as a DXF file of R2000 in the text form, its texts in the system code
+/// page.
+CDxfFile WriteDxf(const AcDbDatabase& database, CDxfCustom custom = CDxfCustom::Proxies);

@@ -1,6 +1,7 @@
 #include "host/files/dxf_write_entities.h"
 
 #include "host/files/dxf_entity_types.h"
+#include "host/files/dxf_write_proxies.h"
 #include "host/files/dxf_xdata.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/wide_names.h"
@@ -21,9 +22,9 @@ std::string TypeName(const AcDbEntity& entity) {
 }
 
 /// What all entities have. A free one has the layer that it would get in the drawing.
-void WriteProperties(CDxfOutput& out, const AcDbEntity& entity, const CPlace& place) {
+void WriteProperties(CDxfOutput& out, std::string_view type, const AcDbEntity& entity, const CPlace& place) {
     const bool bFree = entity.objectId().isNull();
-    out.Record(TypeName(entity), bFree ? out.NewHandle() : entity.handle(), place.m_owner);
+    out.Record(type, bFree ? out.NewHandle() : entity.handle(), place.m_owner);
     out.Subclass("AcDbEntity");
     if (place.m_bOnPaper) out.Whole(67, 1);
     out.Text(8, DxfName(entity.layerId().isNull() ? out.Database().clayer() : entity.layerId()));
@@ -35,7 +36,7 @@ void WriteProperties(CDxfOutput& out, const AcDbEntity& entity, const CPlace& pl
 bool WriteOrdinary(CDxfOutput& out, const AcDbEntity& entity, const CPlace& place) {
     const std::size_t nBefore = out.Bytes().size();
     const CDxfEntityType* const pType = DxfEntityType(entity);
-    if (pType) WriteProperties(out, entity, place);
+    if (pType) WriteProperties(out, TypeName(entity), entity, place);
     const bool bWritten = pType && pType->m_pWrite(out, entity);
     if (bWritten) WriteDxfXData(out, entity);
     if (out.KeepIf(bWritten, nBefore)) return true;
@@ -55,22 +56,36 @@ void WriteAttributes(CDxfOutput& out, const AcDbBlockReference& reference, bool 
     out.Text(8, DxfName(reference.layerId()));
 }
 
-void WriteExploded(CDxfOutput& out, const AcDbEntity& entity, const CDxfExplosions& explosions,
-                   const CPlace& place) {
-    const CDxfExplosions::CParts* const pParts = explosions.PartsOf(entity);
-    if (!pParts) return out.Lose(TypeName(entity));
-    for (const std::unique_ptr<AcDbEntity>& pPart : *pParts)
-        WriteOrdinary(out, *pPart, place);
-}
+/// Writes a custom entity in either form.
+struct CWriteCustom {
+    CDxfOutput& m_out;
+    const AcDbEntity& m_entity;
+    const CPlace& m_place;
 
-void WriteEntitiesOf(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlockTableRecord& block) {
+    void operator()(const CDxfExplosions& explosions) const {
+        const CDxfExplosions::CParts* const pParts = explosions.PartsOf(m_entity);
+        if (!pParts) return m_out.Lose(TypeName(m_entity));
+        for (const std::unique_ptr<AcDbEntity>& pPart : *pParts)
+            WriteOrdinary(m_out, *pPart, m_place);
+    }
+
+    void operator()(const CCustomPictures& pictures) const {
+        const std::size_t nBefore = m_out.Bytes().size();
+        WriteProperties(m_out, "ACAD_PROXY_ENTITY", m_entity, m_place);
+        WriteDxfProxy(m_out, m_entity, pictures.Of(m_entity));
+        WriteDxfXData(m_out, m_entity);
+        if (!m_out.KeepIf(true, nBefore)) m_out.Lose(TypeName(m_entity));
+    }
+};
+
+void WriteEntitiesOf(CDxfOutput& out, const CDxfCustomEntities& customs, const AcDbBlockTableRecord& block) {
     const CPlace place{block.handle(), IsDxfPaperSpace(block.Name())};
     for (const AcDbObjectId& id : block.EntityIds()) {
         const CDbOpen<AcDbEntity> entity(id);
         if (!entity) {
             out.Lose("entity in use");
         } else if (!DxfEntityType(*entity.Get())) {
-            WriteExploded(out, *entity.Get(), explosions, place);
+            std::visit(CWriteCustom{out, *entity.Get(), place}, customs);
         } else if (WriteOrdinary(out, *entity.Get(), place)) {
             const auto* const pReference = AcDbBlockReference::cast(entity.Get());
             if (pReference) WriteAttributes(out, *pReference, place.m_bOnPaper);
@@ -107,7 +122,7 @@ int BlockFlags(const AcDbBlockTableRecord& block) {
            (AsksForAttributes(block) ? nWithAttributes : 0);
 }
 
-void WriteBlock(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlockTableRecord& block) {
+void WriteBlock(CDxfOutput& out, const CDxfCustomEntities& customs, const AcDbBlockTableRecord& block) {
     WriteBoundary(out, "BLOCK", block);
     out.Subclass("AcDbBlockBegin");
     out.Text(2, block.Name());
@@ -117,24 +132,24 @@ void WriteBlock(CDxfOutput& out, const CDxfExplosions& explosions, const AcDbBlo
     if (!out.KeepIf(true, nBefore)) out.Point(10, AcGePoint3d::kOrigin);
     out.Text(3, block.Name());
     out.Word(1, "");
-    if (!HasOwnSection(block)) WriteEntitiesOf(out, explosions, block);
+    if (!HasOwnSection(block)) WriteEntitiesOf(out, customs, block);
     WriteBoundary(out, "ENDBLK", block);
     out.Subclass("AcDbBlockEnd");
 }
 
 } // namespace
 
-void WriteDxfBlocks(CDxfOutput& out, const CDxfExplosions& explosions) {
+void WriteDxfBlocks(CDxfOutput& out, const CDxfCustomEntities& customs) {
     out.BeginSection("BLOCKS");
     for (const AcDbObjectId& id : LivingRecords(out.Database().blockTableId()))
-        if (const CDbOpen<AcDbBlockTableRecord> block(id); block) WriteBlock(out, explosions, *block.Get());
+        if (const CDbOpen<AcDbBlockTableRecord> block(id); block) WriteBlock(out, customs, *block.Get());
     out.EndSection();
 }
 
-void WriteDxfEntities(CDxfOutput& out, const CDxfExplosions& explosions) {
+void WriteDxfEntities(CDxfOutput& out, const CDxfCustomEntities& customs) {
     out.BeginSection("ENTITIES");
     for (const AcDbObjectId& id : LivingRecords(out.Database().blockTableId()))
         if (const CDbOpen<AcDbBlockTableRecord> block(id); block && HasOwnSection(*block.Get()))
-            WriteEntitiesOf(out, explosions, *block.Get());
+            WriteEntitiesOf(out, customs, *block.Get());
     out.EndSection();
 }

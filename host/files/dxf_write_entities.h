@@ -1,12 +1,18 @@
 #pragma once
 
+#include "host/files/custom_pictures.h"
 #include "host/files/dxf_explosions.h"
 #include "host/files/dxf_output.h"
 
-/// Writes the section of blocks with what they hold, but for model space and the sheet in front.
-void WriteDxfBlocks(CDxfOutput& out, const CDxfExplosions& explosions);
+#include <variant>
 
-/// Writes the section of entities: those of model space and of the sheet in front. A custom entity is written
-/// as what it explodes into. What cannot be written is counted as lost: an entity that holds a number that is
-/// not finite, and a custom entity that does not explode.
-void WriteDxfEntities(CDxfOutput& out, const CDxfExplosions& explosions);
+/// What custom entities are written with: their parts, or their pictures where they are written as proxies.
+using CDxfCustomEntities = std::variant<CDxfExplosions, CCustomPictures>;
+
+/// Writes the section of blocks with what they hold, but for model space and the sheet in front.
+void WriteDxfBlocks(CDxfOutput& out, const CDxfCustomEntities& customs);
+
+/// Writes the section of entities: those of model space and of the sheet in front. What
+/// cannot be written is counted as lost: an entity that holds a number that is not finite, and a custom
+/// entity that does not explode where this is asked for.
+void WriteDxfEntities(CDxfOutput& out, const CDxfCustomEntities& customs);

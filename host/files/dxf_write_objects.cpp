@@ -3,20 +3,27 @@
 #include "platform/acad/rx_class.h"
 #include "platform/windows/code_page.h"
 
+#include <array>
 #include <utility>
 
 namespace {
 
+const std::array<CDxfClass, g_nDxfUsualClasses> g_arUsualClasses = {{
+    {L"ACDBDICTIONARYWDFLT", L"AcDbDictionaryWithDefault", L"ObjectDBX Classes"},
+    {L"ACDBPLACEHOLDER", L"AcDbPlaceHolder", L"ObjectDBX Classes"},
+    {L"LAYOUT", L"AcDbLayout", L"ObjectDBX Classes"},
+}};
+
 using CEntries = std::vector<std::pair<std::wstring, AcDbHandle>>;
 
-void WriteClass(CDxfOutput& out, std::string_view dxfName, std::string_view className) {
+void WriteClass(CDxfOutput& out, const CDxfClass& entry, bool bEntities) {
     out.Word(0, "CLASS");
-    out.Word(1, dxfName);
-    out.Word(2, className);
-    out.Word(3, "ObjectDBX Classes");
-    out.Whole(90, 0);
-    out.Whole(280, 0); // was no proxy
-    out.Whole(281, 0); // is no entity
+    out.Text(1, entry.m_strDxfName);
+    out.Text(2, entry.m_strClassName);
+    out.Text(3, entry.m_strAppName);
+    out.Whole(90, entry.m_nProxyFlags);
+    out.Whole(280, entry.m_bWasProxy ? 1 : 0);
+    out.Whole(281, bEntities ? 1 : 0);
 }
 
 void WriteDictionary(CDxfOutput& out, std::string_view type, AcDbHandle handle, AcDbHandle owner,
@@ -118,9 +125,10 @@ void LoseNamedObjects(CDxfOutput& out) {
 
 void WriteDxfClasses(CDxfOutput& out) {
     out.BeginSection("CLASSES");
-    WriteClass(out, "ACDBDICTIONARYWDFLT", "AcDbDictionaryWithDefault");
-    WriteClass(out, "ACDBPLACEHOLDER", "AcDbPlaceHolder");
-    WriteClass(out, "LAYOUT", "AcDbLayout");
+    for (const CDxfClass& entry : g_arUsualClasses)
+        WriteClass(out, entry, false);
+    for (const CDxfClass& entry : out.Classes())
+        WriteClass(out, entry, true);
     out.EndSection();
 }
 

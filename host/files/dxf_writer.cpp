@@ -39,6 +39,18 @@ void CDxfWriter::Handle(int nCode, AcDbHandle handle) {
     Word(nCode, handle.isNull() ? "0" : handle.Hex());
 }
 
+void CDxfWriter::Bytes(int nCode, CByteView bytes) {
+    constexpr std::size_t nMostOfLine = 127;
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    while (!bytes.empty()) {
+        std::string strLine;
+        for (const std::uint8_t n : bytes.first(std::min(nMostOfLine, bytes.size())))
+            strLine += {digits[n >> 4], digits[n & 15]};
+        Word(nCode, strLine);
+        bytes = bytes.subspan(strLine.size() / 2);
+    }
+}
+
 void CDxfWriter::Point(int nCode, const AcGePoint2d& point) {
     Real(nCode, point.x);
     Real(nCode + 10, point.y);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/files/bytes.h"
 #include "host/files/drawing_text.h"
 #include "platform/acad/db_object_id.h"
 #include "platform/acad/geometry.h"
@@ -20,6 +21,7 @@ public:
     void Real(int nCode, double value); ///< the shortest text that reads back to the same number
     void Whole(int nCode, std::int64_t value);
     void Handle(int nCode, AcDbHandle handle);
+    void Bytes(int nCode, CByteView bytes); ///< as many groups as they take
     void Point(int nCode, const AcGePoint2d& point);
     void Point(int nCode, const AcGePoint3d& point);
 

@@ -27,7 +27,7 @@ protected:
 
     CTestDrawing m_drawing;
     AcDbObjectId m_idChart;
-    CDrawingText m_text{g_nDwgAnsi936};
+    CDrawingText m_text{g_nChinesePage};
 };
 
 } // namespace

@@ -86,4 +86,6 @@ TEST(DrawingText, HasControlCharactersBehindCarets) {
 TEST(DrawingText, LeavesCaretsWhereTheyAreNoEscapes) {
     EXPECT_EQ(CDrawingText(g_nChinesePage).Decode("a^J^ "), L"a^J^ ");
     EXPECT_EQ(CDrawingText(g_nChinesePage).Encode(L"^"), "^");
+    const CDrawingText text(g_nChinesePage, CDrawingText::CCarets::Escapes);
+    EXPECT_EQ(text.WithPlainCarets().Decode("固^J"), L"固^J");
 }

@@ -11,7 +11,8 @@
 
 /// What another program finds in a file.
 struct CAudit {
-    std::string m_strFindings;   ///< a line for each; then a line for each type of entity, with its count
+    std::string m_strFindings;   ///< a line for each; then a line for each type of entity, with its count;
+                                 ///< then lines for what proxies show
     std::vector<double> m_arBox; ///< of curves, lowest and highest corner; none without any
 };
 

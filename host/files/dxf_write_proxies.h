@@ -1,0 +1,7 @@
+#pragma once
+
+#include "host/files/dxf_output.h"
+
+/// Writes the groups of a proxy for a custom entity behind those that all entities have: its class, its
+/// picture (null for none), and what its class has written. What is missing of these is counted as lost.
+void WriteDxfProxy(CDxfOutput& out, const AcDbEntity& entity, const CBytes* pPicture);
