@@ -2,23 +2,14 @@
 
 #include "host/console/drawing_saving.h"
 
-#include <nlohmann/json.hpp>
-
 #include "tests/host/console/program_run.h"
+#include "tests/support/without_handles.h"
 
 namespace {
 
 class DrawingSaving : public CProgramRun {
 protected:
     std::string Path(const std::string& strName) const { return (m_folder / strName).string(); }
-    /// A dump without handles: those that a file reserves for what every drawing has are given anew.
-    static nlohmann::json WithoutHandles(nlohmann::json value) {
-        if (value.is_object()) value.erase("handle");
-        if (value.is_structured())
-            for (nlohmann::json& part : value)
-                part = WithoutHandles(part);
-        return value;
-    }
     nlohmann::json Dumped(const std::string& strName) const {
         return nlohmann::json::parse(ReadFile(m_folder / strName));
     }
