@@ -11,9 +11,10 @@ namespace {
 CDrawingFormat FormatOf(const std::string& strPath, bool bExploded) {
     const std::optional<CDrawingFormat> format = FormatOfEnding(strPath);
     if (!format) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .dwg or .dxf: " + strPath);
-    if (bExploded && *format != CDrawingFormat::Dxf)
+    if (!bExploded) return *format;
+    if (*format != CDrawingFormat::Dxf)
         throw CRunFailure(EXIT_NO_SUCH_ANSWER, "only a .dxf is written exploded: " + strPath);
-    return *format;
+    return CDrawingFormat::ExplodedDxf;
 }
 
 /// The full path that an answer stands for; of files that differ by case only the one that is there.

@@ -53,9 +53,15 @@ CWrittenDrawing WriteDwg(const AcDbDatabase& database) {
     return {std::string(bytes.begin(), bytes.end()), {}};
 }
 
-CWrittenDrawing WriteDxfDrawing(const AcDbDatabase& database) {
-    CDxfFile file = WriteDxf(database);
+CWrittenDrawing WriteDxfDrawing(const AcDbDatabase& database, CDxfCustom custom) {
+    CDxfFile file = WriteDxf(database, custom);
     return {std::move(file.m_strBytes), std::move(file.m_losses)};
+}
+
+CWrittenDrawing WriteAs(CDrawingFormat format, const AcDbDatabase& database) {
+    if (format == CDrawingFormat::Dwg) return WriteDwg(database);
+    return WriteDxfDrawing(database, format == CDrawingFormat::ExplodedDxf ? CDxfCustom::Exploded
+                                                                           : CDxfCustom::Proxies);
 }
 
 void CheckNoneOpen(const AcDbDatabase& database) {
@@ -101,6 +107,5 @@ CReadDrawing ReadDrawing(std::string_view bytes) {
 
 CWrittenDrawing WriteDrawing(const AcDbDatabase& database, CDrawingFormat format) {
     CheckNoneOpen(database);
-    return Told(
-        [&] { return format == CDrawingFormat::Dwg ? WriteDwg(database) : WriteDxfDrawing(database); });
+    return Told([&] { return WriteAs(format, database); });
 }

@@ -10,9 +10,13 @@
 #include <string>
 #include <string_view>
 
-enum class CDrawingFormat { Dwg, Dxf };
+enum class CDrawingFormat {
+    Dwg,
+    Dxf,
+    ExplodedDxf, ///< with what custom entities explode into; only written, on demand
+};
 
-/// The format that a file's ending stands for, in any case; nothing for an ending that is neither.
+/// The format that a file's ending stands for, in any case: Dwg or Dxf, nothing for another ending.
 std::optional<CDrawingFormat> FormatOfEnding(const std::string& utf8Path);
 
 /// What a file holds and its drawing does not, or the reverse: each kind, GBK, with its count.

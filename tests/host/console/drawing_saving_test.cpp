@@ -82,12 +82,15 @@ TEST_F(DrawingSaving, AFileIsSoughtBesideTheDrawingToo) {
               "1   Drawing1\n2   " + Path("plans/a.dwg") + "\n3 * " + Path("plans/b.dwg") + "\n");
 }
 
-TEST_F(DrawingSaving, WhatAFormatCannotHoldIsToldAndExplodedPartsAreRead) {
-    const CProgramResult saved = RunScript("SHEET 5,5\nSAVEAS a.dxf exploded\nDUMP one.json\n", "-q");
-    ASSERT_EQ(saved.m_strErr, "");
-    EXPECT_EQ(RunScript("OPEN a.dxf\nDUMP two.json\n", "-q").m_strErr, "");
-    EXPECT_EQ(Dumped("one.json")["modelSpace"][0]["class"], "CSampleSheet");
-    EXPECT_NE(Dumped("two.json")["modelSpace"][0]["class"], "CSampleSheet");
+TEST_F(DrawingSaving, QsaveGoesOnWritingADxfFileExplodedOrNot) {
+    const auto classOf = [this](const char* szScript) {
+        EXPECT_EQ(RunScript(szScript, "-q").m_strErr, "");
+        EXPECT_EQ(RunScript("OPEN a.dxf\nDUMP a.json\n", "-q").m_strErr, "");
+        return Dumped("a.json")["modelSpace"][0]["class"];
+    };
+    EXPECT_EQ(classOf("SHEET 5,5\nSAVEAS a.dxf exploded\n"), "AcDbText");
+    EXPECT_EQ(classOf("SHEET 5,5\nSAVEAS a.dxf exploded\nQSAVE\n"), "AcDbText");
+    EXPECT_NE(classOf("SHEET 5,5\nSAVEAS a.dxf exploded\nSAVEAS a.dxf\nQSAVE\n"), "AcDbText");
 }
 
 TEST_F(DrawingSaving, WhatADxfFileHoldsBesidesIsToldOnOpeningAndBeforeItIsLost) {
