@@ -2,7 +2,6 @@
 
 #include "host/files/bit_reader.h"
 #include "host/files/bit_writer.h"
-#include "host/files/dwg_error.h"
 
 #include <cwchar>
 #include <optional>
@@ -30,6 +29,18 @@ std::uint64_t ReadHandle(CBitReader& bits) {
     return nHandle;
 }
 
+/// Of a text that is too long the part that fits. Even one that was read may have become too long: where the
+/// code page that it came in is not this one, its characters are escapes.
+std::string BytesThatFit(std::wstring_view text, const CDrawingText& coder) {
+    text = text.substr(0, g_nLongestText);
+    std::string strBytes = coder.Encode(text);
+    while (strBytes.size() > g_nLongestText) {
+        text.remove_suffix(1);
+        strBytes = coder.Encode(text);
+    }
+    return strBytes;
+}
+
 struct CPackValue {
     CBitWriter& m_bits;
     Adesk::Int16 m_nCode;
@@ -43,9 +54,7 @@ struct CPackValue {
         if (m_nCode == g_nBrace) return m_bits.RC(strText == L"}" ? 1 : 0);
         if (m_nCode == g_nLayer) return WriteHandle(m_bits, m_context.m_handleOfLayer(strText));
         if (m_nCode == g_nHandle) return WriteHandle(m_bits, std::wcstoull(strText.c_str(), nullptr, 16));
-        const std::string strBytes = m_context.m_text.Encode(strText);
-        if (strBytes.size() > g_nLongestText)
-            throw CDwgError("Extended data: a text is too long for a file.");
+        const std::string strBytes = BytesThatFit(strText, m_context.m_text);
         m_bits.RC(static_cast<std::uint8_t>(strBytes.size()));
         m_bits.RSBig(m_context.m_nCodePage);
         for (const char c : strBytes)

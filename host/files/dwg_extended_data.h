@@ -15,7 +15,7 @@ struct CDwgExtendedContext {
     std::function<std::wstring(std::uint64_t)> m_layerOfHandle;        ///< empty for a handle that is none
 };
 
-/// The values of one application. Throws CDwgError for a text of more than 255 bytes.
+/// The values of one application. A text is cut to 255 bytes, for more of which a file has no room.
 CBytes PackExtendedData(const std::vector<CXDataItem>& items, const CDwgExtendedContext& context);
 
 /// The values out of their bytes, up to the first that there is no telling what it is.

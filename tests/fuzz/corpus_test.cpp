@@ -1,5 +1,7 @@
 #include "chart/chart_entity.h"
 #include "frame/frame_entity.h"
+#include "host/files/dwg_drawing_reader.h"
+#include "tests/fuzz/dwg_input.h"
 #include "tests/fuzz/record_input.h"
 
 #include <gtest/gtest.h>
@@ -7,8 +9,14 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 namespace {
+
+CInput Contents(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
 
 /// Reads every file of a folder of the corpus as its class; the number of them.
 template <class T>
@@ -16,8 +24,7 @@ int ReadAll(const std::string& strFolder) {
     const CRecordInputs inputs;
     int nFiles = 0;
     for (const auto& entry : std::filesystem::directory_iterator(FUZZ_CORPUS "/" + strFolder)) {
-        std::ifstream stream(entry.path(), std::ios::binary);
-        const CInput bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+        const CInput bytes = Contents(entry.path());
         const CRecordInput input = inputs.Decode(bytes);
         EXPECT_EQ(inputs.Encode(input), bytes) << entry.path();
         T object;
@@ -34,6 +41,26 @@ int ReadAll(const std::string& strFolder) {
 TEST(FuzzCorpus, IsOfWholeRecords) {
     EXPECT_GE(ReadAll<CBRENChart>("chart"), 4);
     EXPECT_GE(ReadAll<CBRENFrame>("frame"), 3);
+}
+
+TEST(FuzzCorpus, IsOfDrawingsThatAreRead) {
+    const CModuleClasses classes;
+    for (const char* pName : {"empty", "every-kind", "sheet"})
+        EXPECT_TRUE(DrawingOfDwg(ReadDwgFile(Contents(FUZZ_CORPUS "/dwg/" + std::string(pName) + ".dwg"))));
+}
+
+TEST(FuzzCorpus, IsOfObjectsOfADrawingOfEveryKind) {
+    const CModuleClasses classes;
+    const CDwgContents contents = DwgOfEveryKind().m_contents;
+    std::set<CBytes> all;
+    for (const auto& [nHandle, content] : contents)
+        all.insert(content);
+    int nFiles = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(FUZZ_CORPUS "/dwg-object")) {
+        EXPECT_TRUE(all.contains(Contents(entry.path()))) << entry.path();
+        ++nFiles;
+    }
+    EXPECT_GE(nFiles, 30);
 }
 
 TEST(FuzzRecordInput, IsMadeOfWhateverBytes) {

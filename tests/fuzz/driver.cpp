@@ -103,8 +103,8 @@ void StopTheTicks() {
     setitimer(ITIMER_PROF, &none, nullptr);
 }
 
-/// nMost is what the target may hold.
-void RunOne(const CInput& input, std::size_t nMost) {
+/// nMost is what the target may hold. An exception out of it ends the process: it is a fault too.
+void RunOne(const CInput& input, std::size_t nMost) noexcept {
     g_present.m_pInput = &input;
     g_present.m_nInput = g_present.m_nInput + 1;
     // A copy that ends where its block ends: a byte beyond it is a fault that the sanitizer sees.

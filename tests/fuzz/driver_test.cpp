@@ -26,6 +26,7 @@ protected:
 };
 
 constexpr const char* g_pCharts = FUZZ_CORPUS "/chart";
+constexpr const char* g_pDrawings = FUZZ_CORPUS "/dwg";
 
 } // namespace
 
@@ -60,6 +61,24 @@ TEST_F(FuzzDriver, FindsThatTextsNoLongerAskWhatIsLeft) {
     std::filesystem::rename(m_folder.Path("fault.input"), m_folder.Path("kept/fault.input"));
     EXPECT_NE(Run("without_text_check", "kept").m_nStatus, 0) << "the kept input shows the fault again";
     EXPECT_EQ(Run("chart_record", "kept").m_nStatus, 0);
+}
+
+TEST_F(FuzzDriver, FindsThatADrawingFileMayPromiseMoreBytesThanItHas) {
+    const std::string strOptions = std::string("--inputs 1000000 --bytes-per-byte 512 ") + g_pDrawings;
+    const CDriverRun run = Run("without_bytes_check", strOptions);
+    EXPECT_NE(run.m_nStatus, 0);
+    EXPECT_NE(run.m_strOut.find("fault: "), std::string::npos) << run.m_strOut;
+    std::filesystem::create_directory(m_folder.Path("kept"));
+    std::filesystem::rename(m_folder.Path("fault.input"), m_folder.Path("kept/fault.input"));
+    EXPECT_EQ(Run("dwg", "--bytes-per-byte 512 kept").m_nStatus, 0);
+}
+
+TEST_F(FuzzDriver, AllowsAsMuchMemoryAsItIsTold) {
+    const std::string strAll = std::string("--inputs 1 --free-bytes 100000000 ") + g_pDrawings;
+    EXPECT_EQ(Run("dwg", "--bytes-per-byte 0 " + strAll).m_nStatus, 0);
+    const std::string strNone = std::string("--inputs 1 --free-bytes 0 ") + g_pDrawings;
+    EXPECT_EQ(Run("dwg", "--bytes-per-byte 512 " + strNone).m_nStatus, 0);
+    EXPECT_NE(Run("dwg", "--bytes-per-byte 1 " + strNone).m_nStatus, 0);
 }
 
 TEST_F(FuzzDriver, RefusesToRunWithoutInputs) {

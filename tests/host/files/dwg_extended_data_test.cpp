@@ -1,6 +1,5 @@
 #include "host/files/dwg_extended_data.h"
 
-#include "tests/host/files/dwg_refusal.h"
 #include "tests/host/files/hex_bytes.h"
 
 #include <gtest/gtest.h>
@@ -60,10 +59,12 @@ TEST(DwgExtendedData, EndAtWhatThereIsNoTellingOf) {
     EXPECT_EQ(UnpackExtendedData(HexBytes("00 FF 00 1E 41"), Context()).size(), 0u);
 }
 
-TEST(DwgExtendedData, RefuseATextThatIsTooLong) {
-    EXPECT_EQ(Packed({{1000, std::wstring(255, L'x')}}).size(), 259u);
-    EXPECT_EQ(RefusalOf([] {
-                  Packed({{1000, std::wstring(256, L'x')}});
-              }),
-              "Extended data: a text is too long for a file.");
+TEST(DwgExtendedData, HoldOfATextWhatThereIsRoomFor) {
+    const auto textOf = [](const std::wstring& strText) {
+        return std::get<std::wstring>(UnpackExtendedData(Packed({{1000, strText}}), Context())[0].m_value);
+    };
+    EXPECT_EQ(textOf(std::wstring(255, L'x')), std::wstring(255, L'x'));
+    EXPECT_EQ(textOf(std::wstring(256, L'x')), std::wstring(255, L'x'));
+    EXPECT_EQ(textOf(std::wstring(200, L'\u56FA')), std::wstring(127, L'\u56FA')) << "two bytes each";
+    EXPECT_EQ(textOf(std::wstring(100, L'\u0159')), std::wstring(36, L'\u0159')) << "seven bytes each";
 }
