@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
+#include "platform/acad/standard_handles.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/host_assert.h"
 
@@ -13,10 +14,13 @@ ACRX_DEFINE_DESC(AcDbDatabase, AcRxObject)
 
 namespace {
 
-/// Adds a closed record of the given name to a table that is open for writing.
+using CHandles = CStandardHandles;
+
+/// Adds a closed record of the given name and handle to a table that is open for writing.
 template <class T>
-AcDbObjectId AddNamed(AcDbSymbolTable& table, const ACHAR* name, T* pRecord) {
+AcDbObjectId AddNamed(AcDbSymbolTable& table, std::uint64_t nHandle, const ACHAR* name, T* pRecord) {
     pRecord->setName(name);
+    table.database()->SetHandseed(AcDbHandle(nHandle));
     AcDbObjectId id;
     table.add(id, pRecord);
     pRecord->close();
@@ -25,8 +29,9 @@ AcDbObjectId AddNamed(AcDbSymbolTable& table, const ACHAR* name, T* pRecord) {
 
 /// A new table or dictionary, open for writing.
 template <class T>
-T* AddTable(AcDbDatabase& database, AcDbObjectId& idTable) {
+T* AddTable(AcDbDatabase& database, std::uint64_t nHandle, AcDbObjectId& idTable) {
     T* const pTable = new T;
+    database.SetHandseed(AcDbHandle(nHandle));
     database.AddObject(idTable, pTable, AcDbObjectId::kNull);
     return pTable;
 }
@@ -41,22 +46,23 @@ std::vector<AcDbDatabase*>& OpenDrawings() {
 AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) {
     OpenDrawings().push_back(this);
     if (!buildDefaultDrawing) return;
-    auto* const pBlocks = AddTable<AcDbBlockTable>(*this, m_idBlockTable);
-    auto* const pLayers = AddTable<AcDbLayerTable>(*this, m_idLayerTable);
-    auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, m_idLinetypeTable);
-    auto* const pStyles = AddTable<AcDbTextStyleTable>(*this, m_idTextStyleTable);
-    auto* const pApps = AddTable<AcDbRegAppTable>(*this, m_idRegAppTable);
-    m_idModelSpace = AddNamed(*pBlocks, ACDB_MODEL_SPACE, new AcDbBlockTableRecord);
-    AddNamed(*pBlocks, ACDB_PAPER_SPACE, new AcDbBlockTableRecord);
-    AddNamed(*pLinetypes, L"ByLayer", new AcDbLinetypeTableRecord);
-    AddNamed(*pLinetypes, L"ByBlock", new AcDbLinetypeTableRecord);
-    AddNamed(*pLinetypes, L"Continuous", new AcDbLinetypeTableRecord);
-    m_variables.m_idClayer = AddNamed(*pLayers, L"0", new AcDbLayerTableRecord);
+    auto* const pBlocks = AddTable<AcDbBlockTable>(*this, CHandles::s_nBlocks, m_idBlockTable);
+    auto* const pLayers = AddTable<AcDbLayerTable>(*this, CHandles::s_nLayers, m_idLayerTable);
+    auto* const pLinetypes = AddTable<AcDbLinetypeTable>(*this, CHandles::s_nLinetypes, m_idLinetypeTable);
+    auto* const pStyles = AddTable<AcDbTextStyleTable>(*this, CHandles::s_nStyles, m_idTextStyleTable);
+    auto* const pApps = AddTable<AcDbRegAppTable>(*this, CHandles::s_nApps, m_idRegAppTable);
+    auto* const pNamedObjects = AddTable<AcDbDictionary>(*this, CHandles::s_nNamedObjects, m_idNamedObjects);
+    m_idModelSpace = AddNamed(*pBlocks, CHandles::s_nModelSpace, ACDB_MODEL_SPACE, new AcDbBlockTableRecord);
+    AddNamed(*pBlocks, CHandles::s_nPaperSpace, ACDB_PAPER_SPACE, new AcDbBlockTableRecord);
+    AddNamed(*pLinetypes, CHandles::s_nByLayer, L"ByLayer", new AcDbLinetypeTableRecord);
+    AddNamed(*pLinetypes, CHandles::s_nByBlock, L"ByBlock", new AcDbLinetypeTableRecord);
+    AddNamed(*pLinetypes, CHandles::s_nContinuous, L"Continuous", new AcDbLinetypeTableRecord);
+    m_variables.m_idClayer = AddNamed(*pLayers, CHandles::s_nLayer0, L"0", new AcDbLayerTableRecord);
     auto* const pStandard = new AcDbTextStyleTableRecord;
     pStandard->setFileName(L"txt.shx");
-    AddNamed(*pApps, L"ACAD", new AcDbRegAppTableRecord);
-    m_variables.m_idTextstyle = AddNamed(*pStyles, L"Standard", pStandard);
-    auto* const pNamedObjects = AddTable<AcDbDictionary>(*this, m_idNamedObjects);
+    AddNamed(*pApps, CHandles::s_nAcadApp, L"ACAD", new AcDbRegAppTableRecord);
+    m_variables.m_idTextstyle = AddNamed(*pStyles, CHandles::s_nStandardStyle, L"Standard", pStandard);
+    SetHandseed(AcDbHandle(CHandles::s_nFirstFree));
     for (AcDbObject* pTable :
          std::initializer_list<AcDbObject*>{pBlocks, pLayers, pLinetypes, pStyles, pApps, pNamedObjects})
         pTable->close();
