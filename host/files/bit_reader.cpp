@@ -241,3 +241,11 @@ void CBitReader::Raw(CBytes& bytes, std::size_t nCount) {
     for (std::uint8_t& byte : bytes)
         RC(byte);
 }
+
+void CBitReader::RawBits(CBytes& bytes, std::size_t nBits) {
+    Raw(bytes, nBits / 8);
+    const auto nLast = static_cast<unsigned>(nBits % 8);
+    if (nLast == 0) return;
+    const std::uint8_t last = Bits(nLast);
+    if (!m_bFailed) bytes.push_back(static_cast<std::uint8_t>(last << (8 - nLast)));
+}

@@ -77,6 +77,8 @@ public:
 
     /// So many bytes, aligned or not.
     void Raw(CBytes& bytes, std::size_t nCount);
+    /// So many bits; zero bits fill the last byte.
+    void RawBits(CBytes& bytes, std::size_t nBits);
     /// So many items, each read by a function and at least a bit long.
     template <class Item, class Each>
     void List(std::vector<Item>& items, std::size_t nCount, Each each) {

@@ -1,12 +1,12 @@
 #include "host/files/dwg_block_reader.h"
 
 #include "host/files/dwg_blocks.h"
-#include "host/files/dwg_custom_entities.h"
 #include "host/files/dwg_entity_reader.h"
 #include "host/files/dwg_handle_map.h"
+#include "host/files/dwg_table_records.h"
 #include "platform/acad/db_block_reference.h"
+#include "platform/acad/db_stub.h"
 
-#include <algorithm>
 #include <set>
 
 namespace {
@@ -17,30 +17,27 @@ public:
         : m_reading(reading) {}
 
     void Read() {
-        for (const auto& [nHandle, record] : m_reading.m_records)
+        const CDwgHandle& hBlocks = m_reading.m_pOrigin->m_file.m_variables.m_roots.m_hBlocks;
+        if (m_reading.m_pOrigin->Find(hBlocks.m_nValue))
+            IdentifyDwg(m_reading, m_reading.m_database.blockTableId(), hBlocks.m_nValue);
+        for (const auto& [nHandle, record] : m_reading.m_pOrigin->m_records)
             if (record.m_nType == g_nDwgBlockHeader) ReadHeader(record);
         for (const auto& [nHandle, header] : m_headers)
             ReadEntities(header, m_reading.m_ids.at(nHandle));
-        for (const auto& [nHandle, id] : m_custom)
-            ReadDwgCustomEntity(*CDbOpen<AcDbEntity>(id, AcDb::kForWrite).Get(),
-                                m_reading.m_records.at(nHandle), m_reading);
+        ReadUnchained();
     }
 
 private:
-    const CDwgRecord* Find(std::uint64_t nHandle) const {
-        const auto found = m_reading.m_records.find(nHandle);
-        return found == m_reading.m_records.end() ? nullptr : &found->second;
-    }
+    const CDwgRecord* Find(std::uint64_t nHandle) const { return m_reading.m_pOrigin->Find(nHandle); }
 
     void ReadHeader(const CDwgRecord& record) {
         auto header = ReadDwgValue<CDwgBlockHeader>(record, DWG_FILED(FileBlockHeader));
         const std::wstring strName = m_reading.Text(NameOf(header));
         AcDbObjectId id = RecordNamed(m_reading.m_database.blockTableId(), strName.c_str());
         if (id.isNull()) id = AddBlock(strName, record.m_nHandle);
-        m_reading.m_ids[record.m_nHandle] = id;
-        const CDbOpen<AcDbBlockTableRecord> block(id, AcDb::kForWrite);
-        block->setOrigin(header.m_ptBase);
-        ReadDwgExtendedData(*block.Get(), record, m_reading);
+        IdentifyDwg(m_reading, id, record.m_nHandle);
+        CDbOpen<AcDbBlockTableRecord>(id, AcDb::kForWrite)->setOrigin(header.m_ptBase);
+        m_taken.insert({header.m_hBlock.m_nValue, header.m_hBlockEnd.m_nValue});
         m_headers.emplace(record.m_nHandle, std::move(header));
     }
 
@@ -60,37 +57,27 @@ private:
         const CDbOpen<AcDbBlockTable> table(m_reading.m_database.blockTableId(), AcDb::kForWrite);
         auto pBlock = std::make_unique<AcDbBlockTableRecord>();
         pBlock->setName(strName.c_str());
-        TakeDwgHandle(m_reading, nHandle);
         AcDbObjectId id;
         if (table->add(id, pBlock.get()) != Acad::eOk) RefuseDwgObject(nHandle, "a block without a name.");
         pBlock.release()->close();
         return id;
     }
 
-    /// An entity of a fixed type, or an empty one of a class of the file.
-    CDwgReadEntity ReadEntity(const CDwgRecord& record) const {
-        CDwgReadEntity read = ReadDwgEntity(record, m_reading);
-        if (read.m_pEntity) return read;
-        const auto& classes = m_reading.m_classes;
-        const auto found = std::find_if(classes.begin(), classes.end(), [&](const CDwgClass& entry) {
-            return entry.m_nNumber == record.m_nType;
-        });
-        if (found == classes.end())
-            RefuseDwgObject(record.m_nHandle, "an entity of its type cannot be kept.");
-        read.m_pEntity = MakeDwgCustomEntity(*found, m_reading.m_text);
-        if (!read.m_pEntity) RefuseDwgObject(record.m_nHandle, "an entity of its class cannot be kept.");
-        CDwgRecordReader io(record);
-        FileEntityCommon(io, read.m_common);
-        return read;
+    /// Whether a record that a chain leads to is an entity's; of a type that is none nothing else is known.
+    bool MayBeEntity(const CDwgRecord& record) const {
+        const CDwgOrigin& origin = *m_reading.m_pOrigin;
+        return origin.IsEntity(record.m_nType) || !origin.IsKnown(record.m_nType);
     }
 
-    /// Follows a chain of entities; each is read once, whatever the chain says.
+    /// Follows a chain of entities up to the last one, to one that is taken, or to what is none.
     template <class Take>
     void FollowChain(std::uint64_t nFirst, std::uint64_t nLast, Take take) {
+        std::set<std::uint64_t> passed;
         for (std::uint64_t nHandle = nFirst; nHandle != 0;) {
             const CDwgRecord* const pRecord = Find(nHandle);
-            if (!pRecord || !m_taken.insert(nHandle).second) return;
-            CDwgReadEntity read = ReadEntity(*pRecord);
+            if (!pRecord || !MayBeEntity(*pRecord) || m_taken.contains(nHandle)) return;
+            if (!passed.insert(nHandle).second) return;
+            CDwgReadEntity read = ReadDwgEntity(*pRecord, m_reading);
             const bool bLast = nHandle == nLast;
             const std::uint64_t nNext =
                 read.m_common.m_bNeighbours ? nHandle + 1 : read.m_common.m_hNext.m_nValue;
@@ -103,47 +90,74 @@ private:
     void ReadEntities(const CDwgBlockHeader& header, AcDbObjectId idBlock) {
         FollowChain(header.m_hFirst.m_nValue, header.m_hLast.m_nValue,
                     [&](const CDwgRecord& record, CDwgReadEntity read) {
-                        const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
-                        TakeDwgHandle(m_reading, record.m_nHandle);
-                        AcDbEntity* const pEntity = read.m_pEntity.release();
-                        AcDbObjectId id;
-                        block->appendAcDbEntity(id, pEntity);
-                        Finish(*pEntity, record, id);
-                        if (read.m_nFirstAttribute) ReadAttributes(read, id);
+                        AppendEntity(record, std::move(read), idBlock);
                     });
+    }
+
+    void AppendEntity(const CDwgRecord& record, CDwgReadEntity read, AcDbObjectId idBlock) {
+        AcDbObjectId id;
+        AcDbEntity* const pEntity = read.m_pEntity.release();
+        CDbOpen<AcDbBlockTableRecord>(idBlock, AcDb::kForWrite)->appendAcDbEntity(id, pEntity);
+        Finish(*pEntity, record);
+        if (AcDbBlockReference::cast(pEntity)) ReadAttributes(read, id);
     }
 
     void ReadAttributes(const CDwgReadEntity& reference, AcDbObjectId idReference) {
+        m_taken.insert(reference.m_nSequenceEnd);
         FollowChain(reference.m_nFirstAttribute, reference.m_nLastAttribute,
                     [&](const CDwgRecord& record, CDwgReadEntity read) {
-                        if (!AcDbAttribute::cast(read.m_pEntity.get()))
-                            RefuseDwgObject(record.m_nHandle,
-                                            "an insertion has it as an attribute, which it is not.");
-                        const CDbOpen<AcDbBlockReference> open(idReference, AcDb::kForWrite);
-                        TakeDwgHandle(m_reading, record.m_nHandle);
-                        auto* const pAttribute = static_cast<AcDbAttribute*>(read.m_pEntity.release());
-                        AcDbObjectId id;
-                        open->appendAttribute(id, pAttribute);
-                        Finish(*pAttribute, record, id);
+                        if (AcDbAttribute::cast(read.m_pEntity.get()))
+                            AppendAttribute(record, std::move(read), idReference);
                     });
     }
 
-    /// What can be given only to an entity of the drawing; closes it. Custom ones read it themselves, once
-    /// all is there that they may refer to.
-    void Finish(AcDbEntity& entity, const CDwgRecord& record, AcDbObjectId id) {
-        m_reading.m_ids[record.m_nHandle] = id;
-        if (record.m_nType < g_nDwgFirstClass) {
-            ReadDwgExtendedData(entity, record, m_reading);
-        } else {
-            m_custom.emplace_back(record.m_nHandle, id);
-        }
+    void AppendAttribute(const CDwgRecord& record, CDwgReadEntity read, AcDbObjectId idReference) {
+        auto* const pAttribute = static_cast<AcDbAttribute*>(read.m_pEntity.release());
+        CDbOpen<AcDbBlockReference>(idReference, AcDb::kForWrite)->appendAttribute(pAttribute);
+        Finish(*pAttribute, record);
+    }
+
+    void Finish(AcDbEntity& entity, const CDwgRecord& record) {
+        m_taken.insert(record.m_nHandle);
+        IdentifyDwg(m_reading, entity.objectId(), record.m_nHandle);
         entity.close();
+    }
+
+    /// The entities that no chain leads to belong to the owners that they name.
+    void ReadUnchained() {
+        for (const auto& [nHandle, record] : m_reading.m_pOrigin->m_records) {
+            if (m_taken.contains(nHandle) || !m_reading.m_pOrigin->IsEntity(record.m_nType)) continue;
+            CDwgReadEntity read = ReadDwgEntity(record, m_reading);
+            const AcDbObjectId idOwner = OwnerOf(read.m_common);
+            if (PeekObject<AcDbBlockTableRecord>(idOwner)) {
+                AppendEntity(record, std::move(read), idOwner);
+            } else if (PeekObject<AcDbBlockReference>(idOwner) && AcDbAttribute::cast(read.m_pEntity.get())) {
+                AppendAttribute(record, std::move(read), idOwner);
+            } else {
+                AddApart(record, idOwner);
+            }
+        }
+    }
+
+    AcDbObjectId OwnerOf(const CDwgEntityCommon& common) const {
+        const CDwgRoots& roots = m_reading.m_pOrigin->m_file.m_variables.m_roots;
+        if (common.m_nPlace == g_nDwgInModelSpace) return m_reading.IdOf(roots.m_hModelSpace);
+        if (common.m_nPlace == g_nDwgInPaperSpace) return m_reading.IdOf(roots.m_hPaperSpace);
+        return m_reading.IdOf(common.m_hOwner);
+    }
+
+    /// An entity that stands in no block, such as a vertex, is only kept.
+    void AddApart(const CDwgRecord& record, AcDbObjectId idOwner) {
+        CDwgReadEntity read = KeepDwgEntity(record, m_reading);
+        AcDbObjectId id;
+        AcDbEntity* const pEntity = read.m_pEntity.release();
+        m_reading.m_database.AddObject(id, pEntity, idOwner);
+        Finish(*pEntity, record);
     }
 
     CDwgReading& m_reading;
     std::map<std::uint64_t, CDwgBlockHeader> m_headers;
-    std::set<std::uint64_t> m_taken;
-    std::vector<std::pair<std::uint64_t, AcDbObjectId>> m_custom;
+    std::set<std::uint64_t> m_taken; ///< and what is written anew with those taken
 };
 
 } // namespace

@@ -1,10 +1,13 @@
 #include "host/files/dwg_block_writer.h"
 
 #include "host/files/dwg_blocks.h"
-#include "host/files/dwg_custom_entities.h"
+#include "host/files/dwg_control_writer.h"
 #include "host/files/dwg_entity_writer.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_stub.h"
+
+#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -17,6 +20,14 @@ public:
     std::uint64_t First() const { return At(0); }
     std::uint64_t Last() const { return m_handles.empty() ? 0 : m_handles.back(); }
 
+    /// Names the neighbours, unless they are left to be told by their handles and still can be.
+    void GiveNeighbours(CDwgEntityCommon& common, std::size_t n) const {
+        const std::uint64_t nPrevious = n ? At(n - 1) : 0, nNext = At(n + 1);
+        common.m_bNeighbours = common.m_bNeighbours && nPrevious == At(n) - 1 && nNext == At(n) + 1;
+        common.m_hPrevious = SoftPointer(nPrevious);
+        common.m_hNext = SoftPointer(nNext);
+    }
+
 private:
     std::vector<std::uint64_t> m_handles;
 };
@@ -25,28 +36,24 @@ class CBlockWriter {
 public:
     CBlockWriter(const CDwgWriting& writing, std::vector<CDwgRecord>& records)
         : m_writing(writing)
-        , m_records(records) {}
+        , m_records(records)
+        , m_nModelSpace(writing.m_handles.Of(writing.m_database.ModelSpaceId()))
+        , m_nPaperSpace(writing.m_handles.Of(PaperSpaceId(writing.m_database))) {}
 
     void Write() {
         FindInserts();
         const CDbOpen<AcDbBlockTable> table(m_writing.m_database.blockTableId());
-        CDwgControl control;
-        control.m_arFixed = {HardOwner(CDwgFixed::s_nModelSpace), HardOwner(CDwgFixed::s_nPaperSpace)};
-        for (const AcDbObjectId& id : table->RecordIds()) {
-            const std::uint64_t nBlock = m_writing.m_handles.Of(id);
-            if (!nBlock) continue;
-            if (!IsSpace(nBlock)) control.m_arRecords.push_back(SoftOwner(nBlock));
-            const CDbOpen<AcDbBlockTableRecord> block(id);
-            WriteBlock(*block.Get(), nBlock);
-        }
-        Append(g_nDwgBlockControl, CDwgFixed::s_nBlocks, control,
-               [](auto& io, auto& value) { FileControl(io, value, g_nDwgBlockControl); });
+        WriteDwgControl(m_writing, m_records, *table.Get(), g_nDwgBlockControl,
+                        {m_writing.m_database.ModelSpaceId(), PaperSpaceId(m_writing.m_database)});
+        for (const AcDbObjectId& id : table->RecordIds())
+            if (m_writing.m_handles.Of(id)) WriteBlock(*CDbOpen<AcDbBlockTableRecord>(id).Get());
     }
 
 private:
-    static bool IsSpace(std::uint64_t nBlock) {
-        return nBlock == CDwgFixed::s_nModelSpace || nBlock == CDwgFixed::s_nPaperSpace;
+    static AcDbObjectId PaperSpaceId(const AcDbDatabase& database) {
+        return RecordNamed(database.blockTableId(), ACDB_PAPER_SPACE);
     }
+    bool IsSpace(std::uint64_t nBlock) const { return nBlock == m_nModelSpace || nBlock == m_nPaperSpace; }
 
     template <class Value, class File>
     CDwgRecord& Append(std::uint16_t nType, std::uint64_t nHandle, const Value& value, File file) {
@@ -57,8 +64,24 @@ private:
     void FindInserts() {
         for (const AcDbObjectId& id : m_writing.m_database.ObjectIds())
             if (const auto* const pReference = PeekObject<AcDbBlockReference>(id))
-                m_inserts[m_writing.m_handles.Of(pReference->blockTableRecord())].push_back(
-                    SoftPointer(m_writing.m_handles.Of(id)));
+                if (const std::uint64_t nReference = m_writing.m_handles.Of(id))
+                    m_inserts[m_writing.m_handles.Of(pReference->blockTableRecord())].push_back(
+                        SoftPointer(nReference));
+    }
+
+    /// The insertions that the file named and that are still there, such as arrays of them, which a drawing
+    /// here only keeps; then those that came later.
+    std::vector<CDwgHandle> InsertsOf(std::uint64_t nBlock, const std::vector<CDwgHandle>& former) const {
+        std::vector<CDwgHandle> inserts;
+        std::set<std::uint64_t> listed;
+        for (const CDwgHandle& handle : former)
+            if (m_writing.StillThere(handle).m_nValue && listed.insert(handle.m_nValue).second)
+                inserts.push_back(handle);
+        const auto found = m_inserts.find(nBlock);
+        if (found == m_inserts.end()) return inserts;
+        for (const CDwgHandle& handle : found->second)
+            if (listed.insert(handle.m_nValue).second) inserts.push_back(handle);
+        return inserts;
     }
 
     CChain ChainOf(const std::vector<AcDbObjectId>& ids) const {
@@ -69,98 +92,127 @@ private:
         return CChain(std::move(handles));
     }
 
-    void WriteBlock(const AcDbBlockTableRecord& block, std::uint64_t nBlock) {
+    void WriteBlock(const AcDbBlockTableRecord& block) {
+        const std::uint64_t nBlock = m_writing.m_handles.Of(block.objectId());
         const std::vector<AcDbObjectId> ids = block.EntityIds();
         const CChain chain = ChainOf(ids);
-        CDwgBlockHeader header;
-        header.m_hOwner = SoftPointer(CDwgFixed::s_nBlocks);
-        header.m_arReactors = DwgReactorsOf(block, m_writing);
-        header.m_strName = m_writing.m_text.Encode(block.Name());
-        header.m_bAnonymous = !IsSpace(nBlock) && block.Name().starts_with(L'*');
-        header.m_ptBase = block.origin();
-        for (const AcDbObjectId& id : ids)
-            header.m_bAttributes = header.m_bAttributes || PeekObject<AcDbAttributeDefinition>(id);
-        header.m_hBlock = HardOwner(IsSpace(nBlock) ? nBlock + 1 : m_writing.m_handles.New());
-        header.m_hFirst = SoftPointer(chain.First());
-        header.m_hLast = SoftPointer(chain.Last());
-        header.m_hBlockEnd = HardOwner(IsSpace(nBlock) ? nBlock + 2 : m_writing.m_handles.New());
-        header.m_arInserts = m_inserts[nBlock];
-        header.m_hLayout = HardPointer(IsSpace(nBlock) ? nBlock + 3 : 0);
+        const CDwgBlockHeader header = HeaderOf(block, nBlock, chain);
         Append(g_nDwgBlockHeader, nBlock, header, DWG_FILED(FileBlockHeader)).m_arExtended =
             DwgExtendedDataOf(block, m_writing);
-        WriteEnds(header, nBlock);
-        for (std::size_t i = 0; i < ids.size(); ++i) {
-            CDwgEntityCommon common = PlaceIn(nBlock);
-            common.m_hPrevious = SoftPointer(i ? chain.At(i - 1) : 0);
-            common.m_hNext = SoftPointer(chain.At(i + 1));
-            WriteEntity(ids[i], common);
-        }
+        const std::string strName = m_writing.m_text.Encode(block.Name());
+        WriteEnd(g_nDwgBlock, header.m_hBlock.m_nValue, nBlock,
+                 [&strName](auto& io, auto&) { io.T(strName); });
+        WriteEnd(g_nDwgBlockEnd, header.m_hBlockEnd.m_nValue, nBlock, [](auto&, auto&) {});
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            WriteEntity(ids[i], chain, i, nBlock);
     }
 
-    /// The entities before the first and behind the last one of a block.
-    void WriteEnds(const CDwgBlockHeader& header, std::uint64_t nBlock) {
-        CDwgEntityCommon common = PlaceIn(nBlock);
-        common.m_hLayer = HardPointer(CDwgFixed::s_nLayer0);
-        Append(g_nDwgBlock, header.m_hBlock.m_nValue, common, [&header](auto& io, auto& value) {
-            FileEntityCommon(io, value);
-            io.T(header.m_strName);
+    CDwgBlockHeader HeaderOf(const AcDbBlockTableRecord& block, std::uint64_t nBlock, const CChain& chain) {
+        auto header = FormerDwgValue<CDwgBlockHeader>(m_writing, nBlock, g_nDwgBlockHeader,
+                                                      DWG_FILED(FileBlockHeader));
+        const bool bNew = header.m_hBlock.m_nValue == 0;
+        RelateDwgObject(header, block, m_writing);
+        const std::string strName = m_writing.m_text.Encode(block.Name());
+        const bool bShort = header.m_strName.starts_with('*') && strName.starts_with(header.m_strName);
+        if (bNew || !bShort) header.m_strName = strName; // else it may lack the number of an anonymous block
+        if (bNew) header.m_bAnonymous = !IsSpace(nBlock) && block.Name().starts_with(L'*');
+        header.m_ptBase = block.origin();
+        header.m_bAttributes = AsksForAttributes(block);
+        if (bNew) PlaceNew(header, nBlock);
+        header.m_hFirst = SoftPointer(chain.First());
+        header.m_hLast = SoftPointer(chain.Last());
+        header.m_arInserts = InsertsOf(nBlock, header.m_arInserts);
+        header.m_hLayout = m_writing.StillThere(header.m_hLayout);
+        return header;
+    }
+
+    static bool AsksForAttributes(const AcDbBlockTableRecord& block) {
+        return std::ranges::any_of(block.EntityIds(), [](const AcDbObjectId& id) {
+            return PeekObject<AcDbAttributeDefinition>(id) != nullptr;
         });
-        Append(g_nDwgBlockEnd, header.m_hBlockEnd.m_nValue, common, DWG_FILED(FileEntityCommon));
     }
 
-    static CDwgEntityCommon PlaceIn(std::uint64_t nBlock) {
-        CDwgEntityCommon common;
+    /// In a new drawing a space is followed by its ends and its layout.
+    void PlaceNew(CDwgBlockHeader& header, std::uint64_t nBlock) {
+        const bool bFixed = !m_writing.m_pOrigin && IsSpace(nBlock);
+        header.m_hBlock = HardOwner(bFixed ? nBlock + 1 : m_writing.m_handles.New());
+        header.m_hBlockEnd = HardOwner(bFixed ? nBlock + 2 : m_writing.m_handles.New());
+        header.m_hLayout = HardPointer(bFixed ? nBlock + 3 : 0);
+    }
+
+    /// The entity before the first or behind the last one of a block, with what it has of its own.
+    template <class File>
+    void WriteEnd(std::uint16_t nType, std::uint64_t nHandle, std::uint64_t nBlock, File fileOwn) {
+        CDwgEntityCommon common = FormerCommon(nHandle, nType);
+        PlaceIn(common, nBlock);
+        if (common.m_hLayer.m_nValue == 0) common.m_hLayer = HardPointer(LayerZero());
+        AppendStructure(nType, nHandle, common, fileOwn);
+    }
+
+    /// An entity that stands only in the file.
+    template <class File>
+    void AppendStructure(std::uint16_t nType, std::uint64_t nHandle, const CDwgEntityCommon& common,
+                         File fileOwn) {
+        CDwgRecord& record = Append(nType, nHandle, common, [&fileOwn](auto& io, auto& value) {
+            FileEntityCommon(io, value);
+            fileOwn(io, value);
+        });
+        if (const CDwgRecord* const pFormer = m_writing.Former(nHandle, nType))
+            record.m_arExtended = pFormer->m_arExtended;
+    }
+
+    std::uint64_t LayerZero() const {
+        return m_writing.m_handles.Of(RecordNamed(m_writing.m_database.layerTableId(), L"0"));
+    }
+
+    CDwgEntityCommon FormerCommon(std::uint64_t nHandle, std::uint16_t nType) const {
+        return FormerDwgValue<CDwgEntityCommon>(m_writing, nHandle, nType, DWG_FILED(FileEntityCommon));
+    }
+
+    void PlaceIn(CDwgEntityCommon& common, std::uint64_t nBlock) const {
+        common.m_nPlace = nBlock == m_nModelSpace   ? g_nDwgInModelSpace
+                          : nBlock == m_nPaperSpace ? g_nDwgInPaperSpace
+                                                    : g_nDwgOwnerGiven;
         common.m_hOwner = SoftPointer(nBlock);
-        if (nBlock == CDwgFixed::s_nModelSpace) common.m_nPlace = g_nDwgInModelSpace;
-        if (nBlock == CDwgFixed::s_nPaperSpace) common.m_nPlace = g_nDwgInPaperSpace;
-        return common;
     }
 
-    /// What the entity itself says of the common part.
-    void TakeProperties(CDwgEntityCommon& common, const AcDbEntity& entity) const {
-        common.m_nColor = entity.colorIndex();
-        common.m_arReactors = DwgReactorsOf(entity, m_writing);
-        const std::uint64_t nLayer = m_writing.m_handles.Of(entity.layerId());
-        common.m_hLayer = HardPointer(nLayer ? nLayer : CDwgFixed::s_nLayer0);
-        const std::uint64_t nLinetype = m_writing.m_handles.Of(entity.linetypeId());
-        if (nLinetype == 0 || nLinetype == CDwgFixed::s_nByLayer) return;
-        common.m_nLinetype = nLinetype == CDwgFixed::s_nByBlock      ? g_nDwgByBlock
-                             : nLinetype == CDwgFixed::s_nContinuous ? g_nDwgContinuous
-                                                                     : g_nDwgByHandle;
-        common.m_hLinetype = HardPointer(nLinetype);
-    }
-
-    void WriteEntity(AcDbObjectId id, CDwgEntityCommon common) {
+    /// The entity at a place of a chain, in a block or of an insertion.
+    void WriteEntity(AcDbObjectId id, const CChain& chain, std::size_t nAt, std::uint64_t nOwner) {
         const CDbOpen<AcDbEntity> entity(id);
-        TakeProperties(common, *entity.Get());
+        CDwgEntityCommon common = DwgEntityCommonOf(*entity.Get(), m_writing);
+        PlaceIn(common, nOwner);
+        chain.GiveNeighbours(common, nAt);
         CDwgSequence attributes;
         const auto* const pReference = AcDbBlockReference::cast(entity.Get());
         if (pReference) attributes = WriteAttributes(*pReference, common.m_hLayer);
-        std::optional<CDwgRecord> record = WriteDwgEntity(*entity.Get(), common, attributes, m_writing);
-        if (!record) record = WriteDwgCustomEntity(*entity.Get(), common, m_writing);
-        m_records.push_back(std::move(*record));
+        m_records.push_back(WriteDwgEntity(*entity.Get(), common, attributes, m_writing));
     }
 
     CDwgSequence WriteAttributes(const AcDbBlockReference& reference, const CDwgHandle& hLayer) {
         const std::vector<AcDbObjectId> ids = reference.AttributeIds();
         if (ids.empty()) return {};
+        const std::uint64_t nReference = m_writing.m_handles.Of(reference.objectId());
         const CChain chain = ChainOf(ids);
-        CDwgEntityCommon common;
-        common.m_hOwner = SoftPointer(m_writing.m_handles.Of(reference.objectId()));
-        for (std::size_t i = 0; i < ids.size(); ++i) {
-            common.m_hPrevious = SoftPointer(i ? chain.At(i - 1) : 0);
-            common.m_hNext = SoftPointer(chain.At(i + 1));
-            WriteEntity(ids[i], common);
-        }
-        const CDwgSequence sequence{chain.First(), chain.Last(), m_writing.m_handles.New()};
-        common.m_hPrevious = common.m_hNext = SoftPointer(0);
-        common.m_hLayer = hLayer;
-        Append(g_nDwgSequenceEnd, sequence.m_nEnd, common, DWG_FILED(FileEntityCommon));
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            WriteEntity(ids[i], chain, i, nReference);
+        const CDwgSequence sequence{chain.First(), chain.Last(), SequenceEndOf(nReference)};
+        CDwgEntityCommon common = FormerCommon(sequence.m_nEnd, g_nDwgSequenceEnd);
+        PlaceIn(common, nReference);
+        if (common.m_hLayer.m_nValue == 0) common.m_hLayer = hLayer;
+        AppendStructure(g_nDwgSequenceEnd, sequence.m_nEnd, common, [](auto&, auto&) {});
         return sequence;
+    }
+
+    std::uint64_t SequenceEndOf(std::uint64_t nReference) {
+        const std::uint64_t nFormer = FormerDwgPart<CDwgInsertEntity>(m_writing, nReference, g_nDwgInsert,
+                                                                      DWG_FILED(FileInsert))
+                                          .m_hSequenceEnd.m_nValue;
+        return nFormer ? nFormer : m_writing.m_handles.New();
     }
 
     const CDwgWriting& m_writing;
     std::vector<CDwgRecord>& m_records;
+    std::uint64_t m_nModelSpace, m_nPaperSpace;
     std::map<std::uint64_t, std::vector<CDwgHandle>> m_inserts; ///< by block
 };
 

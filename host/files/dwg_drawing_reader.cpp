@@ -5,6 +5,8 @@
 #include "host/files/dwg_error.h"
 #include "host/files/dwg_fixed_handles.h"
 #include "host/files/dwg_handle_map.h"
+#include "host/files/dwg_object_reader.h"
+#include "host/files/dwg_proxies.h"
 #include "host/files/dwg_table_reader.h"
 
 #include <algorithm>
@@ -22,16 +24,6 @@ void DropTypeface(AcDbTextStyleTableRecord& style, const AcDbDatabase& database)
     if (!strTypeface.empty()) style.PutXData({RecordNamed(database.regAppTableId(), L"ACAD"), {}});
 }
 
-/// Those of the records of layers, line types and so on.
-void ReadTablesExtendedData(const CDwgReading& reading) {
-    for (const auto& [nHandle, id] : reading.m_ids) {
-        const CDbOpen<AcDbSymbolTableRecord> open(id, AcDb::kForWrite);
-        ReadDwgExtendedData(*open.Get(), reading.m_records.at(nHandle), reading);
-        if (auto* const pStyle = AcDbTextStyleTableRecord::cast(open.Get()))
-            DropTypeface(*pStyle, reading.m_database);
-    }
-}
-
 /// The objects that an object tells of changes, all of which must have been read.
 void ReadReactors(AcDbObject& object, const CDwgRecord& record, const CDwgReading& reading) {
     CDwgRecordReader io(record);
@@ -47,10 +39,15 @@ void ReadReactors(AcDbObject& object, const CDwgRecord& record, const CDwgReadin
         object.addPersistentReactor(reading.IdOf(handle)); // which refuses none
 }
 
-void ReadAllReactors(const CDwgReading& reading) {
+/// What other objects of the file may be referred to for.
+void ReadRelations(const CDwgReading& reading) {
     for (const auto& [nHandle, id] : reading.m_ids) {
         const CDbOpen<AcDbObject> open(id, AcDb::kForWrite);
-        if (open) ReadReactors(*open.Get(), reading.m_records.at(nHandle), reading);
+        const CDwgRecord& record = *reading.m_pOrigin->Find(nHandle);
+        ReadReactors(*open.Get(), record, reading);
+        ReadDwgExtendedData(*open.Get(), record, reading);
+        if (auto* const pStyle = AcDbTextStyleTableRecord::cast(open.Get()))
+            DropTypeface(*pStyle, reading.m_database);
     }
 }
 
@@ -65,6 +62,19 @@ void ReadVariables(const CDwgVariables& vars, const CDwgReading& reading) {
                                                                                      : idLinetype);
 }
 
+/// Lets what a new drawing has make way for what the file has.
+void MoveAside(AcDbDatabase& database, std::uint64_t nSpare) {
+    database.SetHandseed(AcDbHandle(nSpare));
+    for (const AcDbObjectId& id : database.ObjectIds())
+        database.SetHandle(id, database.handseed());
+}
+
+/// Lets the handles to come follow those in use, and not be below the one that the file gives as the next.
+void EndHandles(AcDbDatabase& database, std::uint64_t nSpare) {
+    const std::uint64_t nHighest = database.ObjectIds().back().handle().Value();
+    database.SetHandseed(AcDbHandle(std::max({nSpare, nHighest + 1, CDwgFixed::s_nFirstFree})));
+}
+
 /// Above every handle of the file, and not below the one that it gives as such.
 std::uint64_t SpareHandle(const CDwgFile& file) {
     const std::uint64_t nHighest = file.m_contents.empty() ? 0 : file.m_contents.rbegin()->first;
@@ -76,18 +86,20 @@ std::uint64_t SpareHandle(const CDwgFile& file) {
 } // namespace
 
 std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file) {
+    const std::uint64_t nSpare = SpareHandle(file);
     auto pDatabase = std::make_unique<AcDbDatabase>();
-    const std::uint16_t nCodePage = file.m_identity.m_nCodePage;
-    const CDrawingText text(CodePageOfDwg(nCodePage));
-    CDwgReading reading{*pDatabase, text, nCodePage, {}, {}, file.m_arClasses, SpareHandle(file)};
-    for (const auto& [nHandle, content] : file.m_contents)
-        reading.m_records.emplace_hint(reading.m_records.end(), nHandle, ReadDwgRecord(content, nHandle));
+    CDwgReading reading{*pDatabase, std::make_shared<const CDwgOrigin>(file), {}};
+    MoveAside(*pDatabase, nSpare);
     ReadDwgTables(file.m_variables.m_roots, reading);
-    ReadTablesExtendedData(reading);
     ReadDwgBlocks(reading);
-    ReadAllReactors(reading);
+    ReadDwgObjects(reading);
+    ReadDwgOwnParts(reading);
+    ReadRelations(reading);
     ReadVariables(file.m_variables, reading);
-    TakeDwgHandle(reading, std::max(reading.m_nSpareHandle, CDwgFixed::s_nFirstFree));
+    EndHandles(*pDatabase, nSpare);
+    pDatabase->SetOrigin(reading.m_pOrigin);
+    ReviveProxies(*pDatabase);
+    ShowDwgProxies(reading);
     pDatabase->SetModified(false);
     return pDatabase;
 }

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-/// The drawing that a file holds: tables, blocks, lines and curves, texts, insertions with their attributes,
-/// entities of registered classes, extended data and variables, each object under the handle that it has in
-/// the file. Dictionaries and other objects without a picture are left out. Throws CDwgError, also for an
-/// entity of another class.
+/// The drawing that a file holds, each object under the handle that it has in the file. What a drawing here
+/// does not know stands in it as proxies; those of classes that are known at present are objects of these.
+/// What else the file has goes with the drawing, so that nothing of it is lost when it is written again.
+/// Throws CDwgError.
 std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file);

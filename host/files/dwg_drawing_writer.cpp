@@ -1,67 +1,88 @@
 #include "host/files/dwg_drawing_writer.h"
 
 #include "host/files/dwg_block_writer.h"
-#include "host/files/dwg_blocks.h"
+#include "host/files/dwg_object_writer.h"
 #include "host/files/dwg_standard_objects.h"
 #include "host/files/dwg_table_writer.h"
 
 namespace {
 
-CDwgVariables VariablesOf(const AcDbDatabase& database, const CDwgHandleMap& handles) {
-    CDwgVariables vars;
-    vars.m_dLtscale = database.ltscale();
-    vars.m_model.m_ptInsbase = database.insbase();
-    vars.m_hClayer = HardPointer(handles.Of(database.clayer()));
-    vars.m_hTextstyle = HardPointer(handles.Of(database.textstyle()));
-    const std::uint64_t nLinetype = handles.Of(database.celtype());
-    vars.m_hCeltype = HardPointer(nLinetype ? nLinetype : CDwgFixed::s_nByLayer);
+/// The references of a new drawing's header to what every drawing has.
+void SetFixedHandles(CDwgVariables& vars) {
     vars.m_hDimstyle = HardPointer(CDwgFixed::s_nDimstyle);
     vars.m_hCmlstyle = HardPointer(CDwgFixed::s_nMlineStyle);
     vars.m_hDimtxsty = HardPointer(CDwgFixed::s_nStandardStyle);
-    vars.m_hHandseed.m_nValue = handles.Seed();
     CDwgRoots& roots = vars.m_roots;
     const std::pair<CDwgHandle*, std::uint64_t> fixed[] = {
-        {&roots.m_hBlocks, CDwgFixed::s_nBlocks},
-        {&roots.m_hLayers, CDwgFixed::s_nLayers},
-        {&roots.m_hStyles, CDwgFixed::s_nStyles},
-        {&roots.m_hLinetypes, CDwgFixed::s_nLinetypes},
         {&roots.m_hViews, CDwgFixed::s_nViews},
         {&roots.m_hUcss, CDwgFixed::s_nUcss},
         {&roots.m_hViewports, CDwgFixed::s_nViewports},
-        {&roots.m_hApps, CDwgFixed::s_nApps},
         {&roots.m_hDimstyles, CDwgFixed::s_nDimstyles},
         {&roots.m_hViewportEntities, CDwgFixed::s_nViewportEntities},
         {&roots.m_hGroups, CDwgFixed::s_nGroups},
         {&roots.m_hMlineStyles, CDwgFixed::s_nMlineStyles},
-        {&roots.m_hNamedObjects, CDwgFixed::s_nNamedObjects},
         {&roots.m_hLayouts, CDwgFixed::s_nLayouts},
         {&roots.m_hPlotSettings, CDwgFixed::s_nPlotSettings},
-        {&roots.m_hPlotStyles, CDwgFixed::s_nPlotStyles},
-        {&roots.m_hPaperSpace, CDwgFixed::s_nPaperSpace},
-        {&roots.m_hModelSpace, CDwgFixed::s_nModelSpace},
-        {&roots.m_hByLayer, CDwgFixed::s_nByLayer},
-        {&roots.m_hByBlock, CDwgFixed::s_nByBlock},
-        {&roots.m_hContinuous, CDwgFixed::s_nContinuous}};
+        {&roots.m_hPlotStyles, CDwgFixed::s_nPlotStyles}};
     for (const auto& [pHandle, nHandle] : fixed)
         pHandle->m_nValue = nHandle;
-    return vars;
+}
+
+/// What the drawing itself has of the header.
+void TakeVariables(CDwgVariables& vars, const AcDbDatabase& database, const CDwgHandleMap& handles) {
+    const auto handleOf = [&handles](AcDbObjectId idTable, const ACHAR* name) {
+        return handles.Of(RecordNamed(idTable, name));
+    };
+    CDwgRoots& roots = vars.m_roots;
+    const AcDbObjectId idLinetypes = database.linetypeTableId();
+    const std::pair<CDwgHandle*, std::uint64_t> own[] = {
+        {&roots.m_hBlocks, handles.Of(database.blockTableId())},
+        {&roots.m_hLayers, handles.Of(database.layerTableId())},
+        {&roots.m_hStyles, handles.Of(database.textStyleTableId())},
+        {&roots.m_hLinetypes, handles.Of(idLinetypes)},
+        {&roots.m_hApps, handles.Of(database.regAppTableId())},
+        {&roots.m_hNamedObjects, handles.Of(database.namedObjectsDictionaryId())},
+        {&roots.m_hPaperSpace, handleOf(database.blockTableId(), ACDB_PAPER_SPACE)},
+        {&roots.m_hModelSpace, handles.Of(database.ModelSpaceId())},
+        {&roots.m_hByLayer, handleOf(idLinetypes, L"ByLayer")},
+        {&roots.m_hByBlock, handleOf(idLinetypes, L"ByBlock")},
+        {&roots.m_hContinuous, handleOf(idLinetypes, L"Continuous")},
+        {&vars.m_hClayer, handles.Of(database.clayer())},
+        {&vars.m_hTextstyle, handles.Of(database.textstyle())}};
+    for (const auto& [pHandle, nHandle] : own)
+        pHandle->m_nValue = nHandle;
+    const std::uint64_t nLinetype = handles.Of(database.celtype());
+    vars.m_hCeltype.m_nValue = nLinetype ? nLinetype : roots.m_hByLayer.m_nValue;
+    vars.m_dLtscale = database.ltscale();
+    vars.m_model.m_ptInsbase = database.insbase();
+    vars.m_hHandseed.m_nValue = handles.Seed();
+}
+
+/// All of a new drawing's file that is not in the drawing.
+CDwgFile NewFile(std::vector<CDwgRecord>& records) {
+    CDwgFile file;
+    file.m_arClasses = DwgStandardClasses();
+    SetFixedHandles(file.m_variables);
+    records = DwgStandardObjects();
+    return file;
 }
 
 } // namespace
 
 CDwgFile DwgFileOf(const AcDbDatabase& database) {
-    CDwgFile file;
-    const CDrawingText text(CodePageOfDwg(file.m_identity.m_nCodePage));
+    std::vector<CDwgRecord> records;
+    const CDwgOrigin* const pOrigin = DwgOriginOf(database);
+    CDwgFile file = pOrigin ? pOrigin->m_file : NewFile(records);
+    const std::uint16_t nCodePage = file.m_identity.m_nCodePage;
+    const CDrawingText text(CodePageOfDwg(nCodePage));
     const CCustomPictures pictures(database, text);
     CDwgHandleMap handles(database);
-    file.m_arClasses = DwgStandardClasses();
-    const CDwgWriting writing{database,         text,     file.m_identity.m_nCodePage, handles,
-                              file.m_arClasses, &pictures};
-    std::vector<CDwgRecord> records = DwgStandardObjects();
+    const CDwgWriting writing{database, pOrigin, text, nCodePage, handles, file.m_arClasses, &pictures};
     WriteDwgTables(writing, records);
     WriteDwgBlocks(writing, records);
+    WriteDwgObjects(writing, records);
     for (const CDwgRecord& record : records)
         file.m_contents.emplace(record.m_nHandle, WriteDwgRecord(record));
-    file.m_variables = VariablesOf(database, handles);
+    TakeVariables(file.m_variables, database, handles);
     return file;
 }

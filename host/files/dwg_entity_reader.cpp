@@ -3,6 +3,7 @@
 #include "host/files/dwg_blocks.h"
 #include "host/files/dwg_curves.h"
 #include "host/files/dwg_handle_map.h"
+#include "host/files/dwg_proxies.h"
 #include "host/files/dwg_texts.h"
 #include "platform/acad/db_arc.h"
 #include "platform/acad/db_block_reference.h"
@@ -132,6 +133,17 @@ Part ReadParts(const CDwgRecord& record, CDwgEntityCommon& common, File file) {
 
 } // namespace
 
+CDwgReadEntity KeepDwgEntity(const CDwgRecord& record, const CDwgReading& reading) {
+    CDwgRecordReader reader(record);
+    auto pProxy = std::make_unique<AcDbProxyEntity>();
+    pProxy->SetOrigin(DwgProxyOrigin(record, reading));
+    CDwgReadEntity read;
+    read.m_common = ReadDwgCommon<CDwgEntityCommon>(reader, record.m_nHandle, DWG_FILED(FileEntityCommon));
+    GiveProperties(*pProxy, read.m_common, reading);
+    read.m_pEntity = std::move(pProxy);
+    return read;
+}
+
 CDwgReadEntity ReadDwgEntity(const CDwgRecord& record, const CDwgReading& reading) {
     CDwgReadEntity read;
     const auto part = [&]<class Part>(Part, auto file) {
@@ -165,10 +177,11 @@ CDwgReadEntity ReadDwgEntity(const CDwgRecord& record, const CDwgReading& readin
         read.m_pEntity = MakeReference(insert, reading);
         read.m_nFirstAttribute = insert.m_hFirstAttribute.m_nValue;
         read.m_nLastAttribute = insert.m_hLastAttribute.m_nValue;
+        read.m_nSequenceEnd = insert.m_hSequenceEnd.m_nValue;
         break;
     }
     default:
-        return read;
+        return KeepDwgEntity(record, reading);
     }
     GiveProperties(*read.m_pEntity, read.m_common, reading);
     return read;

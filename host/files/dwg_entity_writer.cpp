@@ -1,177 +1,167 @@
 #include "host/files/dwg_entity_writer.h"
 
 #include "host/files/dwg_blocks.h"
-#include "host/files/dwg_curves.h"
+#include "host/files/dwg_curve_parts.h"
+#include "host/files/dwg_own_part_writer.h"
 #include "host/files/dwg_texts.h"
 #include "platform/acad/db_arc.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_line.h"
-#include "platform/acad/db_polyline.h"
-#include "platform/acad/db_spline.h"
+#include "platform/acad/db_proxy.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
-CDwgLine LineOf(const AcDbLine& line) {
-    return {line.startPoint(), line.endPoint()};
+void TakeLinetype(CDwgEntityCommon& common, AcDbObjectId idLinetype, const CDwgWriting& writing) {
+    const AcDbObjectId idTable = writing.m_database.linetypeTableId();
+    const auto is = [&](const ACHAR* name) { return idLinetype == RecordNamed(idTable, name); };
+    common.m_hLinetype = HardPointer(writing.m_handles.Of(idLinetype));
+    common.m_nLinetype = common.m_hLinetype.m_nValue == 0 || is(L"ByLayer") ? g_nDwgByLayer
+                         : is(L"ByBlock")                                   ? g_nDwgByBlock
+                         : is(L"Continuous")                                ? g_nDwgContinuous
+                                                                            : g_nDwgByHandle;
 }
 
-CDwgArc ArcOf(const AcDbArc& arc) {
-    CDwgArc result;
-    result.m_ptCenter = arc.center();
-    result.m_dRadius = arc.radius();
-    result.m_dStart = arc.startAngle();
-    result.m_dEnd = arc.endAngle();
-    return result;
+/// A proxy keeps the picture that it came with.
+void TakePicture(CDwgEntityCommon& common, const AcDbEntity& entity, const CDwgWriting& writing) {
+    const CBytes* const pPicture = writing.m_pPictures ? writing.m_pPictures->Of(entity) : nullptr;
+    if (!pPicture || (common.m_bGraphics && AcDbProxyEntity::cast(&entity))) return;
+    common.m_bGraphics = true;
+    common.m_arGraphics = *pPicture;
 }
 
-/// Widths that are not set stand as 0, which draws the same thin line.
-CDwgPolyline PolylineOf(const AcDbPolyline& polyline) {
-    CDwgPolyline result;
-    bool bBulges = false, bWidths = false;
-    for (const CPolylineVertex& vertex : polyline.Vertices()) {
-        result.m_arPoints.push_back(vertex.m_pt);
-        result.m_arBulges.push_back(vertex.m_dBulge);
-        result.m_arWidths.push_back({std::max(vertex.m_dStartWidth, 0.0), std::max(vertex.m_dEndWidth, 0.0)});
-        bBulges = bBulges || !IsPlainZero(vertex.m_dBulge);
-        bWidths = bWidths || vertex.m_dStartWidth >= 0.0 || vertex.m_dEndWidth >= 0.0;
-    }
-    if (!bBulges) result.m_arBulges.clear();
-    if (!bWidths) result.m_arWidths.clear();
-    result.m_nFlags = static_cast<std::uint16_t>((bBulges ? CDwgPolyline::s_nBulges : 0) |
-                                                 (bWidths ? CDwgPolyline::s_nWidths : 0) |
-                                                 (polyline.isClosed() ? CDwgPolyline::s_nClosed : 0));
-    return result;
-}
+/// Takes what an entity is of a fixed type over what it was in the file that the drawing is of.
+class CEntityWriter {
+public:
+    CEntityWriter(CDwgRecordWriter& io, const AcDbEntity& entity, const CDwgSequence& attributes,
+                  const CDwgWriting& writing)
+        : m_io(io)
+        , m_entity(entity)
+        , m_attributes(attributes)
+        , m_writing(writing) {}
 
-/// Fit points stand for a cubic curve only; of another degree the curve that follows from them is kept.
-CDwgSpline SplineOf(const AcDbSpline& spline) {
-    CDwgSpline result;
-    result.m_nDegree = static_cast<std::uint32_t>(spline.degree());
-    if (spline.hasFitData() && spline.degree() == 3) {
-        result.m_nForm = CDwgSpline::s_nByFitPoints;
-        result.m_dFitTolerance = spline.FitTolerance();
-        result.m_arFitPoints = spline.FitPoints();
-        return result;
+    /// Writes the entity's own part and gives its type code; 0 for a class that has none here.
+    std::uint16_t Write() {
+        const bool bWritten =
+            WriteAs<AcDbLine, CDwgLine>(g_nDwgLine, DWG_FILED(FileLine)) ||
+            WriteAs<AcDbArc, CDwgArc>(g_nDwgArc, DWG_FILED(FileArc)) ||
+            WriteAs<AcDbPolyline, CDwgPolyline>(g_nDwgPolyline, DWG_FILED(FilePolyline)) ||
+            WriteAs<AcDbSpline, CDwgSpline>(g_nDwgSpline, DWG_FILED(FileSpline)) ||
+            WriteAs<AcDbText, CDwgTextEntity>(g_nDwgText, DWG_FILED(FileText)) ||
+            WriteAs<AcDbAttribute, CDwgAttributeEntity>(g_nDwgAttribute, DWG_FILED(FileAttribute)) ||
+            WriteAs<AcDbAttributeDefinition, CDwgAttributeDefinitionEntity>(
+                g_nDwgAttributeDefinition, DWG_FILED(FileAttributeDefinition)) ||
+            WriteAs<AcDbBlockReference, CDwgInsertEntity>(g_nDwgInsert, DWG_FILED(FileInsert));
+        return bWritten ? m_nType : std::uint16_t{0};
     }
-    const CNurbs nurbs = spline.Nurbs();
-    result.m_nDegree = static_cast<std::uint32_t>(nurbs.m_nDegree);
-    result.m_bRational = result.m_bWeights = spline.isRational();
-    result.m_bClosed = spline.isClosed();
-    result.m_bPeriodic = spline.isPeriodic();
-    result.m_arKnots = nurbs.m_arKnots;
-    for (std::size_t i = 0; i < nurbs.m_arControlPoints.size(); ++i)
-        result.m_arControlPoints.push_back(
-            {nurbs.m_arControlPoints[i], result.m_bWeights ? nurbs.m_arWeights[i] : 1.0});
-    return result;
-}
 
-void TakeText(CDwgTextEntity& target, const AcDbText& text, const CDwgWriting& writing) {
-    target.m_dElevation = text.position().z;
-    target.m_ptPosition = {text.position().x, text.position().y};
-    target.m_ptAlignment = {text.alignmentPoint().x, text.alignmentPoint().y};
-    target.m_dOblique = text.oblique();
-    target.m_dRotation = text.rotation();
-    target.m_dHeight = text.height();
-    target.m_dWidthFactor = text.widthFactor();
-    target.m_strText = writing.m_text.Encode(text.textString());
-    target.m_nHorizontal = static_cast<std::uint16_t>(text.horizontalMode());
-    target.m_nVertical = static_cast<std::uint16_t>(text.verticalMode());
-    const std::uint64_t nStyle = writing.m_handles.Of(text.textStyle());
-    target.m_hStyle = HardPointer(nStyle ? nStyle : CDwgFixed::s_nStandardStyle);
-}
+private:
+    /// Writes the entity if it is of that very class: one derived from it has a record of its own.
+    template <class Class, class Part, class File>
+    bool WriteAs(std::uint16_t nType, File file) {
+        if (m_entity.isA() != Class::desc()) return false;
+        Part part = FormerDwgPart<Part>(m_writing, m_writing.m_handles.Of(m_entity.objectId()), nType, file);
+        Take(part, static_cast<const Class&>(m_entity));
+        file(m_io, std::as_const(part));
+        m_nType = nType;
+        return true;
+    }
 
-void TakeAttribute(CDwgAttributeEntity& target, const CAttributeText& attribute, const CDwgWriting& writing) {
-    TakeText(target, attribute, writing);
-    target.m_strTag = writing.m_text.Encode(attribute.tag());
-    target.m_nFieldLength = attribute.fieldLength();
-    target.m_nFlags =
-        static_cast<std::uint8_t>((attribute.isInvisible() ? CDwgAttributeEntity::s_nInvisible : 0) |
-                                  (attribute.isConstant() ? CDwgAttributeEntity::s_nConstant : 0) |
-                                  (attribute.isVerifiable() ? CDwgAttributeEntity::s_nVerify : 0) |
-                                  (attribute.isPreset() ? CDwgAttributeEntity::s_nPreset : 0));
-}
+    static void Take(CDwgLine& part, const AcDbLine& line) {
+        part.m_ptStart = line.startPoint();
+        part.m_ptEnd = line.endPoint();
+    }
 
-CDwgInsertEntity InsertOf(const AcDbBlockReference& reference, const CDwgSequence& attributes,
-                          const CDwgWriting& writing) {
-    CDwgInsertEntity result;
-    result.m_ptPosition = reference.position();
-    result.m_scale = reference.scaleFactors();
-    result.m_dRotation = reference.rotation();
-    result.m_bAttributes = attributes.m_nEnd != 0;
-    result.m_hBlock = HardPointer(writing.m_handles.Of(reference.blockTableRecord()));
-    result.m_hFirstAttribute = SoftPointer(attributes.m_nFirst);
-    result.m_hLastAttribute = SoftPointer(attributes.m_nLast);
-    result.m_hSequenceEnd = HardOwner(attributes.m_nEnd);
-    return result;
-}
+    static void Take(CDwgArc& part, const AcDbArc& arc) {
+        part.m_ptCenter = arc.center();
+        part.m_dRadius = arc.radius();
+        part.m_dStart = arc.startAngle();
+        part.m_dEnd = arc.endAngle();
+    }
 
-/// The entity if it is of that very class: one derived from it has a record of its own.
-template <class Class>
-const Class* Exactly(const AcDbEntity& entity) {
-    return entity.isA() == Class::desc() ? static_cast<const Class*>(&entity) : nullptr;
-}
+    static void Take(CDwgPolyline& part, const AcDbPolyline& polyline) { TakePolyline(part, polyline); }
+    static void Take(CDwgSpline& part, const AcDbSpline& spline) { TakeSpline(part, spline); }
 
-std::uint16_t WriteCurve(CDwgRecordWriter& io, const AcDbEntity& entity) {
-    if (const auto* const pLine = Exactly<AcDbLine>(entity)) {
-        const CDwgLine line = LineOf(*pLine);
-        return FileLine(io, line), g_nDwgLine;
+    void Take(CDwgTextEntity& part, const AcDbText& text) const {
+        part.m_dElevation = text.position().z;
+        part.m_ptPosition = {text.position().x, text.position().y};
+        part.m_ptAlignment = {text.alignmentPoint().x, text.alignmentPoint().y};
+        part.m_dOblique = text.oblique();
+        part.m_dRotation = text.rotation();
+        part.m_dHeight = text.height();
+        part.m_dWidthFactor = text.widthFactor();
+        part.m_strText = m_writing.m_text.Encode(text.textString());
+        part.m_nHorizontal = static_cast<std::uint16_t>(text.horizontalMode());
+        part.m_nVertical = static_cast<std::uint16_t>(text.verticalMode());
+        const AcDbObjectId idStyles = m_writing.m_database.textStyleTableId();
+        const std::uint64_t nStyle = m_writing.m_handles.Of(text.textStyle());
+        part.m_hStyle = HardPointer(nStyle ? nStyle : m_writing.m_handles.Of(RecordNamed(idStyles, L"Standard")));
     }
-    if (const auto* const pArc = Exactly<AcDbArc>(entity)) {
-        const CDwgArc arc = ArcOf(*pArc);
-        return FileArc(io, arc), g_nDwgArc;
-    }
-    if (const auto* const pPolyline = Exactly<AcDbPolyline>(entity)) {
-        const CDwgPolyline polyline = PolylineOf(*pPolyline);
-        return FilePolyline(io, polyline), g_nDwgPolyline;
-    }
-    if (const auto* const pSpline = Exactly<AcDbSpline>(entity)) {
-        const CDwgSpline spline = SplineOf(*pSpline);
-        return FileSpline(io, spline), g_nDwgSpline;
-    }
-    return 0;
-}
 
-std::uint16_t WriteTextual(CDwgRecordWriter& io, const AcDbEntity& entity, const CDwgWriting& writing) {
-    if (const auto* const pText = Exactly<AcDbText>(entity)) {
-        CDwgTextEntity text;
-        TakeText(text, *pText, writing);
-        return FileText(io, text), g_nDwgText;
+    void Take(CDwgAttributeEntity& part, const CAttributeText& attribute) const {
+        Take(part, static_cast<const AcDbText&>(attribute));
+        part.m_strTag = m_writing.m_text.Encode(attribute.tag());
+        part.m_nFieldLength = attribute.fieldLength();
+        part.m_nFlags =
+            static_cast<std::uint8_t>((attribute.isInvisible() ? CDwgAttributeEntity::s_nInvisible : 0) |
+                                      (attribute.isConstant() ? CDwgAttributeEntity::s_nConstant : 0) |
+                                      (attribute.isVerifiable() ? CDwgAttributeEntity::s_nVerify : 0) |
+                                      (attribute.isPreset() ? CDwgAttributeEntity::s_nPreset : 0));
     }
-    if (const auto* const pAttribute = Exactly<AcDbAttribute>(entity)) {
-        CDwgAttributeEntity attribute;
-        TakeAttribute(attribute, *pAttribute, writing);
-        return FileAttribute(io, attribute), g_nDwgAttribute;
-    }
-    if (const auto* const pDefinition = Exactly<AcDbAttributeDefinition>(entity)) {
-        CDwgAttributeDefinitionEntity definition;
-        TakeAttribute(definition, *pDefinition, writing);
-        definition.m_strPrompt = writing.m_text.Encode(pDefinition->prompt());
-        return FileAttributeDefinition(io, definition), g_nDwgAttributeDefinition;
-    }
-    return 0;
-}
 
-/// Writes an entity's own part and gives its type code; 0 for a class that has none here.
-std::uint16_t WriteOwnPart(CDwgRecordWriter& io, const AcDbEntity& entity, const CDwgSequence& attributes,
-                           const CDwgWriting& writing) {
-    if (const auto* const pReference = Exactly<AcDbBlockReference>(entity)) {
-        const CDwgInsertEntity insert = InsertOf(*pReference, attributes, writing);
-        return FileInsert(io, insert), g_nDwgInsert;
+    void Take(CDwgAttributeDefinitionEntity& part, const AcDbAttributeDefinition& definition) const {
+        Take(part, static_cast<const CAttributeText&>(definition));
+        part.m_strPrompt = m_writing.m_text.Encode(definition.prompt());
     }
-    const std::uint16_t nCurve = WriteCurve(io, entity);
-    return nCurve ? nCurve : WriteTextual(io, entity, writing);
-}
+
+    void Take(CDwgInsertEntity& part, const AcDbBlockReference& reference) const {
+        part.m_ptPosition = reference.position();
+        part.m_scale = reference.scaleFactors();
+        part.m_dRotation = reference.rotation();
+        part.m_bAttributes = m_attributes.m_nEnd != 0;
+        part.m_hBlock = HardPointer(m_writing.m_handles.Of(reference.blockTableRecord()));
+        part.m_hFirstAttribute = SoftPointer(m_attributes.m_nFirst);
+        part.m_hLastAttribute = SoftPointer(m_attributes.m_nLast);
+        part.m_hSequenceEnd = HardOwner(m_attributes.m_nEnd);
+    }
+
+    CDwgRecordWriter& m_io;
+    const AcDbEntity& m_entity;
+    const CDwgSequence& m_attributes;
+    const CDwgWriting& m_writing;
+    std::uint16_t m_nType = 0;
+};
 
 } // namespace
 
-std::optional<CDwgRecord> WriteDwgEntity(const AcDbEntity& entity, const CDwgEntityCommon& common,
-                                         const CDwgSequence& attributes, const CDwgWriting& writing) {
+CDwgEntityCommon DwgEntityCommonOf(const AcDbEntity& entity, const CDwgWriting& writing) {
+    const CDwgHandleMap& handles = writing.m_handles;
+    const std::uint64_t nHandle = handles.Of(entity.objectId());
+    const CDwgRecord* const pFormer = writing.m_pOrigin ? writing.m_pOrigin->Find(nHandle) : nullptr;
+    CDwgEntityCommon common;
+    if (pFormer) {
+        CDwgRecordReader io(*pFormer);
+        FileEntityCommon(io, common);
+    }
+    common.m_nColor = entity.colorIndex();
+    common.m_arReactors = DwgReactorsOf(entity, writing);
+    common.m_hExtensions = writing.StillThere(common.m_hExtensions);
+    common.m_hPlotStyle = writing.StillThere(common.m_hPlotStyle);
+    const AcDbObjectId idLayers = writing.m_database.layerTableId();
+    const std::uint64_t nLayer = handles.Of(entity.layerId());
+    common.m_hLayer = HardPointer(nLayer ? nLayer : handles.Of(RecordNamed(idLayers, L"0")));
+    TakeLinetype(common, entity.linetypeId(), writing);
+    TakePicture(common, entity, writing);
+    return common;
+}
+
+CDwgRecord WriteDwgEntity(const AcDbEntity& entity, const CDwgEntityCommon& common,
+                          const CDwgSequence& attributes, const CDwgWriting& writing) {
     CDwgRecordWriter io;
     FileEntityCommon(io, common);
-    const std::uint16_t nType = WriteOwnPart(io, entity, attributes, writing);
-    if (nType == 0) return std::nullopt;
+    std::uint16_t nType = CEntityWriter(io, entity, attributes, writing).Write();
+    if (nType == 0) nType = WriteDwgOwnPart(io, entity, writing);
     const std::uint64_t nHandle = writing.m_handles.Of(entity.objectId());
     if (io.Failed()) RefuseDwgObject(nHandle, "a text is too long for a file.");
     CDwgRecord record = io.TakeRecord(nType, nHandle);

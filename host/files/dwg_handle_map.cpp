@@ -1,5 +1,6 @@
 #include "host/files/dwg_handle_map.h"
 
+#include "host/files/dwg_origin.h"
 #include "platform/acad/db_stub.h"
 
 #include <algorithm>
@@ -11,6 +12,26 @@ AcDbObjectId RecordNamed(AcDbObjectId idTable, const ACHAR* name) {
 
 CDwgHandleMap::CDwgHandleMap(const AcDbDatabase& database)
     : m_nNext(std::max(database.handseed().Value(), CDwgFixed::s_nFirstFree)) {
+    FindGone(database);
+    if (!DwgOriginOf(database)) FixHandles(database);
+}
+
+void CDwgHandleMap::FindGone(const AcDbDatabase& database) {
+    std::map<AcDbHandle, bool> seen; // whether each is gone
+    for (const AcDbObjectId& id : database.ObjectIds()) {
+        std::vector<AcDbHandle> path;
+        AcDbObjectId idAt = id;
+        while (!idAt.isNull() && !idAt.isErased() && seen.try_emplace(idAt.handle(), false).second) {
+            path.push_back(idAt.handle());
+            idAt = PeekObject<AcDbObject>(idAt)->ownerId();
+        }
+        if (idAt.isNull() || (!idAt.isErased() && !seen[idAt.handle()])) continue;
+        for (const AcDbHandle& handle : path)
+            seen[handle] = m_gone.insert(handle).second;
+    }
+}
+
+void CDwgHandleMap::FixHandles(const AcDbDatabase& database) {
     const std::pair<AcDbObjectId, std::uint64_t> fixed[] = {
         {database.blockTableId(), CDwgFixed::s_nBlocks},
         {database.layerTableId(), CDwgFixed::s_nLayers},
@@ -35,7 +56,7 @@ CDwgHandleMap::CDwgHandleMap(const AcDbDatabase& database)
 }
 
 std::uint64_t CDwgHandleMap::Of(AcDbObjectId id) const {
-    if (id.isNull() || id.isErased()) return 0;
+    if (id.isNull() || id.isErased() || m_gone.contains(id.handle())) return 0;
     const auto found = m_mapHandles.find(id.handle());
     return found == m_mapHandles.end() ? id.handle().Value() : found->second;
 }

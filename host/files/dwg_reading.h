@@ -1,33 +1,26 @@
 #pragma once
 
-#include "host/files/drawing_text.h"
-#include "host/files/dwg_classes.h"
+#include "host/files/dwg_origin.h"
 #include "host/files/dwg_record_io.h"
-#include "platform/acad/db_database.h"
-
-#include <map>
 
 /// What the parts of a drawing that is being read share.
 struct CDwgReading {
     AcDbDatabase& m_database;
-    const CDrawingText& m_text;
-    std::uint16_t m_nCodePage;                     ///< the text's
-    std::map<std::uint64_t, CDwgRecord> m_records; ///< all of the file
-    std::map<std::uint64_t, AcDbObjectId> m_ids;   ///< what was made of them so far
-    const std::vector<CDwgClass>& m_classes;       ///< of the file
-    std::uint64_t m_nSpareHandle = 1;              ///< above the file's, for an object whose own is taken
+    std::shared_ptr<const CDwgOrigin> m_pOrigin;
+    std::map<std::uint64_t, AcDbObjectId> m_ids; ///< what was made of the file's objects so far
 
     /// What was made of an object; null for none.
-    AcDbObjectId IdOf(const CDwgHandle& handle) const {
-        const auto found = m_ids.find(handle.m_nValue);
+    AcDbObjectId IdOf(std::uint64_t nHandle) const {
+        const auto found = m_ids.find(nHandle);
         return found == m_ids.end() ? AcDbObjectId::kNull : found->second;
     }
-    std::wstring Text(const std::string& strBytes) const { return m_text.Decode(strBytes); }
+    AcDbObjectId IdOf(const CDwgHandle& handle) const { return IdOf(handle.m_nValue); }
+    std::wstring Text(const std::string& strBytes) const { return m_pOrigin->m_text.Decode(strBytes); }
 };
 
-/// Lets the next object of the drawing have the handle that it has in the file; another one if an object that
-/// any new drawing has took it.
-void TakeDwgHandle(CDwgReading& reading, std::uint64_t nHandle);
+/// Notes what was made of an object of the file, and gives it the handle that it has there. An object that
+/// was made of another one before keeps the first one's.
+void IdentifyDwg(CDwgReading& reading, AcDbObjectId id, std::uint64_t nHandle);
 
 /// Gives an object that is open for writing the extended data of its record. Those of an application that the
 /// drawing has not are left out.
@@ -42,4 +35,14 @@ Value ReadDwgValue(const CDwgRecord& record, File file) {
     file(io, value);
     if (!io.IsAtEnd()) RefuseDwgObject(record.m_nHandle, "its data are not those of its class.");
     return value;
+}
+
+/// Reads what a record has in common with others, and leaves the reader there. Throws CDwgError for a record
+/// that is shorter.
+template <class Common, class File>
+Common ReadDwgCommon(CDwgRecordReader& io, std::uint64_t nHandle, File file) {
+    Common common;
+    file(io, common);
+    if (io.Failed()) RefuseDwgObject(nHandle, "it ends within what all objects have.");
+    return common;
 }

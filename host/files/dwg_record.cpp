@@ -11,21 +11,6 @@ namespace {
 
 constexpr std::size_t g_nShortestHandle = 8; ///< bits
 
-/// The bits of the reader up to bit nEnd.
-CDwgBits TakeBits(CBitReader& bits, std::size_t nEnd) {
-    CDwgBits taken;
-    taken.m_nCount = nEnd - bits.At();
-    bits.Raw(taken.m_arBytes, taken.m_nCount / 8);
-    std::uint8_t nLast = 0;
-    for (std::size_t i = 0; i < taken.m_nCount % 8; ++i) {
-        bool b = false;
-        bits.B(b);
-        nLast |= static_cast<std::uint8_t>(b << (7 - i));
-    }
-    if (taken.m_nCount % 8) taken.m_arBytes.push_back(nLast);
-    return taken;
-}
-
 std::vector<CDwgExtendedData> ReadExtended(CBitReader& bits) {
     std::vector<CDwgExtendedData> all;
     for (;;) {
@@ -78,7 +63,8 @@ CDwgRecord ReadDwgRecord(CByteView content, std::uint64_t nHandle) {
     CBitReader data(content, front.At(), nFrontBits);
     record.m_arExtended = ReadExtended(data);
     if (data.Failed()) RefuseDwgObject(nHandle, "it ends within its extended data.");
-    record.m_data = TakeBits(data, nFrontBits);
+    record.m_data.m_nCount = data.Left();
+    data.RawBits(record.m_data.m_arBytes, record.m_data.m_nCount);
     CBitReader handles(content, nFrontBits, content.size() * 8);
     while (handles.Left() >= g_nShortestHandle) // less is the filling of the last byte
         handles.H(record.m_arHandles.emplace_back());

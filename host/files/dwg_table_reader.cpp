@@ -33,6 +33,7 @@ private:
             ReadDwgValue<CDwgControl>(RecordOfType(hControl, nControl), [nControl](auto& io, auto& value) {
                 FileControl(io, value, nControl);
             });
+        IdentifyDwg(m_reading, idTable, hControl.m_nValue);
         for (const auto* pHandles : {&control.m_arFixed, &control.m_arRecords}) {
             for (const CDwgHandle& handle : *pHandles) {
                 if (handle.m_nValue == 0) continue;
@@ -43,10 +44,10 @@ private:
     }
 
     const CDwgRecord& RecordOfType(const CDwgHandle& handle, std::uint16_t nType) const {
-        const auto found = m_reading.m_records.find(handle.m_nValue);
-        if (found == m_reading.m_records.end() || found->second.m_nType != nType)
+        const CDwgRecord* const pRecord = m_reading.m_pOrigin->Find(handle.m_nValue);
+        if (!pRecord || pRecord->m_nType != nType)
             RefuseDwgObject(handle.m_nValue, "a table refers to it, but it is none of that table's.");
-        return found->second;
+        return *pRecord;
     }
 
     template <class Record, class Filed>
@@ -55,7 +56,7 @@ private:
         if (strName.empty()) return;
         AcDbObjectId id = RecordNamed(idTable, strName.c_str());
         if (id.isNull()) id = AddRecord<Record>(idTable, strName, record.m_nHandle);
-        m_reading.m_ids[record.m_nHandle] = id;
+        IdentifyDwg(m_reading, id, record.m_nHandle);
         const CDbOpen<Record> open(id, AcDb::kForWrite);
         Give(*open.Get(), filed, record);
     }
@@ -65,7 +66,6 @@ private:
         const CDbOpen<AcDbSymbolTable> table(idTable, AcDb::kForWrite);
         auto pRecord = std::make_unique<Record>();
         pRecord->setName(strName.c_str());
-        TakeDwgHandle(m_reading, nHandle);
         AcDbObjectId id;
         if (table->add(id, pRecord.get()) != Acad::eOk)
             RefuseDwgObject(nHandle, "it cannot stand in its table.");
@@ -102,7 +102,7 @@ private:
     void GiveTypeface(AcDbTextStyleTableRecord& style, const CDwgRecord& record) const {
         const AcDbObjectId idAcad = RecordNamed(m_reading.m_database.regAppTableId(), L"ACAD");
         const CDwgExtendedContext context{
-            m_reading.m_text, m_reading.m_nCodePage, {}, [](std::uint64_t) { return std::wstring(); }};
+            m_reading.m_pOrigin->m_text, m_reading.m_pOrigin->m_file.m_identity.m_nCodePage, {}, [](std::uint64_t) { return std::wstring(); }};
         for (const CDwgExtendedData& data : record.m_arExtended) {
             if (m_reading.IdOf(data.m_hApp) != idAcad) continue;
             const std::vector<CXDataItem> items = UnpackExtendedData(data.m_arBytes, context);

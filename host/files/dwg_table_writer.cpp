@@ -1,7 +1,8 @@
 #include "host/files/dwg_table_writer.h"
 
-#include "host/files/dwg_dictionaries.h"
+#include "host/files/dwg_control_writer.h"
 #include "host/files/dwg_error.h"
+#include "host/files/dwg_table_records.h"
 #include "host/files/dwg_viewport.h"
 
 #include <algorithm>
@@ -25,8 +26,7 @@ public:
         WriteTable<AcDbTextStyleTableRecord>(database.textStyleTableId(), g_nDwgStyleControl);
         WriteTable<AcDbLinetypeTableRecord>(database.linetypeTableId(), g_nDwgLinetypeControl);
         WriteTable<AcDbRegAppTableRecord>(database.regAppTableId(), g_nDwgAppControl);
-        WriteViewport(database.View());
-        WriteNamedObjects();
+        if (!m_writing.m_pOrigin) WriteViewport(database.View());
     }
 
 private:
@@ -41,44 +41,45 @@ private:
     template <class Record>
     void WriteTable(AcDbObjectId idTable, std::uint16_t nType) {
         const CDbOpen<AcDbSymbolTable> table(idTable);
-        CDwgControl control;
+        std::vector<AcDbObjectId> fixed;
+        if (nType == g_nDwgLinetypeControl)
+            fixed = {RecordNamed(idTable, L"ByBlock"), RecordNamed(idTable, L"ByLayer")};
+        WriteDwgControl(m_writing, m_records, *table.Get(), nType, fixed);
         for (const AcDbObjectId& id : table->RecordIds()) {
             const std::uint64_t nHandle = m_writing.m_handles.Of(id);
             if (!nHandle) continue;
-            const bool bFixed = nHandle == CDwgFixed::s_nByBlock || nHandle == CDwgFixed::s_nByLayer;
-            if (!bFixed) control.m_arRecords.push_back(SoftOwner(nHandle));
             const CDbOpen<Record> record(id);
-            WriteRecord(*record.Get(), nHandle, m_writing.m_handles.Of(idTable));
+            WriteRecord(*record.Get(), nHandle);
             auto extended = DwgExtendedDataOf(*record.Get(), m_writing);
             std::ranges::move(extended, std::back_inserter(m_records.back().m_arExtended));
         }
-        if (nType == g_nDwgLinetypeControl)
-            control.m_arFixed = {HardOwner(CDwgFixed::s_nByBlock), HardOwner(CDwgFixed::s_nByLayer)};
-        Append(nType, m_writing.m_handles.Of(idTable), control,
-               [nType](auto& io, auto& value) { FileControl(io, value, nType); });
     }
 
-    /// What all records have.
-    template <class Filed>
-    Filed Begin(const AcDbSymbolTableRecord& record, std::uint64_t nTable) const {
-        Filed filed;
-        filed.m_hOwner = SoftPointer(nTable);
-        filed.m_arReactors = DwgReactorsOf(record, m_writing);
+    /// A record as it was, with what all records have.
+    template <class Filed, class File>
+    Filed Begin(const AcDbSymbolTableRecord& record, std::uint64_t nHandle, std::uint16_t nType,
+                File file) const {
+        auto filed = FormerDwgValue<Filed>(m_writing, nHandle, nType, file);
+        RelateDwgObject(filed, record, m_writing);
         filed.m_strName = Text(record.Name());
         return filed;
     }
 
-    void WriteRecord(const AcDbLayerTableRecord& record, std::uint64_t nHandle, std::uint64_t nTable) {
-        auto layer = Begin<CDwgLayerRecord>(record, nTable);
+    void WriteRecord(const AcDbLayerTableRecord& record, std::uint64_t nHandle) {
+        auto layer = Begin<CDwgLayerRecord>(record, nHandle, g_nDwgLayer, DWG_FILED(FileLayer));
         layer.m_nColor = record.ColorIndex();
-        layer.m_hPlotStyle = HardPointer(CDwgFixed::s_nPlotStyle);
+        if (!m_writing.m_pOrigin) layer.m_hPlotStyle = HardPointer(CDwgFixed::s_nPlotStyle);
         const std::uint64_t nLinetype = m_writing.m_handles.Of(record.linetypeObjectId());
-        layer.m_hLinetype = HardPointer(nLinetype ? nLinetype : CDwgFixed::s_nContinuous);
+        layer.m_hLinetype = HardPointer(nLinetype ? nLinetype : Continuous());
         Append(g_nDwgLayer, nHandle, layer, DWG_FILED(FileLayer));
     }
 
-    void WriteRecord(const AcDbTextStyleTableRecord& record, std::uint64_t nHandle, std::uint64_t nTable) {
-        auto style = Begin<CDwgStyleRecord>(record, nTable);
+    std::uint64_t Continuous() const {
+        return m_writing.m_handles.Of(RecordNamed(m_writing.m_database.linetypeTableId(), L"Continuous"));
+    }
+
+    void WriteRecord(const AcDbTextStyleTableRecord& record, std::uint64_t nHandle) {
+        auto style = Begin<CDwgStyleRecord>(record, nHandle, g_nDwgStyle, DWG_FILED(FileStyle));
         style.m_dHeight = record.textSize();
         style.m_dWidthFactor = record.xScale();
         style.m_dOblique = record.obliquingAngle();
@@ -97,25 +98,34 @@ private:
         const Adesk::Int32 nFlags = (bBold ? 1 << 25 : 0) | (bItalic ? 1 << 24 : 0) | (nCharset & 0xFF) << 8 |
                                     (nPitchAndFamily & 0xFF);
         const CDwgExtendedContext context{m_writing.m_text, m_writing.m_nCodePage, {}, {}};
-        return {{HardPointer(CDwgFixed::s_nAcadApp),
+        const AcDbObjectId idAcad = RecordNamed(m_writing.m_database.regAppTableId(), L"ACAD");
+        return {{HardPointer(m_writing.m_handles.Of(idAcad)),
                  PackExtendedData({{1000, strTypeface}, {1071, nFlags}}, context)}};
     }
 
-    void WriteRecord(const AcDbLinetypeTableRecord& record, std::uint64_t nHandle, std::uint64_t nTable) {
-        auto linetype = Begin<CDwgLinetypeRecord>(record, nTable);
+    void WriteRecord(const AcDbLinetypeTableRecord& record, std::uint64_t nHandle) {
+        auto linetype = Begin<CDwgLinetypeRecord>(record, nHandle, g_nDwgLinetype, DWG_FILED(FileLinetype));
         if (record.Dashes().size() > g_nMostDashes)
             RefuseDwgObject(nHandle, "it has too many dashes for a file.");
         linetype.m_strDescription = Text(record.Comments());
-        for (const double dDash : record.Dashes()) {
-            linetype.m_arDashes.push_back({dDash});
-            linetype.m_arStyles.push_back(HardPointer(0));
-            linetype.m_dLength += std::abs(dDash);
-        }
+        TakeDashes(linetype, record.Dashes());
         Append(g_nDwgLinetype, nHandle, linetype, DWG_FILED(FileLinetype));
     }
 
-    void WriteRecord(const AcDbRegAppTableRecord& record, std::uint64_t nHandle, std::uint64_t nTable) {
-        const auto app = Begin<CDwgAppRecord>(record, nTable);
+    /// Dashes that are as they were keep the shapes and texts that they carry.
+    static void TakeDashes(CDwgLinetypeRecord& linetype, const std::vector<double>& dashes) {
+        if (std::ranges::equal(linetype.m_arDashes, dashes, {}, &CDwgDash::m_dLength)) return;
+        linetype.m_dLength = 0.0;
+        linetype.m_arDashes.clear();
+        linetype.m_arStyles.assign(dashes.size(), HardPointer(0));
+        for (const double dDash : dashes) {
+            linetype.m_arDashes.push_back({dDash});
+            linetype.m_dLength += std::abs(dDash);
+        }
+    }
+
+    void WriteRecord(const AcDbRegAppTableRecord& record, std::uint64_t nHandle) {
+        const auto app = Begin<CDwgAppRecord>(record, nHandle, g_nDwgApp, DWG_FILED(FileApp));
         Append(g_nDwgApp, nHandle, app, DWG_FILED(FileApp));
     }
 
@@ -127,26 +137,6 @@ private:
         viewport.m_dHeight = view.m_dHeight;
         viewport.m_dWidth = view.m_dHeight * g_dViewRatio;
         Append(g_nDwgViewport, CDwgFixed::s_nViewport, viewport, DWG_FILED(FileViewport));
-    }
-
-    /// The dictionaries that every file has, among those of the drawing.
-    void WriteNamedObjects() {
-        const CDbOpen<AcDbDictionary> named(m_writing.m_database.namedObjectsDictionaryId());
-        CDwgDictionary dictionary;
-        dictionary.m_hOwner = SoftPointer(0);
-        const std::pair<const char*, std::uint64_t> standard[] = {
-            {"ACAD_GROUP", CDwgFixed::s_nGroups},
-            {"ACAD_LAYOUT", CDwgFixed::s_nLayouts},
-            {"ACAD_MLINESTYLE", CDwgFixed::s_nMlineStyles},
-            {"ACAD_PLOTSETTINGS", CDwgFixed::s_nPlotSettings},
-            {"ACAD_PLOTSTYLENAME", CDwgFixed::s_nPlotStyles}};
-        for (const auto& [pName, nHandle] : standard) {
-            dictionary.m_arNames.emplace_back(pName);
-            dictionary.m_arItems.push_back(SoftOwner(nHandle));
-        }
-        if (named->numEntries() != 0)
-            RefuseDwgObject(CDwgFixed::s_nNamedObjects, "objects in dictionaries have no place in a file.");
-        Append(g_nDwgDictionary, CDwgFixed::s_nNamedObjects, dictionary, DWG_FILED(FileDictionary));
     }
 
     const CDwgWriting& m_writing;

@@ -2,5 +2,5 @@
 
 #include "host/files/dwg_writing.h"
 
-/// Appends the drawing's tables and their records but for blocks, its viewport, and its dictionaries.
+/// Appends the drawing's tables and their records but for blocks, and the viewport of a new drawing.
 void WriteDwgTables(const CDwgWriting& writing, std::vector<CDwgRecord>& records);

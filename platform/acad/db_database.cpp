@@ -207,6 +207,10 @@ Acad::ErrorStatus AcDbDatabase::SetHandle(AcDbObjectId id, AcDbHandle handle) {
     return Acad::eOk;
 }
 
+void AcDbDatabase::SetOwner(AcDbObjectId id, AcDbObjectId idOwner) {
+    id.Stub()->m_pObject->m_idOwner = idOwner;
+}
+
 void AcDbDatabase::ReplaceObjects(const std::function<std::unique_ptr<AcDbObject>(AcDbObject&)>& replace) {
     for (const AcDbDatabase* const pDrawing : OpenDrawings()) {
         for (const auto& [handle, pStub] : pDrawing->m_mapStubs) {

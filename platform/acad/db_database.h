@@ -25,6 +25,15 @@ struct CDbView {
     double m_dHeight = 297.0;
 };
 
+/// What a drawing keeps of the file that it was read from beyond what it holds itself; the file's format knows.
+class CDbOrigin {
+public:
+    CDbOrigin() = default;
+    CDbOrigin(const CDbOrigin&) = delete;
+    CDbOrigin& operator=(const CDbOrigin&) = delete;
+    virtual ~CDbOrigin() = default;
+};
+
 /// A drawing: its objects by handle, its tables, its variables. Several may be open at once.
 class AcDbDatabase : public AcRxObject {
 public:
@@ -70,6 +79,9 @@ public:
     /// file does not hold it), eDuplicateKey (the drawing has it already).
     Acad::ErrorStatus loadLineTypeFile(const ACHAR* linetype, const ACHAR* fileName);
 
+    const CDbOrigin* Origin() const { return m_pOrigin.get(); } ///< null for a drawing made here
+    void SetOrigin(std::shared_ptr<const CDbOrigin> pOrigin) { m_pOrigin = std::move(pOrigin); }
+
     // Files, by way of the program's CDrawingFileHost: eNotApplicable where there is none. A name goes with
     // either slash and in any case. eInvalidInput for no name and for one that cannot be a path;
     // eFileAccessErr for a file that cannot be read or written; eFilerError for what it holds, or cannot
@@ -94,6 +106,9 @@ public:
     /// Gives an object of this drawing another handle, as a file has it, before anything refers to the former
     /// one. eInvalidInput for one that is taken, null or beyond 63 bits; eWrongDatabase.
     Acad::ErrorStatus SetHandle(AcDbObjectId id, AcDbHandle handle);
+
+    /// Gives an object of this drawing, or none (null), as the owner of another, as a file has it.
+    void SetOwner(AcDbObjectId id, AcDbObjectId idOwner);
 
     /// Gives a free object a handle and takes it over; it is open for writing afterwards.
     Acad::ErrorStatus AddObject(AcDbObjectId& id, AcDbObject* pObject, AcDbObjectId idOwner);
@@ -156,6 +171,7 @@ private:
     CDbView m_view;
     CUndoLog m_undoLog{*this};
     std::wstring m_strFilename;
+    std::shared_ptr<const CDbOrigin> m_pOrigin;
     std::vector<AcDbObjectId> m_arChanged;
     bool m_bModified = false;
 };

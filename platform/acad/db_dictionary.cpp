@@ -71,6 +71,13 @@ Acad::ErrorStatus AcDbDictionary::setAt(const ACHAR* name, AcDbObject* pObject, 
     return status;
 }
 
+Acad::ErrorStatus AcDbDictionary::Enter(const ACHAR* name, AcDbObjectId id) {
+    assertWriteEnabled();
+    if (!name || !*name) return Acad::eInvalidInput;
+    m_mapEntries[UpperName(name)] = {name, id};
+    return Acad::eOk;
+}
+
 Acad::ErrorStatus AcDbDictionary::remove(const ACHAR* name) {
     AcDbObjectId id;
     return remove(name, id);

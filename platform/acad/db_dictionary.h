@@ -31,6 +31,8 @@ public:
     /// eNoDatabase for a free dictionary, or why the former object cannot be erased; then the new one stays
     /// the caller's.
     Acad::ErrorStatus setAt(const ACHAR* name, AcDbObject* pObject, AcDbObjectId& id);
+    /// Enters an object of the drawing, whatever its owner, as a file has it. eInvalidInput for no name.
+    Acad::ErrorStatus Enter(const ACHAR* name, AcDbObjectId id);
     /// Takes an entry out. The object is not erased. eKeyNotFound.
     Acad::ErrorStatus remove(const ACHAR* name);
     Acad::ErrorStatus remove(const ACHAR* name, AcDbObjectId& id); ///< the same, with the object's id

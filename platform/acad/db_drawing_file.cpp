@@ -51,4 +51,5 @@ void AcDbDatabase::TakeContents(AcDbDatabase& other) {
     m_idNamedObjects = other.m_idNamedObjects;
     m_variables = other.m_variables;
     m_view = other.m_view;
+    m_pOrigin = other.m_pOrigin;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_database.h"
 #include "platform/acad/display_recorder.h"
+#include "platform/acad/rx_registry.h"
 #include "platform/windows/host_assert.h"
 
 #include <cwchar>
@@ -26,7 +27,7 @@ template <class Proxy>
 std::unique_ptr<AcDbObject> MakeProxy(const AcDbObject& object) {
     auto pProxy = std::make_unique<Proxy>();
     const AcRxClass& original = *object.isA();
-    pProxy->SetOrigin({original.name(), original.dxfName(), original.appName()});
+    pProxy->SetOrigin({original.name(), original.dxfName(), original.appName(), original.proxyFlags()});
     const bool bTaken = TakeOver(*pProxy, object);
     HOST_ASSERT(bTaken, "a proxy reads any record");
     return pProxy;
@@ -46,7 +47,19 @@ std::unique_ptr<AcDbObject> OriginalOf(const AcDbObject& proxy, const AcRxClass&
         proxy.isKindOf(AcDbEntity::desc()) ? AcDbEntity::desc() : AcDbObject::desc();
     if (!come.isDerivedFrom(pKind)) return nullptr;
     std::unique_ptr<AcDbObject> pObject(static_cast<AcDbObject*>(come.create()));
-    return pObject && TakeOver(*pObject, proxy) ? std::move(pObject) : nullptr;
+    const bool bOriginal = pObject && !dynamic_cast<const CProxy*>(pObject.get());
+    return bOriginal && TakeOver(*pObject, proxy) ? std::move(pObject) : nullptr;
+}
+
+template <class Proxy>
+std::optional<CDbRecord> ClassPartThrough(const AcDbObject& object) {
+    CRecordWriter writer(AcDb::kFileFiler);
+    if (object.dwgOut(&writer) != Acad::eOk || writer.filerStatus() != Acad::eOk) return std::nullopt;
+    const CDbRecord record = writer.Take();
+    CRecordReader reader(AcDb::kFileFiler, record);
+    Proxy proxy;
+    proxy.dwgIn(&reader);
+    return proxy.ClassPart();
 }
 
 } // namespace
@@ -68,4 +81,19 @@ void ReviveProxies(const AcRxClass& come) {
         if (!pProxy || std::wcscmp(pProxy->originalClassName(), come.name()) != 0) return nullptr;
         return OriginalOf(object, come);
     });
+}
+
+void ReviveProxies(AcDbDatabase& database) {
+    const auto* const pClasses = dynamic_cast<AcRxDictionary*>(acrxSysRegistry()->at(ACDB_CLASS_DICTIONARY));
+    AcDbDatabase::ReplaceObjects([&](AcDbObject& object) -> std::unique_ptr<AcDbObject> {
+        const auto* const pProxy = dynamic_cast<const CProxy*>(&object);
+        if (!pProxy || object.database() != &database) return nullptr;
+        const auto* const pClass = dynamic_cast<const AcRxClass*>(pClasses->at(pProxy->originalClassName()));
+        return pClass ? OriginalOf(object, *pClass) : nullptr;
+    });
+}
+
+std::optional<CDbRecord> ClassPartOf(const AcDbObject& object) {
+    return object.isKindOf(AcDbEntity::desc()) ? ClassPartThrough<AcDbProxyEntity>(object)
+                                               : ClassPartThrough<AcDbProxyObject>(object);
 }

@@ -6,12 +6,15 @@
 #include "platform/acad/memory_filer.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <type_traits>
 
-/// What a class is called in drawings and by its users.
+/// What a class is called in drawings and by its users, and what may be done with its objects where it is not
+/// known.
 struct CProxyOrigin {
     std::wstring m_strClassName, m_strDxfName, m_strAppName;
+    int m_nProxyFlags = 0;
 };
 
 /// What both kinds of proxy know of the class that their object has when its module is there.
@@ -21,10 +24,14 @@ public:
     const ACHAR* originalClassName() const { return m_origin.m_strClassName.c_str(); }
     const ACHAR* originalDxfName() const { return m_origin.m_strDxfName.c_str(); }
     const ACHAR* applicationDescription() const { return m_origin.m_strAppName.c_str(); }
+    const CProxyOrigin& Origin() const { return m_origin; }
     void SetOrigin(CProxyOrigin origin) { m_origin = std::move(origin); }
+    const CDbRecord& ClassPart() const { return m_classPart; } ///< what its class wrote
+    void SetClassPart(CDbRecord part) { m_classPart = std::move(part); }
 
 protected:
     CProxyOrigin m_origin;
+    CDbRecord m_classPart;
 };
 
 /// A proxy with the platform's part of the record read as such, so that layer, colour, reactors and extended
@@ -34,11 +41,11 @@ class CProxyOf : public Base, public CProxy {
 public:
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override {
         const Acad::ErrorStatus status = Base::dwgOutFields(pFiler);
-        return status == Acad::eOk ? pFiler->writeRest(m_rest) : status;
+        return status == Acad::eOk ? pFiler->writeRest(m_classPart) : status;
     }
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override {
         const Acad::ErrorStatus status = Base::dwgInFields(pFiler);
-        return status == Acad::eOk ? pFiler->readRest(&m_rest) : status;
+        return status == Acad::eOk ? pFiler->readRest(&m_classPart) : status;
     }
     std::unique_ptr<AcDbObject> NewOfSameClass() const override {
         auto pOther = std::make_unique<Self>();
@@ -47,9 +54,6 @@ public:
             pOther->SetPicture(Base::Picture()); // which no record holds
         return pOther;
     }
-
-private:
-    CDbRecord m_rest;
 };
 
 class AcDbProxyObject : public CProxyOf<AcDbProxyObject, AcDbObject> {
@@ -72,3 +76,9 @@ void MakeProxies(const AcRxClass& going);
 /// Puts objects of a class that has come for their proxies, in all open drawings. A proxy stays when its
 /// class does not read the whole record.
 void ReviveProxies(const AcRxClass& come);
+
+/// Puts objects for the proxies of one drawing whose classes are known by now; the same holds for these.
+void ReviveProxies(AcDbDatabase& database);
+
+/// What a class has written of an object, its own part of the record; nothing when it fails to.
+std::optional<CDbRecord> ClassPartOf(const AcDbObject& object);

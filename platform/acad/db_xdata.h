@@ -16,6 +16,7 @@ struct resbuf;
 struct CXDataItem {
     Adesk::Int16 m_nCode = 1000;
     std::variant<std::wstring, double, AcGePoint3d, Adesk::Int16, Adesk::Int32> m_value;
+    bool operator==(const CXDataItem&) const = default;
 };
 
 /// All that one application has on an object.

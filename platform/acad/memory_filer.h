@@ -2,25 +2,7 @@
 // Records kept in memory: for undo, for copies, and for what outlives its class.
 
 #include "platform/acad/db_filer.h"
-
-#include <cstddef>
-#include <vector>
-
-/// A reference as it stands in a record.
-struct CFiledId {
-    enum class CKind : unsigned char { HardPointer, SoftPointer, HardOwnership, SoftOwnership };
-    CKind m_kind;
-    AcDbObjectId m_id;
-    bool operator==(const CFiledId&) const = default;
-    bool IsOwnership() const { return m_kind == CKind::HardOwnership || m_kind == CKind::SoftOwnership; }
-};
-
-/// A record: its bytes, and beside them its references in the order in which they were written.
-struct CDbRecord {
-    std::vector<std::byte> m_arBytes;
-    std::vector<CFiledId> m_arIds;
-    bool operator==(const CDbRecord&) const = default;
-};
+#include "platform/acad/db_record.h"
 
 /// Writes a record.
 class CRecordWriter final : public AcDbDwgFiler {
@@ -36,12 +18,12 @@ public:
     void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
     void resetFilerStatus() override { m_status = Acad::eOk; }
 
-    Acad::ErrorStatus writeBoolean(Adesk::Boolean value) override { return Put(value); }
-    Acad::ErrorStatus writeInt8(Adesk::Int8 value) override { return Put(value); }
-    Acad::ErrorStatus writeInt16(Adesk::Int16 value) override { return Put(value); }
-    Acad::ErrorStatus writeUInt16(Adesk::UInt16 value) override { return Put(value); }
-    Acad::ErrorStatus writeInt32(Adesk::Int32 value) override { return Put(value); }
-    Acad::ErrorStatus writeDouble(double value) override { return Put(value); }
+    Acad::ErrorStatus writeBoolean(Adesk::Boolean value) override { return Put(CKind::Boolean, value); }
+    Acad::ErrorStatus writeInt8(Adesk::Int8 value) override { return Put(CKind::Int8, value); }
+    Acad::ErrorStatus writeInt16(Adesk::Int16 value) override { return Put(CKind::Int16, value); }
+    Acad::ErrorStatus writeUInt16(Adesk::UInt16 value) override { return Put(CKind::Int16, value); }
+    Acad::ErrorStatus writeInt32(Adesk::Int32 value) override { return Put(CKind::Int32, value); }
+    Acad::ErrorStatus writeDouble(double value) override { return Put(CKind::Double, value); }
     Acad::ErrorStatus writePoint2d(const AcGePoint2d& value) override;
     Acad::ErrorStatus writePoint3d(const AcGePoint3d& value) override;
     Acad::ErrorStatus writeVector3d(const AcGeVector3d& value) override;
@@ -81,10 +63,13 @@ public:
 private:
     static constexpr std::size_t g_nUsualBytes = 256; ///< most records are written without growing
 
+    using CKind = CFiledValue::CKind;
     template <class T>
-    Acad::ErrorStatus Put(const T& value) {
-        return writeBytes(&value, sizeof value);
+    Acad::ErrorStatus Put(CKind kind, const T& value) {
+        m_record.m_arValues.push_back({kind, sizeof value});
+        return Append(&value, sizeof value);
     }
+    Acad::ErrorStatus Append(const void* pBytes, Adesk::UInt32 length);
     template <class T>
     Acad::ErrorStatus Refuse(T* pValue) {
         *pValue = T();
@@ -97,39 +82,37 @@ private:
     CDbRecord m_record;
 };
 
-/// Reads a record, whatever it holds: what is not there, or makes no sense, sets the status. The record must
-/// outlive the reader.
+/// Reads a record, whatever it holds: what is not there, or makes no sense, sets the status. Behind its bytes
+/// come its foreign data. The record must outlive the reader.
 class CRecordReader final : public AcDbDwgFiler {
 public:
     CRecordReader(AcDb::FilerType type, const CDbRecord& record)
         : m_type(type)
         , m_record(record) {}
     /// Whether all was read, and nothing asked for that is not there.
-    bool IsAtEnd() const {
-        return m_status == Acad::eOk && Left() == 0 && m_nNextId == m_record.m_arIds.size();
-    }
+    bool IsAtEnd() const;
 
     AcDb::FilerType filerType() const override { return m_type; }
     Acad::ErrorStatus filerStatus() const override { return m_status; }
     void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
     void resetFilerStatus() override { m_status = Acad::eOk; }
 
-    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Get(pValue); }
-    Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Get(pValue); }
-    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override { return Get(pValue); }
-    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override { return Get(pValue); }
-    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override { return Get(pValue); }
-    Acad::ErrorStatus readDouble(double* pValue) override { return Get(pValue); }
+    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Get(pValue, &AcDbDwgFiler::readBoolean); }
+    Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt8); }
+    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt16); }
+    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override { return Get(pValue, &AcDbDwgFiler::readUInt16); }
+    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt32); }
+    Acad::ErrorStatus readDouble(double* pValue) override { return Get(pValue, &AcDbDwgFiler::readDouble); }
     Acad::ErrorStatus readPoint2d(AcGePoint2d* pValue) override;
     Acad::ErrorStatus readPoint3d(AcGePoint3d* pValue) override;
     Acad::ErrorStatus readVector3d(AcGeVector3d* pValue) override;
     Acad::ErrorStatus readString(ACHAR** pText) override;
     Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
     Acad::ErrorStatus readRest(CDbRecord* pRest) override;
-    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return GetId(pId); }
-    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return GetId(pId); }
-    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return GetId(pId); }
-    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return GetId(pId); }
+    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readHardPointerId); }
+    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readSoftPointerId); }
+    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readHardOwnershipId); }
+    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readSoftOwnershipId); }
 
     Acad::ErrorStatus writeBoolean(Adesk::Boolean) override { return Fail(); }
     Acad::ErrorStatus writeInt8(Adesk::Int8) override { return Fail(); }
@@ -151,17 +134,28 @@ public:
 private:
     std::size_t Left() const { return m_record.m_arBytes.size() - m_nAt; } ///< bytes not read yet
     Acad::ErrorStatus Fail() { return m_status = Acad::eFilerError; }
+    bool IsBeforeForeign() const;
+    std::unique_ptr<CForeignReader> NewForeign() const;
+    /// The filer of the foreign data once all before them was read; else null.
+    AcDbDwgFiler* Foreign();
     template <class T>
-    Acad::ErrorStatus Get(T* pValue) {
+    using CRead = Acad::ErrorStatus (AcDbDwgFiler::*)(T*);
+    template <class T>
+    Acad::ErrorStatus Get(T* pValue, CRead<T> read) {
+        if (AcDbDwgFiler* const pForeign = Foreign()) return m_status = (pForeign->*read)(pValue);
         *pValue = T();
-        return readBytes(pValue, sizeof *pValue);
+        return GetBytes(pValue, sizeof *pValue);
     }
-    Acad::ErrorStatus GetId(AcDbObjectId* pId);
+    Acad::ErrorStatus GetId(AcDbObjectId* pId, CRead<AcDbObjectId> read);
+    Acad::ErrorStatus GetBytes(void* pBytes, Adesk::UInt32 length);
+    std::vector<CFiledValue> ValuesLeft() const;
 
     AcDb::FilerType m_type;
     Acad::ErrorStatus m_status = Acad::eOk;
     const CDbRecord& m_record;
     std::size_t m_nAt = 0, m_nNextId = 0;
+    std::unique_ptr<CForeignReader> m_pForeign; ///< from the first value on that is read of them
+    bool m_bRestTaken = false;
 };
 
 /// The record that an object writes.

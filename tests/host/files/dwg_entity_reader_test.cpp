@@ -4,6 +4,7 @@
 #include "host/files/dwg_handle_map.h"
 #include "host/files/dwg_texts.h"
 #include "platform/acad/db_polyline.h"
+#include "platform/acad/db_proxy.h"
 #include "platform/acad/db_spline.h"
 #include "platform/acad/db_text.h"
 #include "tests/host/files/dwg_refusal.h"
@@ -30,9 +31,7 @@ public:
 
 private:
     AcDbDatabase m_database;
-    CDrawingText m_text{g_nChinesePage};
-    std::vector<CDwgClass> m_classes;
-    CDwgReading m_reading{m_database, m_text, g_nDwgAnsi936, {}, {}, m_classes};
+    CDwgReading m_reading{m_database, std::make_shared<const CDwgOrigin>(CDwgFile()), {}};
 };
 
 template <class Class>
@@ -115,9 +114,14 @@ TEST(ReadDwgEntity, ReadsEscapesInTexts) {
                  L"\u0159%%d");
 }
 
-TEST(ReadDwgEntity, MakesNothingOfAnotherTypeAndRefusesOtherData) {
+TEST(ReadDwgEntity, MakesAProxyOfAnotherTypeAndRefusesOtherData) {
     CEntityReading reading;
-    EXPECT_FALSE(reading.Read(0x12, CDwgLine(), DWG_FILED(FileLine)).m_pEntity);
+    CDwgEntityCommon common;
+    common.m_nColor = 3;
+    const auto circle = reading.Read(0x12, CDwgLine(), DWG_FILED(FileLine), common);
+    EXPECT_STREQ(As<AcDbProxyEntity>(circle).originalClassName(), L"AcDbCircle");
+    EXPECT_STREQ(As<AcDbProxyEntity>(circle).originalDxfName(), L"CIRCLE");
+    EXPECT_EQ(circle.m_pEntity->colorIndex(), 3);
     EXPECT_EQ(RefusalOf([&] { reading.Read(g_nDwgArc, CDwgLine(), DWG_FILED(FileLine)); }),
               "Object 60: its data are not those of its class.");
 }

@@ -16,23 +16,24 @@ namespace {
 /// A drawing whose entities are written one at a time.
 class CEntityWriting {
 public:
-    std::optional<CDwgRecord> Write(const AcDbEntity& entity, const CDwgSequence& attributes = {}) {
+    CDwgRecord Write(const AcDbEntity& entity, const CDwgSequence& attributes = {}) {
         return WriteDwgEntity(entity, {}, attributes,
-                              {m_database, m_text, g_nDwgAnsi936, m_handles, m_classes});
+                              {m_database, nullptr, m_text, g_nDwgAnsi936, m_handles, m_classes});
     }
     /// The own part of an entity of the type.
     template <class Part, class File>
     Part PartOf(const AcDbEntity& entity, std::uint16_t nType, File file,
                 const CDwgSequence& attributes = {}) {
-        const std::optional<CDwgRecord> record = Write(entity, attributes);
-        EXPECT_TRUE(record && record->m_nType == nType);
-        return Filed<Part>(*record, [file](auto& io, auto& value) {
+        const CDwgRecord record = Write(entity, attributes);
+        EXPECT_EQ(record.m_nType, nType);
+        return Filed<Part>(record, [file](auto& io, auto& value) {
             CDwgEntityCommon common;
             FileEntityCommon(io, common);
             file(io, value);
         });
     }
     AcDbDatabase& Database() { return m_database; }
+    const std::vector<CDwgClass>& Classes() const { return m_classes; }
 
 private:
     AcDbDatabase m_database;
@@ -151,7 +152,10 @@ TEST(WriteDwgEntity, WritesInsertionsWithWhereTheirAttributesAre) {
     EXPECT_EQ(part.m_hSequenceEnd, HardOwner(0x63));
 }
 
-TEST(WriteDwgEntity, HasNoRecordForAClassOfItsOwn) {
+TEST(WriteDwgEntity, WritesAProxyUnderTheClassThatItStandsFor) {
     CEntityWriting writing;
-    EXPECT_FALSE(writing.Write(AcDbProxyEntity()));
+    AcDbProxyEntity proxy;
+    proxy.SetOrigin({L"CMark", L"MARK", L"Marks", 7});
+    EXPECT_EQ(writing.Write(proxy).m_nType, g_nDwgFirstClass);
+    EXPECT_EQ(writing.Classes(), std::vector(1, CDwgClass{500, 7, "Marks", "CMark", "MARK", true, true}));
 }

@@ -1,6 +1,6 @@
 #include "host/files/dwg_in_filer.h"
 
-#include "host/files/dwg_out_filer.h"
+#include "host/files/dwg_value_writer.h"
 #include "platform/acad/db_arc.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/filed_text.h"
@@ -16,11 +16,11 @@ const CDrawingText g_text(g_nChinesePage);
 /// The record that an operation writes; objects stand under their own handles.
 template <class Write>
 CDwgRecord Written(Write write) {
-    CDwgRecordWriter io;
-    const CDwgOutFiler::CHandleOf handleOf = [](AcDbObjectId id) { return id.handle().Value(); };
-    CDwgOutFiler filer(io, g_text, handleOf);
+    CRecordWriter filer(AcDb::kFileFiler);
     write(filer);
     EXPECT_EQ(filer.filerStatus(), Acad::eOk);
+    CDwgRecordWriter io;
+    WriteDwgValues(io, filer.Take(), g_text, [](AcDbObjectId id) { return id.handle().Value(); });
     return io.TakeRecord(500, 0x60);
 }
 

@@ -8,25 +8,36 @@
 #include <gtest/gtest.h>
 
 namespace {
+
 const CDrawingText g_text(g_nChinesePage);
+
+/// A file with one object, whose content does not matter.
+std::shared_ptr<const CDwgOrigin> OriginWith(std::uint64_t nHandle) {
+    CDwgFile file;
+    CDwgRecord record;
+    record.m_nHandle = nHandle;
+    file.m_contents[nHandle] = WriteDwgRecord(record);
+    return std::make_shared<const CDwgOrigin>(file);
 }
 
-TEST(TakeDwgHandle, GivesTheHandleOfTheFileOrASpareOne) {
+} // namespace
+
+TEST(IdentifyDwg, GivesAnObjectTheHandleOfTheFileAndOnlyTheFirst) {
     AcDbDatabase database;
-    const std::vector<CDwgClass> classes;
-    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}, classes, 0x200};
-    TakeDwgHandle(reading, 0x100);
-    EXPECT_EQ(AppendTo(database.ModelSpaceId(), new AcDbLine).handle(), AcDbHandle(0x100));
-    TakeDwgHandle(reading, 0x100);
-    EXPECT_EQ(AppendTo(database.ModelSpaceId(), new AcDbLine).handle(), AcDbHandle(0x200));
-    TakeDwgHandle(reading, 1); // a table's
-    EXPECT_EQ(AppendTo(database.ModelSpaceId(), new AcDbLine).handle(), AcDbHandle(0x201));
+    CDwgReading reading{database, OriginWith(0x100), {}};
+    const AcDbObjectId id = AppendTo(database.ModelSpaceId(), new AcDbLine);
+    IdentifyDwg(reading, id, 0x100);
+    EXPECT_EQ(id.handle(), AcDbHandle(0x100));
+    IdentifyDwg(reading, id, 0x101);
+    EXPECT_EQ(id.handle(), AcDbHandle(0x100));
+    EXPECT_EQ(reading.IdOf(0x100), id);
+    EXPECT_EQ(reading.IdOf(HardPointer(0x101)), id);
+    EXPECT_TRUE(reading.IdOf(0x102).isNull());
 }
 
 TEST(ReadDwgExtendedData, GivesAnObjectWhatKnownApplicationsHungOnIt) {
     AcDbDatabase database;
-    const std::vector<CDwgClass> classes;
-    CDwgReading reading{database, g_text, g_nDwgAnsi936, {}, {}, classes};
+    CDwgReading reading{database, std::make_shared<const CDwgOrigin>(CDwgFile()), {}};
     reading.m_ids[0x12] = RecordNamed(database.regAppTableId(), L"ACAD");
     reading.m_ids[0x10] = database.clayer();
     CDwgRecord record;

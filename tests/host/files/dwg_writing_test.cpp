@@ -16,7 +16,7 @@ TEST(DwgReactorsOf, LeavesOutThoseThatAreNotInTheFile) {
     const CDrawingText text(g_nChinesePage);
     CDwgHandleMap handles(database);
     std::vector<CDwgClass> classes;
-    EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, text, g_nDwgAnsi936, handles, classes}),
+    EXPECT_EQ(DwgReactorsOf(*line.Get(), {database, nullptr, text, g_nDwgAnsi936, handles, classes}),
               std::vector(1, SoftPointer(handles.Of(idTold))));
 }
 
@@ -28,7 +28,7 @@ TEST(DwgExtendedDataOf, PacksEachApplicationsValuesUnderItsHandle) {
     const CDrawingText text(g_nChinesePage);
     CDwgHandleMap handles(database);
     std::vector<CDwgClass> classes;
-    const auto extended = DwgExtendedDataOf(line, {database, text, g_nDwgAnsi936, handles, classes});
+    const auto extended = DwgExtendedDataOf(line, {database, nullptr, text, g_nDwgAnsi936, handles, classes});
     ASSERT_EQ(extended.size(), 1u);
     EXPECT_EQ(extended[0].m_hApp, HardPointer(handles.Of(idApp)));
     EXPECT_EQ(extended[0].m_arBytes.back(), CDwgFixed::s_nLayer0);

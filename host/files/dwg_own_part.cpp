@@ -1,0 +1,42 @@
+#include "host/files/dwg_own_part.h"
+
+#include "host/files/dwg_in_filer.h"
+
+namespace {
+
+class CDwgOwnPartReader final : public CForeignReader {
+public:
+    CDwgOwnPartReader(const CDwgOwnPart& part, std::span<const CFiledId> ids)
+        : m_ids(ids)
+        , m_record(RecordOf(part))
+        , m_io(m_record)
+        , m_filer(m_io, part.m_pOrigin->m_text, m_idOf) {
+        const bool bOfClass = part.m_nType >= g_nDwgFirstClass;
+        if (!bOfClass || ids.size() < part.m_arHandles.size()) m_io.Fail();
+    }
+    AcDbDwgFiler& Filer() override { return m_filer; }
+    bool IsAtEnd() const override { return m_io.IsAtEnd(); }
+
+private:
+    /// The references of the record stand for the places of the ids.
+    static CDwgRecord RecordOf(const CDwgOwnPart& part) {
+        CDwgRecord record;
+        record.m_data = part.m_data;
+        const std::size_t nFirst = part.m_bNeighbours ? CDwgOwnPart::s_nNeighbours : 0;
+        for (std::size_t i = nFirst; i < part.m_arHandles.size(); ++i)
+            record.m_arHandles.push_back(SoftPointer(i));
+        return record;
+    }
+
+    std::span<const CFiledId> m_ids;
+    CDwgRecord m_record;
+    CDwgRecordReader m_io;
+    CDwgInFiler::CIdOf m_idOf = [this](const CDwgHandle& handle) { return m_ids[handle.m_nValue].m_id; };
+    CDwgInFiler m_filer;
+};
+
+} // namespace
+
+std::unique_ptr<CForeignReader> CDwgOwnPart::Reader(std::span<const CFiledId> ids) const {
+    return std::make_unique<CDwgOwnPartReader>(*this, ids);
+}
