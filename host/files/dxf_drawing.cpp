@@ -4,22 +4,9 @@
 #include "platform/acad/result_buffer.h"
 #include "platform/acad/wide_names.h"
 
-#include <charconv>
 #include <memory>
 
 namespace {
-
-constexpr int g_nHandle = 5;
-
-/// The handle that the record has; null for none.
-AcDbHandle HandleOf(const CDxfRecord& record) {
-    const CDxfTag* const pTag = record.Find(g_nHandle);
-    const std::string_view text = pTag ? pTag->Text() : std::string_view();
-    Adesk::UInt64 value = 0;
-    std::from_chars(text.data() + std::min(text.find_first_not_of(' '), text.size()),
-                    text.data() + text.size(), value, 16);
-    return AcDbHandle(value);
-}
 
 /// The record of a table with that name, made if need be; null for no name.
 template <class Record>
@@ -73,11 +60,23 @@ const CProxyOrigin* CDxfDrawing::Class(std::int64_t nNumber) const {
 }
 
 void CDxfDrawing::Identify(AcDbObjectId id, const CDxfRecord& record) {
-    TakeHandle(id, HandleOf(record));
+    TakeHandle(id, record.Handle());
+    LoseGroups(record);
     if (record.m_arXData.empty()) return;
     const CResbufChain chain(ReadDxfXData(record, *this));
     const CDbOpen<AcDbObject> object(id, AcDb::kForWrite);
     if (chain && object->setXData(chain.Get()) != Acad::eOk) Lose("extended data");
+}
+
+void CDxfDrawing::LoseGroups(const CDxfRecord& record) {
+    for (const std::string_view name : record.m_arGroups) {
+        if (name == "{ACAD_REACTORS")
+            Lose("reactors");
+        else if (name == "{ACAD_XDICTIONARY")
+            Lose("extension dictionary");
+        else if (name != "{BLKREFS")
+            Lose("application data"); // references are found again
+    }
 }
 
 // An object that is not of the file makes way. Of two that have the same handle the later one gets its own.

@@ -28,7 +28,8 @@ public:
     void AddClass(CProxyOrigin entry) { m_arClasses.push_back(std::move(entry)); }
     const CProxyOrigin* Class(std::int64_t nNumber) const; ///< null for none
 
-    /// Gives an object the handle of its record and its extended data.
+    /// Gives an object the handle of its record and its extended data; what applications have put into the
+    /// record besides is counted as lost.
     void Identify(AcDbObjectId id, const CDxfRecord& record);
 
     void Lose(const std::string& strKind) { ++m_mapLost[strKind]; }
@@ -37,6 +38,7 @@ public:
 
 private:
     void TakeHandle(AcDbObjectId id, AcDbHandle handle);
+    void LoseGroups(const CDxfRecord& record);
 
     AcDbDatabase& m_database;
     std::unordered_set<Adesk::UInt64> m_setTaken; ///< handles that the file gave

@@ -3,16 +3,10 @@
 #include "host/files/dxf_block_check.h"
 #include "host/files/dxf_header.h"
 #include "host/files/dxf_read_entities.h"
+#include "host/files/dxf_read_objects.h"
 #include "host/files/dxf_read_tables.h"
 
-#include <algorithm>
-#include <array>
-
 namespace {
-
-/// Objects that every drawing has and that are written anew.
-constexpr std::array<std::string_view, 5> g_arUsualObjects = {"DICTIONARY", "ACDBDICTIONARYWDFLT",
-                                                              "ACDBPLACEHOLDER", "LAYOUT", "MLINESTYLE"};
 
 /// A file on its way into a drawing, section by section.
 class CDxfReading {
@@ -20,7 +14,8 @@ public:
     CDxfReading(CDxfReader& reader, AcDbDatabase& database)
         : m_records(reader)
         , m_drawing(database)
-        , m_entities(m_drawing) {}
+        , m_entities(m_drawing)
+        , m_objects(m_drawing) {}
 
     CDxfLosses Read() {
         while (Next()) {
@@ -48,7 +43,7 @@ private:
             if (strName == L"TABLES") ReadDxfTableRecord(m_record, m_drawing);
             if (strName == L"BLOCKS") ReadBlocks();
             if (strName == L"ENTITIES") m_entities.Add(m_record, Space());
-            if (strName == L"OBJECTS") ReadObject();
+            if (strName == L"OBJECTS") m_objects.Add(m_record);
         }
         m_records.Fail(section, "a section that does not end");
     }
@@ -83,23 +78,13 @@ private:
         block->setOrigin(m_record.Point(10));
     }
 
-    void ReadObject() {
-        if (m_record.m_type == "DICTIONARY" && !m_bRootRead) {
-            m_bRootRead = true; // the first dictionary is the one of named objects
-            m_drawing.Identify(m_drawing.Database().namedObjectsDictionaryId(), m_record);
-        }
-        if (std::find(g_arUsualObjects.begin(), g_arUsualObjects.end(), m_record.m_type) ==
-            g_arUsualObjects.end())
-            m_drawing.Lose(m_record);
-    }
-
     CDxfRecords m_records;
     CDxfDrawing m_drawing;
     CDxfEntities m_entities;
+    CDxfObjects m_objects;
     CDxfHeader m_header;
     CDxfRecord m_record;
     AcDbObjectId m_idBlock; ///< the one under way
-    bool m_bRootRead = false;
 };
 
 } // namespace

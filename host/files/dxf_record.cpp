@@ -31,10 +31,24 @@ bool AppendBytes(const CDxfTag& tag, CBytes& bytes) {
 
 } // namespace
 
+AcDbHandle DxfHandle(const CDxfTag& tag) {
+    const std::string_view text = tag.Text();
+    Adesk::UInt64 value = 0;
+    std::from_chars(text.data() + std::min(text.find_first_not_of(' '), text.size()),
+                    text.data() + text.size(), value, 16);
+    return AcDbHandle(value);
+}
+
 const CDxfTag* CDxfRecord::Find(int nCode) const {
     const auto found = std::find_if(m_arTags.begin(), m_arTags.end(),
                                     [=](const CDxfTag& tag) { return tag.m_nCode == nCode; });
     return found == m_arTags.end() ? nullptr : &*found;
+}
+
+AcDbHandle CDxfRecord::Handle() const {
+    constexpr int nHandle = 5;
+    const CDxfTag* const pTag = Find(nHandle);
+    return pTag ? DxfHandle(*pTag) : AcDbHandle();
 }
 
 std::wstring CDxfRecord::Text(int nCode, const std::wstring& strElse) const {
@@ -86,11 +100,11 @@ CDxfRecords::CDxfRecords(CDxfReader& reader)
 
 bool CDxfRecords::Next(CDxfRecord* pRecord) {
     if (!m_bTag) return false;
-    *pRecord = {m_tag.Text(), m_tag.m_nPlace, {}, {}, &m_encoding};
+    *pRecord = {m_tag.Text(), m_tag.m_nPlace, {}, {}, {}, &m_encoding};
     bool bEmbedded = false;
     while ((m_bTag = m_reader.Next(&m_tag)) && m_tag.m_nCode != g_nType) {
         if (m_tag.m_nCode == g_nApplicationGroup)
-            SkipApplicationGroup();
+            SkipApplicationGroup(*pRecord);
         else if (m_tag.m_nCode >= g_nFirstXData)
             pRecord->m_arXData.push_back(m_tag);
         else if (bEmbedded = bEmbedded || m_tag.m_nCode == g_nEmbeddedObject; !bEmbedded)
@@ -99,8 +113,9 @@ bool CDxfRecords::Next(CDxfRecord* pRecord) {
     return true;
 }
 
-void CDxfRecords::SkipApplicationGroup() {
+void CDxfRecords::SkipApplicationGroup(CDxfRecord& record) {
     if (m_tag.Text().starts_with('}')) return;
+    record.m_arGroups.push_back(m_tag.Text());
     const std::size_t nPlace = m_tag.m_nPlace;
     while (m_reader.Next(&m_tag) && m_tag.m_nCode != g_nType)
         if (m_tag.m_nCode == g_nApplicationGroup && m_tag.Text().starts_with('}')) return;

@@ -3,21 +3,27 @@
 #include "host/files/bytes.h"
 #include "host/files/drawing_text.h"
 #include "host/files/dxf_reader.h"
+#include "platform/acad/db_object_id.h"
 #include "platform/acad/geometry.h"
 
 #include <vector>
 
-/// A record of a DXF file: group 0 with its type, and the groups up to the next one. Groups of applications
-/// and embedded objects are left out.
+/// The handle that a tag is; null for none.
+AcDbHandle DxfHandle(const CDxfTag& tag);
+
+/// A record of a DXF file: group 0 with its type, and the groups up to the next one. What stands in groups of
+/// applications and embedded objects is left out.
 struct CDxfRecord {
     std::string_view m_type;
     std::size_t m_nPlace = 0;
     std::vector<CDxfTag> m_arTags;
-    std::vector<CDxfTag> m_arXData; ///< from the first group 1001 on
+    std::vector<CDxfTag> m_arXData;           ///< from the first group 1001 on
+    std::vector<std::string_view> m_arGroups; ///< of applications: their names, with the brace
     const CDrawingText* m_pEncoding = nullptr;
 
     // The first value under a code, or what stands for it where there is none.
     const CDxfTag* Find(int nCode) const; ///< null for none
+    AcDbHandle Handle() const;            ///< the record's own; null for none
     std::wstring Text(int nCode, const std::wstring& strElse = {}) const;
     double Real(int nCode, double dElse = 0.0) const;
     std::int64_t Whole(int nCode, std::int64_t nElse = 0) const;
@@ -48,7 +54,7 @@ public:
     }
 
 private:
-    void SkipApplicationGroup();
+    void SkipApplicationGroup(CDxfRecord& record);
 
     CDxfReader& m_reader;
     CDrawingText m_encoding{g_nUtf8Page, CDrawingText::CCarets::Escapes};

@@ -29,6 +29,7 @@ void WriteProperties(CDxfOutput& out, std::string_view type, const AcDbEntity& e
     if (place.m_bOnPaper) out.Whole(67, 1);
     out.Text(8, DxfName(entity.layerId().isNull() ? out.Database().clayer() : entity.layerId()));
     if (!entity.linetypeId().isNull()) out.Text(6, DxfName(entity.linetypeId()));
+    if (!entity.PersistentReactors().empty()) out.Lose("reactors");
     if (entity.colorIndex() != g_nColorByLayer) out.Whole(62, entity.colorIndex());
 }
 
