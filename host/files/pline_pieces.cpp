@@ -189,6 +189,7 @@ std::vector<CBandOutline> WideBandsOf(const std::vector<CPlinePiece>& arPieces) 
             Append(arBands, piece.m_arc ? ArcStations(piece, *piece.m_arc) : StraightStations(piece));
     Close(arBands);
     std::vector<CBandOutline> outlines;
+    outlines.reserve(arBands.size());
     for (const CStations& stations : arBands)
         outlines.push_back(OutlineOf(stations));
     return outlines;

@@ -135,7 +135,7 @@ private:
         circle.m_vecNormal = data.Vector();
         circle.m_vecStart = Across(circle.m_vecNormal);
         circle.m_dSweep = g_dFullTurn;
-        Add(std::move(circle), data);
+        Add(circle, data);
     }
 
     void TakeArc(CProxyChunkReader& data) {
