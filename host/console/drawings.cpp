@@ -36,8 +36,8 @@ std::string CDrawings::FolderGbk() const {
 void CDrawings::Add(std::unique_ptr<AcDbDatabase> pDatabase, CFileNotes notes) {
     pDatabase->SetModified(false);
     const std::wstring strTitle = L"Drawing" + std::to_wstring(++m_nMade);
-    m_arDrawings.push_back(
-        {std::make_unique<AcApDocument>(std::move(pDatabase), strTitle), std::move(notes), 0});
+    auto pDocument = std::make_unique<AcApDocument>(std::move(pDatabase), strTitle);
+    m_arDrawings.push_back({std::move(pDocument), std::move(notes), 0});
     MakeCurrent(*m_arDrawings.back().m_pDocument);
     acrxDynamicLinker()->SendToAll(AcRx::kLoadDwgMsg);
 }

@@ -32,13 +32,14 @@ bool BeginsLikeDxf(std::string_view bytes) {
 
 CReadDrawing ReadDwg(std::string_view bytes) {
     const auto* const pBytes = reinterpret_cast<const std::uint8_t*>(bytes.data());
-    return {DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()})), CDrawingFormat::Dwg, {}};
+    std::unique_ptr<AcDbDatabase> pDatabase = DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()}));
+    return {std::move(pDatabase), CDrawingFormat::Dwg, {}};
 }
 
 CReadDrawing ReadDxfDrawing(std::string_view bytes) {
-    CReadDrawing read{std::make_unique<AcDbDatabase>(), CDrawingFormat::Dxf, {}};
-    read.m_losses = ReadDxf(bytes, *read.m_pDatabase);
-    return read;
+    auto pDatabase = std::make_unique<AcDbDatabase>();
+    CDrawingLosses losses = ReadDxf(bytes, *pDatabase);
+    return {std::move(pDatabase), CDrawingFormat::Dxf, std::move(losses)};
 }
 
 CReadDrawing ReadEither(std::string_view bytes) {
