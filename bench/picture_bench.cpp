@@ -5,7 +5,6 @@
 #include "bench/plain_painter.h"
 #include "bench/sample_chart.h"
 #include "commands/sheet_layout.h"
-#include "drawing/model_space.h"
 #include "host/console/redraw.h"
 #include "host/plot/headless.h"
 #include "tests/support/drawing.h"
@@ -23,8 +22,7 @@ class CChartRow {
 public:
     explicit CChartRow(int nCharts) {
         SetTextMetrics(&m_fonts);
-        for (int i = 0; i < nCharts; i++)
-            Add(i * g_dSheetStep);
+        m_ids = AddSampleSheets(nCharts);
         DrawAll(Drawing());
     }
     CChartRow(const CChartRow&) = delete;
@@ -53,14 +51,6 @@ public:
     }
 
 private:
-    void Add(double x) {
-        auto* const pChart = new CBRENChart;
-        FillSampleChart(*pChart);
-        pChart->m_ptBase = FirstChartPoint({x, g_dSheetHeight, 0.0}, 0);
-        pChart->m_dTextHeight = g_dChartText;
-        pChart->ArrangePanels(); // which stores nothing: no project is open
-        AddToModelSpace(pChart, m_ids.emplace_back());
-    }
     static const CDisplayList& PictureOf(AcDbObjectId id) { return *CDbOpen<AcDbEntity>(id)->Picture(); }
 
     CTestDrawing m_drawing;

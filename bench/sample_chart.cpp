@@ -1,5 +1,7 @@
 #include "bench/sample_chart.h"
 
+#include "commands/sheet_layout.h"
+#include "drawing/model_space.h"
 #include "tests/support/readings.h"
 
 void FillSampleChart(CBRENChart& chart) {
@@ -15,4 +17,17 @@ void FillSampleChart(CBRENChart& chart) {
     reduction.Finish();
     for (int i = 0; i < 8; i++)
         chart.m_saCells.Add("23.5");
+}
+
+std::vector<AcDbObjectId> AddSampleSheets(int nCharts) {
+    std::vector<AcDbObjectId> ids;
+    for (int i = 0; i < nCharts; i++) {
+        auto* const pChart = new CBRENChart;
+        FillSampleChart(*pChart);
+        pChart->m_ptBase = FirstChartPoint({i * g_dSheetStep, g_dSheetHeight, 0.0}, 0);
+        pChart->m_dTextHeight = g_dChartText;
+        pChart->ArrangePanels(); // which stores nothing: no project is open
+        AddToModelSpace(pChart, ids.emplace_back());
+    }
+    return ids;
 }

@@ -1,5 +1,6 @@
 #include "host/files/bit_reader.h"
 
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -45,15 +46,26 @@ void CBitReader::RC(std::uint8_t& n) {
     m_nAt += 8;
 }
 
+void CBitReader::Copy(std::uint8_t* pTo, std::size_t nCount) {
+    const std::uint8_t* const pFrom = m_bytes.data() + m_nAt / 8;
+    const std::size_t nShift = m_nAt % 8;
+    m_nAt += nCount * 8;
+    if (nShift == 0) {
+        if (nCount) std::memcpy(pTo, pFrom, nCount);
+        return;
+    }
+    for (std::size_t i = 0; i < nCount; ++i)
+        pTo[i] = static_cast<std::uint8_t>(pFrom[i] << nShift | pFrom[i + 1] >> (8 - nShift));
+}
+
 template <class Value>
 void CBitReader::LittleEndian(Value& value, unsigned nBytes) {
     value = 0;
     if (!Has(std::size_t{nBytes} * 8)) return;
-    for (unsigned i = 0; i < nBytes; ++i) {
-        std::uint8_t byte = 0;
-        RC(byte);
-        value = static_cast<Value>(value | static_cast<Value>(byte) << 8 * i);
-    }
+    std::array<std::uint8_t, sizeof(Value)> bytes{};
+    Copy(bytes.data(), nBytes);
+    for (unsigned i = 0; i < nBytes; ++i)
+        value = static_cast<Value>(value | static_cast<Value>(bytes[i]) << 8 * i);
 }
 
 void CBitReader::RS(std::uint16_t& n) {
@@ -233,13 +245,7 @@ void CBitReader::Raw(CBytes& bytes, std::size_t nCount) {
     bytes.clear();
     if (nCount > Left() / 8) return Fail();
     bytes.resize(nCount);
-    if (m_nAt % 8 == 0) {
-        if (nCount) std::memcpy(bytes.data(), m_bytes.data() + m_nAt / 8, nCount);
-        m_nAt += nCount * 8;
-        return;
-    }
-    for (std::uint8_t& byte : bytes)
-        RC(byte);
+    Copy(bytes.data(), nCount);
 }
 
 void CBitReader::RawBits(CBytes& bytes, std::size_t nBits) {

@@ -91,6 +91,7 @@ public:
 private:
     bool Has(std::size_t nBits); ///< else fails
     std::uint8_t Bits(unsigned nCount);
+    void Copy(std::uint8_t* pTo, std::size_t nCount); ///< bytes that are there, aligned or not
     template <class Value>
     void LittleEndian(Value& value, unsigned nBytes);
 

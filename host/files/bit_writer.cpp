@@ -1,5 +1,6 @@
 #include "host/files/bit_writer.h"
 
+#include <array>
 #include <bit>
 
 bool CBitWriter::IsSame(double a, double b) {
@@ -21,8 +22,10 @@ void CBitWriter::RC(std::uint8_t n) {
 }
 
 void CBitWriter::LittleEndian(std::uint64_t nValue, unsigned nBytes) {
+    std::array<std::uint8_t, sizeof nValue> bytes{};
     for (unsigned i = 0; i < nBytes; ++i)
-        RC(static_cast<std::uint8_t>(nValue >> 8 * i));
+        bytes[i] = static_cast<std::uint8_t>(nValue >> 8 * i);
+    Raw(bytes, nBytes);
 }
 
 void CBitWriter::RD(double d) {
@@ -75,8 +78,7 @@ void CBitWriter::T(std::string_view text) {
         text = {};
     }
     BS(static_cast<std::uint16_t>(text.size()));
-    for (const char c : text)
-        RC(static_cast<std::uint8_t>(c));
+    Raw({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}, text.size());
 }
 
 void CBitWriter::MC(std::uint64_t n) {
@@ -101,13 +103,23 @@ void CBitWriter::MS(std::uint32_t n) {
 }
 
 void CBitWriter::Raw(CByteView bytes, std::size_t nCount) {
-    if (m_nBits % 8 == 0) {
-        m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(nCount));
-        m_nBits += nCount * 8;
-        return;
+    const std::size_t nShift = m_nBits % 8, nOld = m_bytes.size();
+    m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(nCount));
+    m_nBits += nCount * 8;
+    if (nShift == 0) return;
+    std::uint8_t* const pTo = m_bytes.data() + nOld - 1; // the byte that is begun
+    for (std::size_t i = 0; i < nCount; ++i) {
+        pTo[i] |= static_cast<std::uint8_t>(bytes[i] >> nShift);
+        pTo[i + 1] = static_cast<std::uint8_t>(bytes[i] << (8 - nShift));
     }
-    for (const std::uint8_t byte : bytes.first(nCount))
-        RC(byte);
+}
+
+void CBitWriter::OverwriteRL(std::size_t nAt, std::uint32_t n) {
+    for (unsigned i = 0; i < 32; ++i, ++nAt) {
+        const unsigned nMask = 0x80u >> nAt % 8, nBit = i / 8 * 8 + 7 - i % 8;
+        std::uint8_t& byte = m_bytes[nAt / 8];
+        byte = static_cast<std::uint8_t>(n >> nBit & 1 ? byte | nMask : byte & ~nMask);
+    }
 }
 
 void CBitWriter::RawBits(CByteView bytes, std::size_t nBits) {

@@ -77,6 +77,8 @@ public:
     /// The first so many bits of those given.
     void RawBits(CByteView bytes, std::size_t nBits);
     void FillByte(); ///< with zero bits up to a whole byte
+    /// Puts a number in place of what RL wrote at bit nAt.
+    void OverwriteRL(std::size_t nAt, std::uint32_t n);
 
 private:
     static bool IsSame(double a, double b); ///< to the bit

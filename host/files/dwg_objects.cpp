@@ -58,13 +58,15 @@ CDwgContents ReadDwgContents(CByteView file, const CDwgObjectMap& map) {
 CDwgObjectMap AppendDwgContents(const CDwgContents& contents, CBytes& file) {
     CDwgObjectMap map;
     for (const auto& [nHandle, content] : contents) {
-        CBitWriter bits;
-        bits.MS(static_cast<std::uint32_t>(content.size()));
-        bits.Raw(content, content.size());
-        bits.RS(DwgCrc(bits.Bytes()));
-        if (bits.Failed()) RefuseDwgObject(nHandle, "it is too large.");
-        map.emplace_hint(map.end(), nHandle, static_cast<std::uint32_t>(file.size()));
-        file.insert(file.end(), bits.Bytes().begin(), bits.Bytes().end());
+        const std::size_t nAddress = file.size();
+        CBitWriter size, sum;
+        size.MS(static_cast<std::uint32_t>(content.size()));
+        if (size.Failed()) RefuseDwgObject(nHandle, "it is too large.");
+        file.insert(file.end(), size.Bytes().begin(), size.Bytes().end());
+        file.insert(file.end(), content.begin(), content.end());
+        sum.RS(DwgCrc(CByteView(file).subspan(nAddress)));
+        file.insert(file.end(), sum.Bytes().begin(), sum.Bytes().end());
+        map.emplace_hint(map.end(), nHandle, static_cast<std::uint32_t>(nAddress));
     }
     return map;
 }

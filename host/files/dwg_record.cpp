@@ -23,12 +23,7 @@ std::vector<CDwgExtendedData> ReadExtended(CBitReader& bits) {
     }
 }
 
-/// All up to the references.
-CBitWriter WriteFront(const CDwgRecord& record, std::uint32_t nFrontBits) {
-    CBitWriter bits;
-    bits.BS(record.m_nType);
-    bits.RL(nFrontBits);
-    bits.H({CDwgHandle::s_nOwn, record.m_nHandle});
+void WriteExtended(CBitWriter& bits, const CDwgRecord& record) {
     for (const CDwgExtendedData& data : record.m_arExtended) {
         if (data.m_arBytes.size() > std::numeric_limits<std::uint16_t>::max())
             RefuseDwgObject(record.m_nHandle, "its extended data are too large for a file.");
@@ -37,8 +32,6 @@ CBitWriter WriteFront(const CDwgRecord& record, std::uint32_t nFrontBits) {
         bits.Raw(data.m_arBytes, data.m_arBytes.size());
     }
     bits.BS(std::uint16_t{0});
-    bits.RawBits(record.m_data.m_arBytes, record.m_data.m_nCount);
-    return bits;
 }
 
 } // namespace
@@ -73,10 +66,16 @@ CDwgRecord ReadDwgRecord(CByteView content, std::uint64_t nHandle) {
 }
 
 CBytes WriteDwgRecord(const CDwgRecord& record) {
-    const std::size_t nFrontBits = WriteFront(record, 0).At();
-    if (nFrontBits > std::numeric_limits<std::uint32_t>::max())
+    CBitWriter bits;
+    bits.BS(record.m_nType);
+    const std::size_t nSizeAt = bits.At();
+    bits.RL(0u); // bits up to the references
+    bits.H({CDwgHandle::s_nOwn, record.m_nHandle});
+    WriteExtended(bits, record);
+    bits.RawBits(record.m_data.m_arBytes, record.m_data.m_nCount);
+    if (bits.At() > std::numeric_limits<std::uint32_t>::max())
         RefuseDwgObject(record.m_nHandle, "it is too large for a file.");
-    CBitWriter bits = WriteFront(record, static_cast<std::uint32_t>(nFrontBits));
+    bits.OverwriteRL(nSizeAt, static_cast<std::uint32_t>(bits.At()));
     for (const CDwgHandle& handle : record.m_arHandles)
         bits.H(handle);
     return bits.Take();

@@ -203,3 +203,24 @@ TEST(BitWriter, TakesBytesAndBitsOfAnotherStreamAsTheyAre) {
     writer.Raw(bytes, 2);
     EXPECT_EQ(writer.Bytes(), (CBytes{0x55, 0xE6, 0xF0, 0xAB, 0xCD}));
 }
+
+TEST(BitWriter, OverwritesANumberWhereverItStands) {
+    for (unsigned nShift = 0; nShift < 8; ++nShift) {
+        CBitWriter writer, expected;
+        for (CBitWriter* const pWriter : {&writer, &expected}) {
+            for (unsigned i = 0; i < nShift; ++i)
+                pWriter->B(i % 2 == 0);
+            pWriter->RL(pWriter == &writer ? 0xFFFF00FFu : 0x12345678u);
+            pWriter->Raw(CBytes{0xA5, 0x5A, 0xFF}, 3);
+        }
+        writer.OverwriteRL(nShift, 0x12345678u);
+        EXPECT_EQ(writer.Bytes(), expected.Bytes()) << nShift;
+        CBitReader reader(writer.Bytes(), nShift, writer.At());
+        std::uint32_t nValue = 0;
+        CBytes raw;
+        reader.RL(nValue);
+        reader.Raw(raw, 3);
+        EXPECT_EQ(nValue, 0x12345678u);
+        EXPECT_EQ(raw, (CBytes{0xA5, 0x5A, 0xFF})) << nShift;
+    }
+}
