@@ -120,7 +120,7 @@ void SaveDxfByEzdxf(benchmark::State& state) {
     CSavedDrawing drawing(g_nSheets);
     drawing.Explode();
     StoreDrawing(drawing.Path(), drawing.Write(CDrawingFormat::Dxf));
-    const std::string strCommand = "python3 " BENCH_FOLDER "/ezdxf_save.py '" + drawing.Path() + "'";
+    const std::string strCommand = "/usr/bin/python3 " BENCH_FOLDER "/ezdxf_save.py '" + drawing.Path() + "'";
     double dSaving = 0.0;
     while (state.KeepRunning()) {
         const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pPipe(popen(strCommand.c_str(), "r"), pclose);
