@@ -84,7 +84,7 @@ void AppendUnit(std::uint32_t nUnit, std::string& strText) {
 }
 
 void AppendEscape(wchar_t character, std::string& strText) {
-    const auto nCharacter = static_cast<std::uint32_t>(character);
+    const auto nCharacter = static_cast<char32_t>(character);
     if (nCharacter < 0x10000) return AppendUnit(nCharacter, strText);
     AppendUnit(0xD800 + ((nCharacter - 0x10000) >> 10 & 0x3FF), strText);
     AppendUnit(0xDC00 + (nCharacter & 0x3FF), strText);
@@ -156,8 +156,8 @@ std::string CDrawingText::Encode(std::wstring_view text) const {
 
 bool CDrawingText::Append(wchar_t character, std::string& strBytes) const {
     if (m_pTable) return m_pTable->Append(character, strBytes);
-    const auto nCharacter = static_cast<std::uint32_t>(character);
+    const auto nCharacter = static_cast<char32_t>(character);
     if (nCharacter > 0x10FFFF || IsHighUnit(nCharacter) || IsLowUnit(nCharacter)) return false;
-    AppendUtf8(static_cast<char32_t>(nCharacter), &strBytes);
+    AppendUtf8(nCharacter, &strBytes);
     return true;
 }
