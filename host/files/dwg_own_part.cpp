@@ -22,8 +22,7 @@ private:
     static CDwgRecord RecordOf(const CDwgOwnPart& part) {
         CDwgRecord record;
         record.m_data = part.m_data;
-        const std::size_t nFirst = part.m_bNeighbours ? CDwgOwnPart::s_nNeighbours : 0;
-        for (std::size_t i = nFirst; i < part.m_arHandles.size(); ++i)
+        for (std::size_t i = part.FirstOwn(); i < part.m_arHandles.size(); ++i)
             record.m_arHandles.push_back(SoftPointer(i));
         return record;
     }
@@ -39,4 +38,10 @@ private:
 
 std::unique_ptr<CForeignReader> CDwgOwnPart::Reader(std::span<const CFiledId> ids) const {
     return std::make_unique<CDwgOwnPartReader>(*this, ids);
+}
+
+const CDwgOwnPart* DwgOwnPartOf(const CDbRecord& record) {
+    const auto* const pPart = dynamic_cast<const CDwgOwnPart*>(record.m_pForeign.get());
+    const bool bWhole = pPart && record.m_arIds.size() >= record.m_nForeignIds + pPart->m_arHandles.size();
+    return bWhole ? pPart : nullptr;
 }

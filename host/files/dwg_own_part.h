@@ -11,10 +11,16 @@ public:
     std::unique_ptr<CForeignReader> Reader(std::span<const CFiledId> ids) const override;
 
     static constexpr std::size_t s_nNeighbours = 2;
+    /// Where its own references begin.
+    std::size_t FirstOwn() const { return m_bNeighbours ? s_nNeighbours : 0; }
+    bool IsOfFixedType() const { return m_nType != 0 && m_nType < g_nDwgFirstClass; }
 
     std::shared_ptr<const CDwgOrigin> m_pOrigin;
-    std::uint16_t m_nType = 0; ///< in that file
+    std::uint16_t m_nType = 0; ///< in that file; 0 where it is of another kind, whose data no class reads
     CDwgBits m_data;
     bool m_bNeighbours = false;
     std::vector<CDwgHandle> m_arHandles; ///< the references as they stood in the file, but absolute
 };
+
+/// What a record has of a drawing file, with all references; null for none.
+const CDwgOwnPart* DwgOwnPartOf(const CDbRecord& record);

@@ -21,17 +21,10 @@ CDwgHandle HandleAt(const CDwgOwnPart& part, const CDbRecord& record, std::size_
     return handle;
 }
 
-const CDwgOwnPart* ForeignPartOf(const CDbRecord& record) {
-    const auto* const pPart = dynamic_cast<const CDwgOwnPart*>(record.m_pForeign.get());
-    const bool bWhole = pPart && record.m_arIds.size() >= record.m_nForeignIds + pPart->m_arHandles.size();
-    return bWhole ? pPart : nullptr;
-}
-
 void WriteForeign(CDwgRecordWriter& io, const CDwgOwnPart& part, const CDbRecord& record,
                   const CDwgWriting& writing) {
     io.RawBits(part.m_data.m_arBytes, part.m_data.m_nCount);
-    const std::size_t nFirst = part.m_bNeighbours ? CDwgOwnPart::s_nNeighbours : 0;
-    for (std::size_t i = nFirst; i < part.m_arHandles.size(); ++i)
+    for (std::size_t i = part.FirstOwn(); i < part.m_arHandles.size(); ++i)
         io.Handle(HandleAt(part, record, i, writing));
 }
 
@@ -60,7 +53,7 @@ std::uint16_t NumberOf(const CProxyOrigin& original, bool bKnown, bool bEntity, 
 
 std::uint16_t TypeOf(const AcDbObject& object, const CDwgOwnPart* pPart, const CDwgWriting& writing) {
     const bool bSameFile = pPart && pPart->m_pOrigin.get() == writing.m_pOrigin;
-    if (pPart && (bSameFile || pPart->m_nType < g_nDwgFirstClass)) return pPart->m_nType;
+    if (pPart && (bSameFile || pPart->IsOfFixedType())) return pPart->m_nType;
     const bool bEntity = object.isKindOf(AcDbEntity::desc());
     if (const auto* const pProxy = dynamic_cast<const CProxy*>(&object))
         return NumberOf(pProxy->Origin(), false, bEntity, writing);
@@ -73,7 +66,7 @@ std::uint16_t TypeOf(const AcDbObject& object, const CDwgOwnPart* pPart, const C
 
 CDwgNeighbours DwgNeighboursOf(const AcDbEntity& entity, const CDwgWriting& writing) {
     const auto* const pProxy = dynamic_cast<const CProxy*>(&entity);
-    const CDwgOwnPart* const pPart = pProxy ? ForeignPartOf(pProxy->ClassPart()) : nullptr;
+    const CDwgOwnPart* const pPart = pProxy ? DwgOwnPartOf(pProxy->ClassPart()) : nullptr;
     if (!pPart || !pPart->m_bNeighbours) return {};
     return {HandleAt(*pPart, pProxy->ClassPart(), 0, writing),
             HandleAt(*pPart, pProxy->ClassPart(), 1, writing)};
@@ -81,8 +74,9 @@ CDwgNeighbours DwgNeighboursOf(const AcDbEntity& entity, const CDwgWriting& writ
 
 std::uint16_t WriteDwgOwnPart(CDwgRecordWriter& io, const AcDbObject& object, const CDwgWriting& writing) {
     const std::optional<CDbRecord> record = ClassPartOf(object);
-    if (!record) RefuseDwgObject(writing.m_handles.Of(object.objectId()), "it cannot be written into a file.");
-    const CDwgOwnPart* const pPart = ForeignPartOf(*record);
+    if (!record)
+        RefuseDwgObject(writing.m_handles.Of(object.objectId()), "it cannot be written into a file.");
+    const CDwgOwnPart* const pPart = DwgOwnPartOf(*record);
     WriteDwgValues(io, *record, writing.m_text, [&](AcDbObjectId id) { return writing.m_handles.Of(id); });
     if (pPart) WriteForeign(io, *pPart, *record, writing);
     return TypeOf(object, pPart, writing);

@@ -21,6 +21,7 @@ public:
         while (Next()) {
             if (m_record.m_type == "EOF") {
                 m_header.Apply(m_drawing);
+                m_entities.GiveProxyData();
                 CheckDxfBlocks(m_drawing.Database());
                 m_drawing.Database().SetModified(false);
                 return m_drawing.Losses();
@@ -53,7 +54,10 @@ private:
         m_records.SetEncoding(m_header.Encoding());
     }
 
-    void ReadClass() { m_drawing.AddClass({m_record.Text(2), m_record.Text(1), m_record.Text(3)}); }
+    void ReadClass() {
+        m_drawing.AddClass(
+            {m_record.Text(2), m_record.Text(1), m_record.Text(3), static_cast<int>(m_record.Whole(90))});
+    }
 
     AcDbObjectId Space() {
         return m_drawing.Block(m_record.Whole(67) != 0 ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE);

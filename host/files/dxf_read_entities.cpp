@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr std::string_view g_szProxy = "ACAD_PROXY_ENTITY";
+
 using CReadEntity = std::unique_ptr<AcDbEntity> (*)(const CDxfRecord&, CDxfDrawing&);
 
 std::unique_ptr<AcDbEntity> ReadReference(const CDxfRecord& record, CDxfDrawing& drawing) {
@@ -38,7 +40,7 @@ constexpr std::array g_arTypes = {
     CEntityType{"TEXT", ReadDxfText, true},
     CEntityType{"ATTDEF", ReadDxfAttributeDefinition, true},
     CEntityType{"INSERT", ReadReference, true},
-    CEntityType{"ACAD_PROXY_ENTITY", ReadDxfProxy, false},
+    CEntityType{g_szProxy, ReadDxfProxy, false},
 };
 
 const CEntityType* TypeOf(const CDxfRecord& record) {
@@ -105,6 +107,12 @@ void CDxfEntities::End() {
     m_bUnreadSequence = false;
 }
 
+void CDxfEntities::GiveProxyData() {
+    for (const auto& [id, record] : m_arProxies)
+        if (const CDbOpen<AcDbProxyEntity> proxy(id, AcDb::kForWrite); proxy)
+            GiveDxfData(record, m_drawing, *proxy.Get());
+}
+
 void CDxfEntities::Begin(const CDxfRecord& record, AcDbObjectId idBlock) {
     if (record.m_type == "POLYLINE") return BeginPolyline(record, idBlock);
     const CEntityType* const pType = TypeOf(record);
@@ -160,5 +168,6 @@ AcDbObjectId CDxfEntities::Append(std::unique_ptr<AcDbEntity> pEntity, const CDx
     const CDbOpen<AcDbBlockTableRecord> block(idBlock, AcDb::kForWrite);
     if (block && block->appendAcDbEntity(id, pEntity.get()) == Acad::eOk) pEntity.release()->close();
     m_drawing.Identify(id, record);
+    if (record.m_type == g_szProxy) m_arProxies.emplace_back(id, record);
     return id;
 }

@@ -15,6 +15,8 @@ public:
     void Add(const CDxfRecord& record, AcDbObjectId idBlock);
     /// Nothing belongs to what went before any more: the block or the section ends.
     void End();
+    /// Gives proxies the data of their classes, once all that these may refer to is in the drawing.
+    void GiveProxyData();
 
 private:
     void Begin(const CDxfRecord& record, AcDbObjectId idBlock);
@@ -28,6 +30,7 @@ private:
     std::unique_ptr<AcDbPolyline> m_pPolyline; ///< one that still gets vertices
     CDxfRecord m_polyline;                     ///< its record
     AcDbObjectId m_idBlockOfPolyline;
-    AcDbObjectId m_idReference;     ///< one that still gets attributes
+    AcDbObjectId m_idReference; ///< one that still gets attributes
+    std::vector<std::pair<AcDbObjectId, CDxfRecord>> m_arProxies;
     bool m_bUnreadSequence = false; ///< what belongs to an entity that is lost is lost along with it
 };

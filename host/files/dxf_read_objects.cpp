@@ -1,5 +1,7 @@
 #include "host/files/dxf_read_objects.h"
 
+#include "host/files/dxf_structure.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,21 +9,10 @@ namespace {
 
 constexpr int g_nEntryName = 3;
 
-template <std::size_t N>
-bool Holds(const std::array<std::string_view, N>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 bool IsUsual(const CDxfRecord& record) {
     static constexpr std::array<std::string_view, 4> s_arTypes = {"ACDBDICTIONARYWDFLT", "ACDBPLACEHOLDER",
                                                                   "LAYOUT", "MLINESTYLE"};
-    return Holds(s_arTypes, record.m_type);
-}
-
-bool IsUsualEntry(std::string_view name) {
-    static constexpr std::array<std::string_view, 5> s_arNames = {
-        "ACAD_GROUP", "ACAD_LAYOUT", "ACAD_MLINESTYLE", "ACAD_PLOTSETTINGS", "ACAD_PLOTSTYLENAME"};
-    return Holds(s_arNames, name);
+    return std::find(s_arTypes.begin(), s_arTypes.end(), record.m_type) != s_arTypes.end();
 }
 
 } // namespace
@@ -41,7 +32,7 @@ void CDxfObjects::Add(const CDxfRecord& record) {
 void CDxfObjects::TakeRoot(const CDxfRecord& record) {
     const CDxfTag* pName = nullptr;
     for (const CDxfTag& tag : record.m_arTags) {
-        const bool bUsual = pName && IsUsualEntry(pName->Text());
+        const bool bUsual = pName && IsUsualDxfEntry(pName->Text());
         if (bUsual && (tag.m_nCode == 350 || tag.m_nCode == 360)) m_setUsual.insert(DxfHandle(tag));
         pName = tag.m_nCode == g_nEntryName ? &tag : nullptr;
     }

@@ -21,3 +21,6 @@ struct CDxfStructure {
     /// The handle of the block's layout; null for a block that is no space to draw in.
     AcDbHandle LayoutOf(AcDbObjectId idBlock) const;
 };
+
+/// Whether every drawing has an entry of that name in its dictionary of named objects, which is written anew.
+bool IsUsualDxfEntry(std::string_view name);

@@ -4,6 +4,7 @@
 #include "host/files/dxf_write_proxies.h"
 #include "host/files/dxf_xdata.h"
 #include "platform/acad/db_block_reference.h"
+#include "platform/acad/db_proxy.h"
 #include "platform/acad/wide_names.h"
 #include "platform/windows/code_page.h"
 
@@ -19,6 +20,12 @@ struct CPlace {
 
 std::string TypeName(const AcDbEntity& entity) {
     return GbkFromWide(entity.isA()->dxfName());
+}
+
+/// The type that an entity has where its class is known.
+std::string OriginalName(const AcDbEntity& entity) {
+    const auto* const pProxy = dynamic_cast<const CProxy*>(&entity);
+    return pProxy ? GbkFromWide(pProxy->originalDxfName()) : TypeName(entity);
 }
 
 /// What all entities have. A free one has the layer that it would get in the drawing.
@@ -65,12 +72,13 @@ struct CWriteCustom {
 
     void operator()(const CDxfExplosions& explosions) const {
         const CDxfExplosions::CParts* const pParts = explosions.PartsOf(m_entity);
-        if (!pParts) return m_out.Lose(TypeName(m_entity));
+        if (!pParts) return m_out.Lose(OriginalName(m_entity));
         for (const std::unique_ptr<AcDbEntity>& pPart : *pParts)
             WriteOrdinary(m_out, *pPart, m_place);
     }
 
     void operator()(const CCustomPictures& pictures) const {
+        if (!IsDxfProxy(m_entity)) return m_out.Lose(OriginalName(m_entity));
         const std::size_t nBefore = m_out.Bytes().size();
         WriteProperties(m_out, "ACAD_PROXY_ENTITY", m_entity, m_place);
         WriteDxfProxy(m_out, m_entity, pictures.Of(m_entity));

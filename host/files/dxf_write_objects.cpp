@@ -118,7 +118,8 @@ void WritePlotStyles(CDxfOutput& out, AcDbHandle plotStyle, AcDbHandle dictionar
 void LoseNamedObjects(CDxfOutput& out) {
     const CDbOpen<AcDbDictionary> named(out.Database().namedObjectsDictionaryId());
     for (const auto& [strName, id] : named->Entries())
-        if (const CDbOpen<AcDbObject> object(id); object) out.Lose(GbkFromWide(object->isA()->dxfName()));
+        if (const CDbOpen<AcDbObject> object(id); object && !IsUsualDxfEntry(GbkFromWide(strName)))
+            out.Lose(GbkFromWide(object->isA()->dxfName()));
 }
 
 } // namespace

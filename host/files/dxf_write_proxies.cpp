@@ -1,30 +1,40 @@
 #include "host/files/dxf_write_proxies.h"
 
-#include "host/files/dwg_out_filer.h"
+#include "host/files/dwg_own_part.h"
+#include "host/files/dwg_value_writer.h"
 #include "platform/acad/db_proxy.h"
 #include "platform/acad/rx_class.h"
 #include "platform/windows/code_page.h"
+
+#include <optional>
 
 namespace {
 
 CDxfClass ClassOf(const AcDbEntity& entity) {
     if (const auto* const pProxy = dynamic_cast<const CProxy*>(&entity))
-        return {pProxy->originalDxfName(), pProxy->originalClassName(), pProxy->applicationDescription(), 0,
-                true};
+        return {pProxy->originalDxfName(), pProxy->originalClassName(), pProxy->applicationDescription(),
+                pProxy->Origin().m_nProxyFlags, true};
     const AcRxClass& known = *entity.isA();
     return {known.dxfName(), known.name(), known.appName(), known.proxyFlags(), false};
 }
 
-/// What an entity writes of itself, as drawing files hold it; empty when it fails to.
-CDwgRecord DataOf(const AcDbEntity& entity) {
-    const CDrawingText text(g_nChinesePage);
-    const CDwgOutFiler::CHandleOf handleOf = [](AcDbObjectId id) {
-        return id.isNull() || id.isErased() ? 0 : id.handle().Value();
-    };
+std::uint64_t HandleOf(AcDbObjectId id) {
+    return id.isNull() || id.isErased() ? 0 : id.handle().Value();
+}
+
+/// What the class of an entity has written, as drawing files hold it; nothing when it fails to.
+std::optional<CDwgRecord> DataOf(const AcDbEntity& entity) {
+    const std::optional<CDbRecord> part = ClassPartOf(entity);
+    if (!part) return std::nullopt;
     CDwgRecordWriter io;
-    CDwgOutFiler filer(io, text, handleOf);
-    const bool bWritten = entity.dwgOut(&filer) == Acad::eOk && filer.filerStatus() == Acad::eOk;
-    return bWritten ? io.TakeRecord(0, 0) : CDwgRecord();
+    WriteDwgValues(io, *part, CDrawingText(g_nChinesePage), HandleOf);
+    if (const CDwgOwnPart* const pForeign = DwgOwnPartOf(*part)) {
+        io.RawBits(pForeign->m_data.m_arBytes, pForeign->m_data.m_nCount);
+        for (std::size_t i = pForeign->FirstOwn(); i < pForeign->m_arHandles.size(); ++i)
+            io.Handle(
+                {pForeign->m_arHandles[i].m_nCode, HandleOf(part->m_arIds[part->m_nForeignIds + i].m_id)});
+    }
+    return io.TakeRecord(0, 0);
 }
 
 /// The code of a reference, by the kind of it.
@@ -43,13 +53,20 @@ int GroupOf(const CDwgHandle& handle) {
 
 } // namespace
 
+bool IsDxfProxy(const AcDbEntity& entity) {
+    const auto* const pProxy = dynamic_cast<const CProxy*>(&entity);
+    const CDwgOwnPart* const pPart = pProxy ? DwgOwnPartOf(pProxy->ClassPart()) : nullptr;
+    return !pPart || !pPart->IsOfFixedType();
+}
+
 void WriteDxfProxy(CDxfOutput& out, const AcDbEntity& entity, const CBytes* pPicture) {
     constexpr int nProxyEntity = 498, nR2000 = 23;
     const CDxfClass original = ClassOf(entity);
-    const CDwgRecord data = DataOf(entity);
+    const std::optional<CDwgRecord> written = DataOf(entity);
+    const CDwgRecord data = written.value_or(CDwgRecord());
     const std::string strType = GbkFromWide(original.m_strDxfName);
     if (!pPicture) out.Lose("picture of " + strType);
-    if (data.m_data.m_nCount == 0) out.Lose("data of " + strType);
+    if (!written) out.Lose("data of " + strType);
     out.Subclass("AcDbProxyEntity");
     out.Whole(90, nProxyEntity);
     out.Whole(91, out.ClassNumber(original));

@@ -1,5 +1,6 @@
 #include "host/files/dxf_read_proxies.h"
 
+#include "host/files/dwg_own_part.h"
 #include "host/files/dxf_read.h"
 #include "platform/acad/db_proxy.h"
 #include "tests/host/files/drawing_contents.h"
@@ -76,4 +77,23 @@ TEST_F(DxfReadProxies, ShowNothingWithoutAPicture) {
     const auto pProxy = Read(Entity("90\n498\n"));
     ASSERT_TRUE(pProxy);
     EXPECT_TRUE(pProxy->Picture()->empty());
+}
+
+TEST_F(DxfReadProxies, KeepNoMoreBitsThanThereAre) {
+    const auto pProxy =
+        Read(g_strClasses + Entity("90\n498\n91\n500\n93\n99\n310\nABC0\n330\n2A\n340\nFFF\n94\n0\n"));
+    ASSERT_TRUE(pProxy);
+    const CDwgOwnPart* const pPart = DwgOwnPartOf(pProxy->ClassPart());
+    ASSERT_TRUE(pPart);
+    EXPECT_EQ(pPart->m_data, (CDwgBits{{0xAB, 0xC0}, 16}));
+    ASSERT_EQ(pProxy->ClassPart().m_arIds.size(), 2U);
+    EXPECT_EQ(pProxy->ClassPart().m_arIds[0], (CFiledId{CFiledId::CKind::SoftPointer, pProxy->objectId()}));
+    EXPECT_EQ(pProxy->ClassPart().m_arIds[1], (CFiledId{CFiledId::CKind::HardPointer, AcDbObjectId::kNull}));
+}
+
+TEST_F(DxfReadProxies, LoseDataThatAreNotThoseOfADrawingFile) {
+    const auto pProxy = Read(g_strClasses + Entity("90\n498\n91\n500\n70\n1\n93\n16\n310\nABC0\n94\n0\n"));
+    ASSERT_TRUE(pProxy);
+    EXPECT_FALSE(DwgOwnPartOf(pProxy->ClassPart()));
+    EXPECT_EQ(m_losses, (CDxfLosses{{"data of ONE", 1}}));
 }

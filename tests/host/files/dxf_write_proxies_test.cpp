@@ -1,5 +1,8 @@
 #include "host/files/dxf_write_proxies.h"
 
+#include "host/files/dwg_drawing_reader.h"
+#include "host/files/dwg_drawing_writer.h"
+#include "host/files/dwg_own_part.h"
 #include "host/files/dxf_read.h"
 #include "host/files/dxf_write.h"
 #include "platform/acad/db_filer.h"
@@ -63,6 +66,14 @@ protected:
         return *pSign;
     }
 };
+
+/// The groups of the first proxy behind those that all entities have.
+std::string ProxyGroups(const CDxfFile& file) {
+    const std::size_t nBegin = file.m_strBytes.find("AcDbProxyEntity\n 90");
+    const std::size_t nEnd = file.m_strBytes.find(" 94\n0\n", nBegin);
+    EXPECT_NE(nEnd, std::string::npos);
+    return file.m_strBytes.substr(nBegin, nEnd + 7 - nBegin);
+}
 
 bool Has(const CDxfFile& file, std::string_view text) {
     return file.m_strBytes.find(text) != std::string::npos;
@@ -138,4 +149,66 @@ TEST_F(DxfProxies, AreCountedWhereTheyShouldExplodeAndCannot) {
     AcDbDatabase database;
     Add(database);
     EXPECT_EQ(WriteDxf(database, CDxfCustom::Exploded).m_losses, (CDxfLosses{{"SIGN", 1}}));
+}
+
+TEST_F(DxfProxies, KeepTheirDataAndReferencesFromFileToFile) {
+    AcDbDatabase database, back;
+    CSign& sign = Add(database);
+    const AcDbObjectId idLine = AppendTo(database.ModelSpaceId(), new AcDbLine); // stands behind it
+    {
+        const CDbOpen<AcDbEntity> open(sign.objectId(), AcDb::kForWrite);
+        sign.m_idOther = idLine;
+    }
+    const CDxfFile file = WriteDxf(database);
+    ReadDxf(file.m_strBytes, back);
+    const CDxfFile again = WriteDxf(back);
+    EXPECT_EQ(again.m_losses, CDxfLosses());
+    EXPECT_EQ(ProxyGroups(again), ProxyGroups(file));
+    EXPECT_NE(ProxyGroups(again).find("330\n" + idLine.handle().Hex() + "\n 94\n0\n"), std::string::npos);
+}
+
+TEST_F(DxfProxies, AreWrittenAlikeWhetherTheirClassIsKnown) {
+    AcDbDatabase database;
+    Add(database);
+    const CDxfFile known = WriteDxf(database);
+    Unregister(); // makes a proxy of the sign
+    const CDxfFile unknown = WriteDxf(database);
+    EXPECT_EQ(unknown.m_losses, CDxfLosses());
+    EXPECT_EQ(ProxyGroups(unknown), ProxyGroups(known));
+    EXPECT_TRUE(Has(unknown, "\n  3\nSigns\n 90\n1025\n280\n1\n281\n1\n"));
+}
+
+TEST_F(DxfProxies, GoOnIntoADrawingFileAndBack) {
+    AcDbDatabase database, fromDxf;
+    Add(database);
+    const CDxfFile file = WriteDxf(database);
+    ReadDxf(file.m_strBytes, fromDxf);
+    Unregister();
+    const auto pFromDwg = DrawingOfDwg(ReadDwgFile(WriteDwgFile(DwgFileOf(fromDxf))));
+    const CDxfFile again = WriteDxf(*pFromDwg);
+    EXPECT_EQ(again.m_losses, CDxfLosses());
+    EXPECT_EQ(ProxyGroups(again), ProxyGroups(file));
+}
+
+TEST_F(DxfProxies, StayProxiesWhenTheirClassComesLater) {
+    AcDbDatabase database, back;
+    Add(database);
+    ReadDxf(WriteDxf(database).m_strBytes, back);
+    Unregister();
+    SetUp();
+    EXPECT_EQ(Entities<AcDbProxyEntity>(back.ModelSpaceId()).size(), 1U);
+}
+
+TEST_F(DxfProxies, AreNotMadeOfTypesThatADrawingFileHasBesides) {
+    AcDbProxyEntity hatch;
+    hatch.SetOrigin({L"AcDbHatch", L"HATCH", L""});
+    const auto pPart = std::make_shared<CDwgOwnPart>();
+    pPart->m_nType = 0x4E;
+    CDbRecord part;
+    part.m_pForeign = pPart;
+    hatch.SetClassPart(part);
+    EXPECT_FALSE(IsDxfProxy(hatch));
+    pPart->m_nType = 500;
+    EXPECT_TRUE(IsDxfProxy(hatch));
+    EXPECT_TRUE(IsDxfProxy(CSign()));
 }
