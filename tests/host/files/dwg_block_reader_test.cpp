@@ -78,9 +78,25 @@ TEST(ReadDwgBlocks, EndsAChainThatLeadsToNothing) {
     EXPECT_EQ(HandlesRead(file), (std::vector<std::uint64_t>{0x60}));
 }
 
-TEST(ReadDwgBlocks, RefusesAnEntityOfATypeThatADrawingDoesNotHold) {
-    CDwgFile file = FileWithChain(0x1D, 0x1D); // the end of paper space
-    EXPECT_EQ(RefusalOf([&] { DrawingOfDwg(file); }), "Object 1D: an entity of its type cannot be kept.");
+TEST(ReadDwgBlocks, EndsAChainThatLeadsToTheEndOfABlockOrToWhatIsNoEntity) {
+    EXPECT_TRUE(HandlesRead(FileWithChain(0x1D, 0x1D)).empty()); // of paper space
+    EXPECT_TRUE(HandlesRead(FileWithChain(CDwgFixed::s_nGroups, CDwgFixed::s_nGroups)).empty());
+}
+
+TEST(ReadDwgBlocks, PutsEntitiesThatNoChainLeadsToIntoTheBlockThatTheyName) {
+    CDwgFile file = FileWithChain(0x61, 0x61);
+    file.m_contents[0x60] = LineContent(0x60, SoftPointer(0));
+    file.m_contents[0x61] = LineContent(0x61, SoftPointer(0));
+    EXPECT_EQ(HandlesRead(file), (std::vector<std::uint64_t>{0x61, 0x60}));
+}
+
+TEST(ReadDwgBlocks, KeepsAnEntityOfATypeThatIsNone) {
+    CDwgFile file = FileWithChain(0x60, 0x60);
+    CDwgRecord record = ReadDwgRecord(LineContent(0x60, SoftPointer(0)), 0x60);
+    record.m_nType = 0x1F0;
+    file.m_contents[0x60] = WriteDwgRecord(record);
+    const auto pDatabase = DrawingOfDwg(file);
+    EXPECT_EQ(ReadDwgRecord(DwgFileOf(*pDatabase).m_contents.at(0x60), 0x60), record);
 }
 
 TEST(ReadDwgBlocks, TakesABlocksNameOfItsEntity) {
