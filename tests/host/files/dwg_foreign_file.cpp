@@ -181,7 +181,8 @@ private:
     /// An object whose own part makes sense to the other program only.
     void AddObject(std::uint16_t nType, std::uint64_t nHandle, std::uint64_t nOwner,
                    const std::vector<CDwgHandle>& handles = {}) {
-        CDwgObjectCommon common{SoftPointer(nOwner)};
+        CDwgObjectCommon common;
+        common.m_hOwner = SoftPointer(nOwner);
         if (nOwner) common.m_arReactors = {common.m_hOwner};
         Put(nType, nHandle, common, [&handles](auto& io, auto& value) {
             FileObjectCommon(io, value);
