@@ -108,8 +108,8 @@ private:
     }
 
     CDwgBlockHeader HeaderOf(const AcDbBlockTableRecord& block, std::uint64_t nBlock, const CChain& chain) {
-        auto header = FormerDwgValue<CDwgBlockHeader>(m_writing, nBlock, g_nDwgBlockHeader,
-                                                      DWG_FILED(FileBlockHeader));
+        auto header =
+            FormerDwgValue<CDwgBlockHeader>(m_writing, nBlock, g_nDwgBlockHeader, DWG_FILED(FileBlockHeader));
         const bool bNew = header.m_hBlock.m_nValue == 0;
         RelateDwgObject(header, block, m_writing);
         const std::string strName = m_writing.m_text.Encode(block.Name());
@@ -204,9 +204,9 @@ private:
     }
 
     std::uint64_t SequenceEndOf(std::uint64_t nReference) {
-        const std::uint64_t nFormer = FormerDwgPart<CDwgInsertEntity>(m_writing, nReference, g_nDwgInsert,
-                                                                      DWG_FILED(FileInsert))
-                                          .m_hSequenceEnd.m_nValue;
+        const std::uint64_t nFormer =
+            FormerDwgPart<CDwgInsertEntity>(m_writing, nReference, g_nDwgInsert, DWG_FILED(FileInsert))
+                .m_hSequenceEnd.m_nValue;
         return nFormer ? nFormer : m_writing.m_handles.New();
     }
 

@@ -96,7 +96,8 @@ private:
         part.m_nVertical = static_cast<std::uint16_t>(text.verticalMode());
         const AcDbObjectId idStyles = m_writing.m_database.textStyleTableId();
         const std::uint64_t nStyle = m_writing.m_handles.Of(text.textStyle());
-        part.m_hStyle = HardPointer(nStyle ? nStyle : m_writing.m_handles.Of(RecordNamed(idStyles, L"Standard")));
+        part.m_hStyle =
+            HardPointer(nStyle ? nStyle : m_writing.m_handles.Of(RecordNamed(idStyles, L"Standard")));
     }
 
     void Take(CDwgAttributeEntity& part, const CAttributeText& attribute) const {

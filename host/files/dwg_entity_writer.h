@@ -11,6 +11,7 @@ struct CDwgSequence {
 CDwgEntityCommon DwgEntityCommonOf(const AcDbEntity& entity, const CDwgWriting& writing);
 
 /// The record of an entity: under its fixed type, or else as its class writes it. The common part is given;
-/// the style that a text without one has is "Standard". Throws CDwgError for an entity that cannot be written.
+/// the style that a text without one has is "Standard". Throws CDwgError for an entity that cannot be
+/// written.
 CDwgRecord WriteDwgEntity(const AcDbEntity& entity, const CDwgEntityCommon& common,
                           const CDwgSequence& attributes, const CDwgWriting& writing);

@@ -23,7 +23,7 @@ private:
     void FindGone(const AcDbDatabase& database);
     void FixHandles(const AcDbDatabase& database);
 
-    std::set<AcDbHandle> m_gone; ///< with their owners
+    std::set<AcDbHandle> m_gone;                      ///< with their owners
     std::map<AcDbHandle, std::uint64_t> m_mapHandles; ///< where they differ from the object's own
     std::uint64_t m_nNext;
 };

@@ -28,7 +28,8 @@ private:
         while (!left.empty()) {
             const CDwgRecord* const pRecord = m_reading.m_pOrigin->Find(left.back());
             left.pop_back();
-            if (!pRecord || pRecord->m_nType != g_nDwgDictionary || m_dictionaries.contains(pRecord->m_nHandle))
+            if (!pRecord || pRecord->m_nType != g_nDwgDictionary ||
+                m_dictionaries.contains(pRecord->m_nHandle))
                 continue;
             const CDwgDictionary& dictionary =
                 m_dictionaries

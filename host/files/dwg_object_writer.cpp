@@ -39,8 +39,8 @@ private:
 
     void WriteDictionary(const AcDbDictionary& dictionary) {
         const std::uint64_t nHandle = m_writing.m_handles.Of(dictionary.objectId());
-        const CDwgDictionary former = FormerDwgValue<CDwgDictionary>(m_writing, nHandle, g_nDwgDictionary,
-                                                                     DWG_FILED(FileDictionary));
+        const CDwgDictionary former =
+            FormerDwgValue<CDwgDictionary>(m_writing, nHandle, g_nDwgDictionary, DWG_FILED(FileDictionary));
         CDwgDictionary filed = former;
         RelateDwgObject(filed, dictionary, m_writing);
         filed.m_nHard = dictionary.isTreatElementsAsHard() ? 1 : 0;
@@ -65,7 +65,8 @@ private:
                        {L"ACAD_PLOTSETTINGS", CDwgFixed::s_nPlotSettings},
                        {L"ACAD_PLOTSTYLENAME", CDwgFixed::s_nPlotStyles}};
         for (const auto& [strName, id] : dictionary.Entries())
-            if (const std::uint64_t nHandle = m_writing.m_handles.Of(id)) entries.try_emplace(strName, nHandle);
+            if (const std::uint64_t nHandle = m_writing.m_handles.Of(id))
+                entries.try_emplace(strName, nHandle);
         return entries;
     }
 

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 CDwgOrigin::CDwgOrigin(const CDwgFile& file)
-    : m_file{file.m_identity,   file.m_nSaves, file.m_arPreview, file.m_variables,
-             file.m_arClasses, {},            file.m_bMetric}
+    : m_file{file.m_identity, file.m_nSaves, file.m_arPreview, file.m_variables, file.m_arClasses, {},
+             file.m_bMetric}
     , m_text(CodePageOfDwg(file.m_identity.m_nCodePage)) {
     for (const auto& [nHandle, content] : file.m_contents)
         m_records.emplace_hint(m_records.end(), nHandle, ReadDwgRecord(content, nHandle));

@@ -15,10 +15,10 @@ struct CDwgOrigin : CDbOrigin {
     const CDwgRecord* Find(std::uint64_t nHandle) const;
     /// The class of the objects of a type; null for a fixed type, and for none.
     const CDwgClass* FindClass(std::uint16_t nType) const;
-    bool IsKnown(std::uint16_t nType) const; ///< a fixed one or that of a class
+    bool IsKnown(std::uint16_t nType) const;  ///< a fixed one or that of a class
     bool IsEntity(std::uint16_t nType) const; ///< known, and of entities
 
-    CDwgFile m_file; ///< but for its objects
+    CDwgFile m_file;     ///< but for its objects
     CDrawingText m_text; ///< by its code page
     std::map<std::uint64_t, CDwgRecord> m_records;
 };

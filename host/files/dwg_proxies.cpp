@@ -111,7 +111,9 @@ void ReadDwgOwnParts(const CDwgReading& reading) {
 }
 
 void ShowDwgProxies(const CDwgReading& reading) {
-    const auto decode = [&reading](std::string_view bytes) { return reading.m_pOrigin->m_text.Decode(bytes); };
+    const auto decode = [&reading](std::string_view bytes) {
+        return reading.m_pOrigin->m_text.Decode(bytes);
+    };
     for (const auto& [nHandle, id] : reading.m_ids) {
         if (!PeekObject<AcDbProxyEntity>(id)) continue;
         const CDbOpen<AcDbProxyEntity> proxy(id);

@@ -10,8 +10,10 @@ void IdentifyDwg(CDwgReading& reading, AcDbObjectId id, std::uint64_t nHandle) {
 }
 
 void ReadDwgExtendedData(AcDbObject& object, const CDwgRecord& record, const CDwgReading& reading) {
-    const CDwgExtendedContext context{reading.m_pOrigin->m_text, reading.m_pOrigin->m_file.m_identity.m_nCodePage,
-                                      {}, [&](std::uint64_t nHandle) {
+    const CDwgExtendedContext context{reading.m_pOrigin->m_text,
+                                      reading.m_pOrigin->m_file.m_identity.m_nCodePage,
+                                      {},
+                                      [&](std::uint64_t nHandle) {
                                           const auto* const pLayer =
                                               PeekObject<AcDbLayerTableRecord>(reading.IdOf(nHandle));
                                           return pLayer ? pLayer->Name() : std::wstring();

@@ -101,8 +101,10 @@ private:
     /// A font by its name, which stands in the extended data.
     void GiveTypeface(AcDbTextStyleTableRecord& style, const CDwgRecord& record) const {
         const AcDbObjectId idAcad = RecordNamed(m_reading.m_database.regAppTableId(), L"ACAD");
-        const CDwgExtendedContext context{
-            m_reading.m_pOrigin->m_text, m_reading.m_pOrigin->m_file.m_identity.m_nCodePage, {}, [](std::uint64_t) { return std::wstring(); }};
+        const CDwgExtendedContext context{m_reading.m_pOrigin->m_text,
+                                          m_reading.m_pOrigin->m_file.m_identity.m_nCodePage,
+                                          {},
+                                          [](std::uint64_t) { return std::wstring(); }};
         for (const CDwgExtendedData& data : record.m_arExtended) {
             if (m_reading.IdOf(data.m_hApp) != idAcad) continue;
             const std::vector<CXDataItem> items = UnpackExtendedData(data.m_arBytes, context);

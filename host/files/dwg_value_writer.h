@@ -6,7 +6,8 @@
 
 #include <functional>
 
-using CDwgHandleOf = std::function<std::uint64_t(AcDbObjectId)>; ///< an object's handle in the file; 0 for none
+using CDwgHandleOf =
+    std::function<std::uint64_t(AcDbObjectId)>; ///< an object's handle in the file; 0 for none
 
 /// Writes what an object wrote of itself into its record in a drawing file: numbers in their bit codes, texts
 /// in the drawing's code page, references beside them. Foreign data, and what belongs to them, are left out.

@@ -70,8 +70,8 @@ const CDwgRecord* CDwgWriting::Former(std::uint64_t nHandle, std::uint16_t nType
 
 CDwgHandle CDwgWriting::StillThere(const CDwgHandle& handle) const {
     AcDbObjectId id;
-    const bool bGone = m_database.getAcDbObjectId(id, AcDbHandle(handle.m_nValue)) == Acad::eOk &&
-                       m_handles.Of(id) == 0;
+    const bool bGone =
+        m_database.getAcDbObjectId(id, AcDbHandle(handle.m_nValue)) == Acad::eOk && m_handles.Of(id) == 0;
     return {handle.m_nCode, bGone ? 0 : handle.m_nValue};
 }
 
@@ -93,8 +93,8 @@ std::vector<CDwgHandle> DwgReactorsOf(const AcDbObject& object, const CDwgWritin
 
 void RelateDwgObject(CDwgObjectCommon& common, const AcDbObject& object, const CDwgWriting& writing) {
     const AcDbObjectId idOwner = object.ownerId();
-    common.m_hOwner = idOwner.isNull() ? writing.StillThere(common.m_hOwner)
-                                       : SoftPointer(writing.m_handles.Of(idOwner));
+    common.m_hOwner =
+        idOwner.isNull() ? writing.StillThere(common.m_hOwner) : SoftPointer(writing.m_handles.Of(idOwner));
     common.m_arReactors = DwgReactorsOf(object, writing);
     common.m_hExtensions = writing.StillThere(common.m_hExtensions);
 }

@@ -25,7 +25,8 @@ struct CDbView {
     double m_dHeight = 297.0;
 };
 
-/// What a drawing keeps of the file that it was read from beyond what it holds itself; the file's format knows.
+/// What a drawing keeps of the file that it was read from beyond what it holds itself; the file's format
+/// knows.
 class CDbOrigin {
 public:
     CDbOrigin() = default;

@@ -47,7 +47,8 @@ public:
     CForeignData(const CForeignData&) = delete;
     CForeignData& operator=(const CForeignData&) = delete;
     virtual ~CForeignData() = default;
-    /// A reader of the data with their references, which stand in the record; both must outlive it. Never null.
+    /// A reader of the data with their references, which stand in the record; both must outlive it. Never
+    /// null.
     virtual std::unique_ptr<CForeignReader> Reader(std::span<const CFiledId> ids) const = 0;
 };
 

@@ -97,11 +97,19 @@ public:
     void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
     void resetFilerStatus() override { m_status = Acad::eOk; }
 
-    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override { return Get(pValue, &AcDbDwgFiler::readBoolean); }
+    Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override {
+        return Get(pValue, &AcDbDwgFiler::readBoolean);
+    }
     Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt8); }
-    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt16); }
-    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override { return Get(pValue, &AcDbDwgFiler::readUInt16); }
-    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override { return Get(pValue, &AcDbDwgFiler::readInt32); }
+    Acad::ErrorStatus readInt16(Adesk::Int16* pValue) override {
+        return Get(pValue, &AcDbDwgFiler::readInt16);
+    }
+    Acad::ErrorStatus readUInt16(Adesk::UInt16* pValue) override {
+        return Get(pValue, &AcDbDwgFiler::readUInt16);
+    }
+    Acad::ErrorStatus readInt32(Adesk::Int32* pValue) override {
+        return Get(pValue, &AcDbDwgFiler::readInt32);
+    }
     Acad::ErrorStatus readDouble(double* pValue) override { return Get(pValue, &AcDbDwgFiler::readDouble); }
     Acad::ErrorStatus readPoint2d(AcGePoint2d* pValue) override;
     Acad::ErrorStatus readPoint3d(AcGePoint3d* pValue) override;
@@ -109,10 +117,18 @@ public:
     Acad::ErrorStatus readString(ACHAR** pText) override;
     Acad::ErrorStatus readBytes(void* pBytes, Adesk::UInt32 length) override;
     Acad::ErrorStatus readRest(CDbRecord* pRest) override;
-    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readHardPointerId); }
-    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readSoftPointerId); }
-    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readHardOwnershipId); }
-    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return GetId(pId, &AcDbDwgFiler::readSoftOwnershipId); }
+    Acad::ErrorStatus readHardPointerId(AcDbObjectId* pId) override {
+        return GetId(pId, &AcDbDwgFiler::readHardPointerId);
+    }
+    Acad::ErrorStatus readSoftPointerId(AcDbObjectId* pId) override {
+        return GetId(pId, &AcDbDwgFiler::readSoftPointerId);
+    }
+    Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override {
+        return GetId(pId, &AcDbDwgFiler::readHardOwnershipId);
+    }
+    Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override {
+        return GetId(pId, &AcDbDwgFiler::readSoftOwnershipId);
+    }
 
     Acad::ErrorStatus writeBoolean(Adesk::Boolean) override { return Fail(); }
     Acad::ErrorStatus writeInt8(Adesk::Int8) override { return Fail(); }

@@ -19,13 +19,20 @@ void Move(CDwgHandle& handle) {
 
 void MoveRoots(CDwgVariables& vars) {
     CDwgRoots& roots = vars.m_roots;
-    for (CDwgHandle* pHandle :
-         {&roots.m_hBlocks, &roots.m_hLayers, &roots.m_hStyles, &roots.m_hLinetypes, &roots.m_hViews,
-          &roots.m_hUcss, &roots.m_hViewports, &roots.m_hApps, &roots.m_hDimstyles,
-          &roots.m_hViewportEntities, &roots.m_hGroups, &roots.m_hMlineStyles, &roots.m_hNamedObjects,
-          &roots.m_hLayouts, &roots.m_hPlotSettings, &roots.m_hPlotStyles, &roots.m_hPaperSpace,
-          &roots.m_hModelSpace, &roots.m_hByLayer, &roots.m_hByBlock, &roots.m_hContinuous, &vars.m_hClayer,
-          &vars.m_hTextstyle, &vars.m_hCeltype, &vars.m_hDimstyle, &vars.m_hCmlstyle, &vars.m_hDimtxsty})
+    for (CDwgHandle* pHandle : {&roots.m_hBlocks,       &roots.m_hLayers,
+                                &roots.m_hStyles,       &roots.m_hLinetypes,
+                                &roots.m_hViews,        &roots.m_hUcss,
+                                &roots.m_hViewports,    &roots.m_hApps,
+                                &roots.m_hDimstyles,    &roots.m_hViewportEntities,
+                                &roots.m_hGroups,       &roots.m_hMlineStyles,
+                                &roots.m_hNamedObjects, &roots.m_hLayouts,
+                                &roots.m_hPlotSettings, &roots.m_hPlotStyles,
+                                &roots.m_hPaperSpace,   &roots.m_hModelSpace,
+                                &roots.m_hByLayer,      &roots.m_hByBlock,
+                                &roots.m_hContinuous,   &vars.m_hClayer,
+                                &vars.m_hTextstyle,     &vars.m_hCeltype,
+                                &vars.m_hDimstyle,      &vars.m_hCmlstyle,
+                                &vars.m_hDimtxsty})
         Move(*pHandle);
 }
 
@@ -77,7 +84,8 @@ private:
         vars.m_hHandseed.m_nValue = 0x400;
         m_file.m_arClasses.push_back(
             {CForeign::s_nMarkClass, 0x401, "Mark\xE9s", "CForeignMark", "FMARK", true, true});
-        m_file.m_arClasses.push_back({CForeign::s_nUnknownClass, 0, "Other", "COther", "OTHER", false, false});
+        m_file.m_arClasses.push_back(
+            {CForeign::s_nUnknownClass, 0, "Other", "COther", "OTHER", false, false});
     }
 
     template <class Value, class File>

@@ -109,7 +109,7 @@ TEST(DwgOriginOf, LetsWhatBelongsToAnErasedEntityGoWithIt) {
         EXPECT_FALSE(written.File().m_contents.contains(nGone)) << std::hex << nGone;
     const CDwgRecord hatch = written.Record(CForeign::s_nHatch);
     ASSERT_GE(hatch.m_arHandles.size(), 4u);
-    EXPECT_EQ(hatch.m_arHandles[hatch.m_arHandles.size() - 4], SoftPointer(0));       // to the line
+    EXPECT_EQ(hatch.m_arHandles[hatch.m_arHandles.size() - 4], SoftPointer(0));     // to the line
     EXPECT_EQ(hatch.m_arHandles[hatch.m_arHandles.size() - 2], SoftPointer(0x3F0)); // to what never was
 }
 
