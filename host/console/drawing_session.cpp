@@ -55,6 +55,8 @@ void TellWhatItHolds(const CHost& host, const COpenedFile& file) {
                    " drawing, against its ending");
     if (!file.m_read.m_losses.empty())
         host.Print(file.m_strPath + " holds what the drawing does not: " + LossesText(file.m_read.m_losses));
+    if (!file.m_read.m_kept.empty())
+        host.Print(file.m_strPath + " holds what is kept as it is: " + LossesText(file.m_read.m_kept));
 }
 
 void Show(CHost& host, COpenedFile file) {

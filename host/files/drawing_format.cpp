@@ -2,6 +2,7 @@
 
 #include "host/files/dwg_drawing_reader.h"
 #include "host/files/dwg_drawing_writer.h"
+#include "host/files/dwg_unknown.h"
 #include "host/files/dxf_binary_reader.h"
 #include "host/files/dxf_read.h"
 #include "host/files/dxf_write.h"
@@ -30,10 +31,24 @@ bool BeginsLikeDxf(std::string_view bytes) {
     return line == "0" || line == "999";
 }
 
+/// The entities of the format's own types that are unknown here. Those of classes are proxies for a module
+/// that may yet come.
+CDrawingLosses KeptTypes(const AcDbDatabase& database) {
+    CDrawingLosses kept;
+    for (const CDwgUnknown& kind : UnknownInDwg(database)) {
+        if (!kind.m_bEntities || kind.m_nType >= g_nDwgFirstClass) continue;
+        const std::string strName = GbkFromWide(kind.m_strName);
+        kept[strName + (strName.empty() ? "type " : ", type ") + std::to_string(kind.m_nType)] =
+            static_cast<int>(kind.m_nCount);
+    }
+    return kept;
+}
+
 CReadDrawing ReadDwg(std::string_view bytes) {
     const auto* const pBytes = reinterpret_cast<const std::uint8_t*>(bytes.data());
     std::unique_ptr<AcDbDatabase> pDatabase = DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()}));
-    return {std::move(pDatabase), CDrawingFormat::Dwg, {}};
+    CDrawingLosses kept = KeptTypes(*pDatabase);
+    return {std::move(pDatabase), CDrawingFormat::Dwg, {}, std::move(kept)};
 }
 
 CReadDrawing ReadDxfDrawing(std::string_view bytes) {

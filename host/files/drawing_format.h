@@ -29,6 +29,7 @@ struct CReadDrawing {
     std::unique_ptr<AcDbDatabase> m_pDatabase; ///< unchanged
     CDrawingFormat m_format;                   ///< what the bytes are, however the file is called
     CDrawingLosses m_losses;
+    CDrawingLosses m_kept = {}; ///< entities that the drawing keeps as they are without knowing their type
 };
 
 /// Throws CDrawingFailure, for bytes that are no drawing too; it names the version of one that cannot be

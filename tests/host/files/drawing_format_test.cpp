@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_line.h"
 #include "tests/host/files/drawing_contents.h"
+#include "tests/host/files/dwg_foreign_file.h"
 
 #include <gtest/gtest.h>
 
@@ -99,4 +100,15 @@ TEST(LossesText, NamesEachKindWithItsCount) {
     EXPECT_EQ(LossesText({{"HATCH", 3}, {"LAYER off, frozen or locked", 1}}),
               "HATCH (3); LAYER off, frozen or locked (1)");
     EXPECT_EQ(LossesText({}), "");
+}
+
+TEST(ReadDrawing, TellsTheEntityTypesThatItKeepsWithoutKnowingThemByNameAndNumber) {
+    const CBytes bytes = WriteDwgFile(ForeignFile(false));
+    const CReadDrawing read = ReadDrawing({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    EXPECT_EQ(read.m_kept, (CDrawingLosses{{"CIRCLE, type 18", 1},
+                                           {"HATCH, type 78", 1},
+                                           {"POLYLINE, type 15", 1},
+                                           {"SEQEND, type 6", 1},
+                                           {"VERTEX, type 10", 2}}));
+    EXPECT_TRUE(read.m_losses.empty());
 }
