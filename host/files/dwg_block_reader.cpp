@@ -37,8 +37,15 @@ private:
         if (id.isNull()) id = AddBlock(strName, record.m_nHandle);
         IdentifyDwg(m_reading, id, record.m_nHandle);
         CDbOpen<AcDbBlockTableRecord>(id, AcDb::kForWrite)->setOrigin(header.m_ptBase);
-        m_taken.insert({header.m_hBlock.m_nValue, header.m_hBlockEnd.m_nValue});
+        TakeStructure(header.m_hBlock.m_nValue, g_nDwgBlock);
+        TakeStructure(header.m_hBlockEnd.m_nValue, g_nDwgBlockEnd);
         m_headers.emplace(record.m_nHandle, std::move(header));
+    }
+
+    /// What stands only in the file is written anew with what it belongs to; a wrong link leads to another's.
+    void TakeStructure(std::uint64_t nHandle, std::uint16_t nType) {
+        const CDwgRecord* const pRecord = Find(nHandle);
+        if (pRecord && pRecord->m_nType == nType) m_taken.insert(nHandle);
     }
 
     /// The block's own entity has the full name; the header may leave a number out.
@@ -103,7 +110,7 @@ private:
     }
 
     void ReadAttributes(const CDwgReadEntity& reference, AcDbObjectId idReference) {
-        m_taken.insert(reference.m_nSequenceEnd);
+        TakeStructure(reference.m_nSequenceEnd, g_nDwgSequenceEnd);
         FollowChain(reference.m_nFirstAttribute, reference.m_nLastAttribute,
                     [&](const CDwgRecord& record, CDwgReadEntity read) {
                         if (AcDbAttribute::cast(read.m_pEntity.get()))

@@ -110,7 +110,7 @@ private:
     CDwgBlockHeader HeaderOf(const AcDbBlockTableRecord& block, std::uint64_t nBlock, const CChain& chain) {
         auto header =
             FormerDwgValue<CDwgBlockHeader>(m_writing, nBlock, g_nDwgBlockHeader, DWG_FILED(FileBlockHeader));
-        const bool bNew = header.m_hBlock.m_nValue == 0;
+        const bool bNew = !m_writing.Former(nBlock, g_nDwgBlockHeader);
         RelateDwgObject(header, block, m_writing);
         const std::string strName = m_writing.m_text.Encode(block.Name());
         const bool bShort = header.m_strName.starts_with('*') && strName.starts_with(header.m_strName);
@@ -118,7 +118,7 @@ private:
         if (bNew) header.m_bAnonymous = !IsSpace(nBlock) && block.Name().starts_with(L'*');
         header.m_ptBase = block.origin();
         header.m_bAttributes = AsksForAttributes(block);
-        if (bNew) PlaceNew(header, nBlock);
+        PlaceStructure(header, nBlock);
         header.m_hFirst = SoftPointer(chain.First());
         header.m_hLast = SoftPointer(chain.Last());
         header.m_arInserts = InsertsOf(nBlock, header.m_arInserts);
@@ -133,11 +133,21 @@ private:
     }
 
     /// In a new drawing a space is followed by its ends and its layout.
-    void PlaceNew(CDwgBlockHeader& header, std::uint64_t nBlock) {
-        const bool bFixed = !m_writing.m_pOrigin && IsSpace(nBlock);
-        header.m_hBlock = HardOwner(bFixed ? nBlock + 1 : m_writing.m_handles.New());
-        header.m_hBlockEnd = HardOwner(bFixed ? nBlock + 2 : m_writing.m_handles.New());
-        header.m_hLayout = HardPointer(bFixed ? nBlock + 3 : 0);
+    void PlaceStructure(CDwgBlockHeader& header, std::uint64_t nBlock) {
+        if (!m_writing.m_pOrigin && IsSpace(nBlock)) {
+            header.m_hBlock = HardOwner(nBlock + 1);
+            header.m_hBlockEnd = HardOwner(nBlock + 2);
+            header.m_hLayout = HardPointer(nBlock + 3);
+        } else {
+            header.m_hBlock = HardOwner(FormerOrNew(header.m_hBlock.m_nValue, g_nDwgBlock));
+            header.m_hBlockEnd = HardOwner(FormerOrNew(header.m_hBlockEnd.m_nValue, g_nDwgBlockEnd));
+        }
+    }
+
+    /// The handle that a structure had in the file that the drawing is of, unless it was another's.
+    std::uint64_t FormerOrNew(std::uint64_t nFormer, std::uint16_t nType) {
+        const bool bOwn = m_writing.Former(nFormer, nType) && m_structures.insert(nFormer).second;
+        return bOwn ? nFormer : m_writing.m_handles.New();
     }
 
     /// The entity before the first or behind the last one of a block, with what it has of its own.
@@ -204,15 +214,15 @@ private:
     }
 
     std::uint64_t SequenceEndOf(std::uint64_t nReference) {
-        const std::uint64_t nFormer =
-            FormerDwgPart<CDwgInsertEntity>(m_writing, nReference, g_nDwgInsert, DWG_FILED(FileInsert))
-                .m_hSequenceEnd.m_nValue;
-        return nFormer ? nFormer : m_writing.m_handles.New();
+        const auto former =
+            FormerDwgPart<CDwgInsertEntity>(m_writing, nReference, g_nDwgInsert, DWG_FILED(FileInsert));
+        return FormerOrNew(former.m_hSequenceEnd.m_nValue, g_nDwgSequenceEnd);
     }
 
     const CDwgWriting& m_writing;
     std::vector<CDwgRecord>& m_records;
     std::uint64_t m_nModelSpace, m_nPaperSpace;
+    std::set<std::uint64_t> m_structures; ///< handles given to what stands only in the file
     std::map<std::uint64_t, std::vector<CDwgHandle>> m_inserts; ///< by block
 };
 

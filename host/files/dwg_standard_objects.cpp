@@ -15,18 +15,18 @@ CDwgRecord Control(std::uint16_t nType, std::uint64_t nHandle, std::vector<CDwgH
 
 /// A dictionary in the one of named objects.
 template <class Dictionary>
-Dictionary NamedDictionary(std::vector<std::string> names, std::vector<CDwgHandle> items) {
+Dictionary NamedDictionary(const std::vector<std::string>& names, const std::vector<CDwgHandle>& items) {
     Dictionary dictionary;
     dictionary.m_hOwner = SoftPointer(CDwgFixed::s_nNamedObjects);
     dictionary.m_arReactors = {dictionary.m_hOwner};
-    dictionary.m_arNames = std::move(names);
-    dictionary.m_arItems = std::move(items);
+    dictionary.m_arNames = names;
+    dictionary.m_arItems = items;
     return dictionary;
 }
 
-CDwgRecord DictionaryOf(std::uint64_t nHandle, std::vector<std::string> names = {},
-                        std::vector<CDwgHandle> items = {}) {
-    const auto dictionary = NamedDictionary<CDwgDictionary>(std::move(names), std::move(items));
+CDwgRecord DictionaryOf(std::uint64_t nHandle, const std::vector<std::string>& names = {},
+                        const std::vector<CDwgHandle>& items = {}) {
+    const auto dictionary = NamedDictionary<CDwgDictionary>(names, items);
     return DwgRecordOf(g_nDwgDictionary, nHandle, dictionary, DWG_FILED(FileDictionary));
 }
 

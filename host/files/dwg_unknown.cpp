@@ -18,6 +18,7 @@ std::vector<CDwgUnknown> UnknownInDwg(const AcDbDatabase& database) {
         ++kind.m_nCount;
     }
     std::vector<CDwgUnknown> unknown;
+    unknown.reserve(kinds.size());
     for (auto& [nType, kind] : kinds)
         unknown.push_back(std::move(kind));
     return unknown;

@@ -113,6 +113,22 @@ TEST(DwgOriginOf, LetsWhatBelongsToAnErasedEntityGoWithIt) {
     EXPECT_EQ(hatch.m_arHandles[hatch.m_arHandles.size() - 2], SoftPointer(0x3F0)); // to what never was
 }
 
+TEST(DwgOriginOf, LosesNoEntityToABlockWhoseEndsAreWronglyLinked) {
+    CDwgFile file = ForeignFile(false);
+    CBytes& content = file.m_contents.at(CForeign::s_nModelSpace);
+    auto header =
+        Filed<CDwgBlockHeader>(ReadDwgRecord(content, CForeign::s_nModelSpace), DWG_FILED(FileBlockHeader));
+    header.m_hBlock = HardOwner(CForeign::s_nLine);
+    header.m_hBlockEnd = HardOwner(0);
+    content = WriteDwgRecord(
+        DwgRecordOf(g_nDwgBlockHeader, CForeign::s_nModelSpace, header, DWG_FILED(FileBlockHeader)));
+    const auto again = RecordsOf(SavedAgain(file));
+    EXPECT_EQ(again.at(CForeign::s_nLine), RecordsOf(file).at(CForeign::s_nLine));
+    const auto mended = Filed<CDwgBlockHeader>(again.at(CForeign::s_nModelSpace), DWG_FILED(FileBlockHeader));
+    EXPECT_EQ(again.at(mended.m_hBlock.m_nValue).m_nType, g_nDwgBlock);
+    EXPECT_EQ(again.at(mended.m_hBlockEnd.m_nValue).m_nType, g_nDwgBlockEnd);
+}
+
 TEST(DwgOriginOf, IsLeftBehindByACopyInAnotherDrawing) {
     const auto pDrawing = DrawingOfDwg(ForeignFile(false));
     AcDbDatabase other;
