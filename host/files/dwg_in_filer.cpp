@@ -1,5 +1,6 @@
 #include "host/files/dwg_in_filer.h"
 
+#include "platform/acad/db_record.h"
 #include "platform/acad/result_buffer.h"
 
 #include <algorithm>

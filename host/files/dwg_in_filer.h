@@ -2,13 +2,13 @@
 
 #include "host/files/drawing_text.h"
 #include "host/files/dwg_record_io.h"
-#include "platform/acad/memory_filer.h"
+#include "platform/acad/reading_filer.h"
 
 #include <functional>
 
-/// Reads what CDwgOutFiler wrote. Whatever the record holds, what is not there or makes no sense gives zero
+/// Reads what WriteDwgValues wrote. Whatever the record holds, what is not there or makes no sense gives zero
 /// and sets the status. The rest of a record cannot be taken unread.
-class CDwgInFiler final : public AcDbDwgFiler {
+class CDwgInFiler final : public CReadingFiler {
 public:
     using CIdOf = std::function<AcDbObjectId(const CDwgHandle&)>; ///< the object of a handle; null for none
 
@@ -19,9 +19,6 @@ public:
         , m_idOf(idOf) {}
 
     AcDb::FilerType filerType() const override { return AcDb::kFileFiler; }
-    Acad::ErrorStatus filerStatus() const override { return m_status; }
-    void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
-    void resetFilerStatus() override { m_status = Acad::eOk; }
 
     Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override;
     Acad::ErrorStatus readInt8(Adesk::Int8* pValue) override;
@@ -40,30 +37,11 @@ public:
     Acad::ErrorStatus readHardOwnershipId(AcDbObjectId* pId) override { return Get(pId); }
     Acad::ErrorStatus readSoftOwnershipId(AcDbObjectId* pId) override { return Get(pId); }
 
-    Acad::ErrorStatus writeBoolean(Adesk::Boolean) override { return Fail(); }
-    Acad::ErrorStatus writeInt8(Adesk::Int8) override { return Fail(); }
-    Acad::ErrorStatus writeInt16(Adesk::Int16) override { return Fail(); }
-    Acad::ErrorStatus writeUInt16(Adesk::UInt16) override { return Fail(); }
-    Acad::ErrorStatus writeInt32(Adesk::Int32) override { return Fail(); }
-    Acad::ErrorStatus writeDouble(double) override { return Fail(); }
-    Acad::ErrorStatus writePoint2d(const AcGePoint2d&) override { return Fail(); }
-    Acad::ErrorStatus writePoint3d(const AcGePoint3d&) override { return Fail(); }
-    Acad::ErrorStatus writeVector3d(const AcGeVector3d&) override { return Fail(); }
-    Acad::ErrorStatus writeString(const ACHAR*) override { return Fail(); }
-    Acad::ErrorStatus writeBytes(const void*, Adesk::UInt32) override { return Fail(); }
-    Acad::ErrorStatus writeRest(const CDbRecord&) override { return Fail(); }
-    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId&) override { return Fail(); }
-
 private:
-    Acad::ErrorStatus Fail() { return m_status = Acad::eFilerError; }
     Acad::ErrorStatus Check() { return m_io.Failed() ? Fail() : m_status; }
     Acad::ErrorStatus Get(AcDbObjectId* pId);
 
     CDwgRecordReader& m_io;
     const CDrawingText& m_text;
     const CIdOf& m_idOf;
-    Acad::ErrorStatus m_status = Acad::eOk;
 };

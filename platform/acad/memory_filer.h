@@ -3,6 +3,7 @@
 
 #include "platform/acad/db_filer.h"
 #include "platform/acad/db_record.h"
+#include "platform/acad/reading_filer.h"
 
 /// Writes a record.
 class CRecordWriter final : public AcDbDwgFiler {
@@ -84,7 +85,7 @@ private:
 
 /// Reads a record, whatever it holds: what is not there, or makes no sense, sets the status. Behind its bytes
 /// come its foreign data. The record must outlive the reader.
-class CRecordReader final : public AcDbDwgFiler {
+class CRecordReader final : public CReadingFiler {
 public:
     CRecordReader(AcDb::FilerType type, const CDbRecord& record)
         : m_type(type)
@@ -93,9 +94,6 @@ public:
     bool IsAtEnd() const;
 
     AcDb::FilerType filerType() const override { return m_type; }
-    Acad::ErrorStatus filerStatus() const override { return m_status; }
-    void setFilerStatus(Acad::ErrorStatus status) override { m_status = status; }
-    void resetFilerStatus() override { m_status = Acad::eOk; }
 
     Acad::ErrorStatus readBoolean(Adesk::Boolean* pValue) override {
         return Get(pValue, &AcDbDwgFiler::readBoolean);
@@ -130,26 +128,8 @@ public:
         return GetId(pId, &AcDbDwgFiler::readSoftOwnershipId);
     }
 
-    Acad::ErrorStatus writeBoolean(Adesk::Boolean) override { return Fail(); }
-    Acad::ErrorStatus writeInt8(Adesk::Int8) override { return Fail(); }
-    Acad::ErrorStatus writeInt16(Adesk::Int16) override { return Fail(); }
-    Acad::ErrorStatus writeUInt16(Adesk::UInt16) override { return Fail(); }
-    Acad::ErrorStatus writeInt32(Adesk::Int32) override { return Fail(); }
-    Acad::ErrorStatus writeDouble(double) override { return Fail(); }
-    Acad::ErrorStatus writePoint2d(const AcGePoint2d&) override { return Fail(); }
-    Acad::ErrorStatus writePoint3d(const AcGePoint3d&) override { return Fail(); }
-    Acad::ErrorStatus writeVector3d(const AcGeVector3d&) override { return Fail(); }
-    Acad::ErrorStatus writeString(const ACHAR*) override { return Fail(); }
-    Acad::ErrorStatus writeBytes(const void*, Adesk::UInt32) override { return Fail(); }
-    Acad::ErrorStatus writeRest(const CDbRecord&) override { return Fail(); }
-    Acad::ErrorStatus writeHardPointerId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeSoftPointerId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeHardOwnershipId(const AcDbObjectId&) override { return Fail(); }
-    Acad::ErrorStatus writeSoftOwnershipId(const AcDbObjectId&) override { return Fail(); }
-
 private:
     std::size_t Left() const { return m_record.m_arBytes.size() - m_nAt; } ///< bytes not read yet
-    Acad::ErrorStatus Fail() { return m_status = Acad::eFilerError; }
     bool IsBeforeForeign() const;
     std::unique_ptr<CForeignReader> NewForeign() const;
     /// The filer of the foreign data once all before them was read; else null.
@@ -167,7 +147,6 @@ private:
     std::vector<CFiledValue> ValuesLeft() const;
 
     AcDb::FilerType m_type;
-    Acad::ErrorStatus m_status = Acad::eOk;
     const CDbRecord& m_record;
     std::size_t m_nAt = 0, m_nNextId = 0;
     std::unique_ptr<CForeignReader> m_pForeign; ///< from the first value on that is read of them
