@@ -3,24 +3,14 @@
 #include "analysis/numbers.h"
 #include "chart/chart_entity.h"
 #include "data/criteria.h"
+#include "data/date_text.h"
 #include "data/project_check.h"
 #include "data/san_zhou_record.h"
 #include "data/table_errors.h"
 #include "platform/acad/editor.h"
 #include "platform/windows/code_page.h"
 
-#include <ctime>
-
 namespace {
-CString Today() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    CString strDate;
-    strDate.Format("%d.%d.%d", local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
-    return strDate;
-}
-
 void Clear(CSanZhouRecord& row) {
     for (DBSTATUS* pStatus :
          {&row.m_dwStatusUUC, &row.m_dwStatusUUF, &row.m_dwStatusCUC, &row.m_dwStatusCUF, &row.m_dwStatusCUCE,
@@ -52,7 +42,7 @@ int CBRENChart::StoreAdoptedValues() {
         acutPrintf(L"\n三轴剪切试验表中无对应项!");
         return 0;
     }
-    GbkCopy(row.m_szSYRQ, sizeof row.m_szSYRQ, Today().View());
+    GbkCopy(row.m_szSYRQ, sizeof row.m_szSYRQ, DateText(CTime::GetCurrentTime()).View());
     Clear(row); // a store erases what another method had left in the row
     switch (Method()) {
     case CTestMethod::UU:

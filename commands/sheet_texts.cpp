@@ -1,6 +1,7 @@
 #include "commands/sheet_texts.h"
 
 #include "commands/text_conversion.h"
+#include "data/date_text.h"
 #include "data/project_context.h"
 #include "drawing/model_space.h"
 #include "platform/acad/db_text.h"
@@ -35,14 +36,12 @@ void InsertSupportBlock(const CString& strName) {
 
 void AddTitleStrip(const AcGePoint3d& ptCorner, const CBRENDlg& dialog) {
     InsertSupportBlock("gltka3.dwg");
-    CString strDate;
-    strDate.Format("%d.%d.%d", dialog.m_tDate.GetYear(), dialog.m_tDate.GetMonth(), dialog.m_tDate.GetDay());
     const auto add = [&ptCorner](double x, const CString& strText, double dHeight) {
         AddSheetText({ptCorner.x + x, ptCorner.y + g_dStripTextY, ptCorner.z}, strText, dHeight);
     };
     if (dialog.m_bUnit) add(6.0, dialog.m_strUnit, g_dStripTextHeight);
     if (dialog.m_bTester) add(190.0, dialog.m_strTester, g_dStripTextHeight);
     if (dialog.m_bChecker) add(260.0, dialog.m_strChecker, g_dStripTextHeight);
-    if (dialog.m_bDate) add(361.0, strDate, g_dStripDateHeight);
+    if (dialog.m_bDate) add(361.0, DateText(dialog.m_tDate), g_dStripDateHeight);
     add(120.0, "三轴剪切试验成果图", g_dStripTextHeight);
 }

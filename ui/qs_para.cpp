@@ -1,21 +1,14 @@
 #include "ui/qs_para.h"
 
 #include "commands/text_lists.h"
+#include "data/date_text.h"
 #include "data/project_db.h"
 #include "data/suite_statements.h"
-#include "platform/mfc/time.h"
 
 namespace {
 
 constexpr const char* g_pSection = "QSSet";
 constexpr const char* g_pDateRole = "日期";
-
-CString Today() {
-    const CTime now = CTime::GetCurrentTime();
-    CString strToday;
-    strToday.Format("%d.%d.%d", now.GetYear(), now.GetMonth(), now.GetDay());
-    return strToday;
-}
 
 } // namespace
 
@@ -28,7 +21,7 @@ int CQSPara::Exchange(int bLoad) {
 
 CString CQSPara::ShownName(const CString& strRole, const CString& strName) const {
     if (m_bLB) return {};
-    return m_bRQNow && strRole == g_pDateRole ? Today() : strName;
+    return m_bRQNow && strRole == g_pDateRole ? DateText(CTime::GetCurrentTime()) : strName;
 }
 
 int CQSPara::GetPeople(const CString& strDrawingClass, CStringArray* psaKeys, CStringArray* psaValues) {

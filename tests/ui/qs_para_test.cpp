@@ -3,8 +3,8 @@
 #include <filesystem>
 
 #include "commands/text_lists.h"
+#include "data/date_text.h"
 #include "platform/ado/sqlite_provider.h"
-#include "platform/mfc/time.h"
 #include "tests/support/suite_fixture.h"
 
 namespace {
@@ -47,10 +47,7 @@ protected:
 
 /// Today as a title block shows it.
 std::string Today() {
-    const CTime now = CTime::GetCurrentTime();
-    CString strToday;
-    strToday.Format("%d.%d.%d", now.GetYear(), now.GetMonth(), now.GetDay());
-    return strToday.GetString();
+    return DateText(CTime::GetCurrentTime()).GetString();
 }
 
 } // namespace
