@@ -31,6 +31,9 @@ int IsCurrentDrawing(const CString& strFile) {
     const AcDbDatabase* const pDatabase = acdbHostApplicationServices()->workingDatabase();
     std::wstring strCurrent;
     if (!pDatabase || pDatabase->getFilename(strCurrent) != Acad::eOk) return 0;
-    CString strUpper = strFile, strCurrentUpper = GbkFromWide(strCurrent.c_str()).c_str();
-    return strUpper.MakeUpper() == strCurrentUpper.MakeUpper() ? 1 : 0;
+    const auto plain = [](CString strPath) {
+        strPath.Replace('/', '\\');
+        return strPath.MakeUpper();
+    };
+    return plain(strFile) == plain(GbkFromWide(strCurrent.c_str())) ? 1 : 0;
 }

@@ -12,5 +12,6 @@ void AddToModelSpace(AcDbEntity* pEntity, AcDbObjectId& idEntity, AcDbDatabase* 
 /// Into the working drawing.
 void AddToModelSpace(AcDbEntity* pEntity, AcDbObjectId& idEntity);
 
-/// 1 when the working drawing's file has this name; upper and lower case are the same.
+/// 1 when the working drawing's file has this name; upper and lower case are the
+/// same, and so are the two slashes.
 int IsCurrentDrawing(const CString& strFile);

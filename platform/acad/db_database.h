@@ -137,9 +137,10 @@ public:
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
                              const AcGePoint3d& basePoint);
     /// Makes a block of what another drawing has in model space, and brings all its layers, styles, line
-    /// types and registered applications along. The source is preserved in any case. eNullObjectPointer,
-    /// eNoDatabase for one that holds nothing at all, eInvalidInput for this drawing itself and for no name,
-    /// eDuplicateRecordName for a block that is there.
+    /// types and registered applications along. A block of that name gets this content in place of its own.
+    /// The source is preserved in any case. eNullObjectPointer, eNoDatabase for one that holds nothing at
+    /// all, eInvalidInput for this drawing itself, for no name and for a space's; eSelfReference for a
+    /// content that the block itself is part of.
     Acad::ErrorStatus insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,
                              bool preserveSource = true);
     /// Clones the other drawing's model space into this one's, transformed.

@@ -1,7 +1,11 @@
 // Whole drawings and parts of them cloned from one into another.
 
+#include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_clone.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/wide_names.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +29,58 @@ void CloneVariables(const AcDbDatabase& source, const CCloner& cloner, AcDbDatab
     translate(&CDbVariables::m_idClayer);
     translate(&CDbVariables::m_idTextstyle);
     target.SetVariables(variables);
+}
+
+/// Whether what the source shows in model space leads to a block of that name. Blocks that the target has
+/// stand for those of their names.
+bool LeadsTo(const ACHAR* name, const AcDbDatabase& source, const AcDbDatabase& target) {
+    const auto* const pPresent = PeekObject<AcDbBlockTable>(target.blockTableId());
+    std::vector<AcDbObjectId> arBlocks{source.ModelSpaceId()};
+    for (std::size_t i = 0; i < arBlocks.size(); ++i) {
+        const CDbOpen<AcDbBlockTableRecord> block(arBlocks[i]);
+        if (!block) continue;
+        for (const AcDbObjectId id : block->EntityIds()) {
+            const auto* const pReference = PeekObject<AcDbBlockReference>(id);
+            if (!pReference) continue;
+            const auto* const pShown = PeekObject<AcDbBlockTableRecord>(pReference->blockTableRecord());
+            if (!pShown) continue;
+            if (SameName(pShown->Name(), name)) return true;
+            const AcDbObjectId idPresent = pPresent->Find(pShown->Name().c_str());
+            const AcDbObjectId idStanding = idPresent.isNull() ? pShown->objectId() : idPresent;
+            if (std::ranges::find(arBlocks, idStanding) == arBlocks.end()) arBlocks.push_back(idStanding);
+        }
+    }
+    return false;
+}
+
+Acad::ErrorStatus EraseContents(const AcDbBlockTableRecord& block) {
+    for (const AcDbObjectId id : block.EntityIds()) {
+        const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
+        if (!entity) return entity.Status();
+        entity->erase();
+    }
+    return Acad::eOk;
+}
+
+/// Makes the block of that name, or takes out what it holds; it gets a base point.
+Acad::ErrorStatus EmptyBlock(const AcDbDatabase& drawing, const ACHAR* name, const AcGePoint3d& base,
+                             AcDbObjectId& idBlock) {
+    const CDbOpen<AcDbBlockTable> table(drawing.blockTableId(), AcDb::kForWrite);
+    if (!table) return table.Status();
+    const AcDbObjectId idThere = table->Find(name);
+    if (idThere.isNull()) {
+        auto* const pBlock = new AcDbBlockTableRecord;
+        pBlock->setName(name);
+        pBlock->setOrigin(base);
+        table->add(idBlock, pBlock);
+        return pBlock->close();
+    }
+    if (idThere == drawing.ModelSpaceId() || idThere == PaperSpaceId(drawing)) return Acad::eInvalidInput;
+    const CDbOpen<AcDbBlockTableRecord> block(idThere, AcDb::kForWrite);
+    if (!block) return block.Status();
+    idBlock = idThere;
+    block->setOrigin(base);
+    return EraseContents(*block.Get());
 }
 
 /// Tables whose records come along with an inserted drawing even where nothing uses them.
@@ -105,16 +161,9 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this || !blockName || !*blockName) return Acad::eInvalidInput;
     if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
-    {
-        const CDbOpen<AcDbBlockTable> table(m_idBlockTable, AcDb::kForWrite);
-        if (!table) return table.Status();
-        if (table->has(blockName)) return Acad::eDuplicateRecordName;
-        auto* const pBlock = new AcDbBlockTableRecord;
-        pBlock->setName(blockName);
-        pBlock->setOrigin(pSource->insbase());
-        table->add(idBlock, pBlock);
-        pBlock->close();
-    }
+    if (LeadsTo(blockName, *pSource, *this)) return Acad::eSelfReference;
+    const Acad::ErrorStatus prepared = EmptyBlock(*this, blockName, pSource->insbase(), idBlock);
+    if (prepared != Acad::eOk) return prepared;
     AcDbIdMapping mapping;
     CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
     CloneStyles(*pSource, cloner);

@@ -46,8 +46,9 @@ constexpr const char* g_arStatusNames[] = {
     "eDuplicateRecordName",
     "eCannotScaleNonUniformly",
     "eFileAccessErr",
+    "eSelfReference",
 };
-static_assert(std::size(g_arStatusNames) == Acad::eFileAccessErr + 1, "every status has its name");
+static_assert(std::size(g_arStatusNames) == Acad::eSelfReference + 1, "every status has its name");
 
 } // namespace
 

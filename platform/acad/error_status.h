@@ -45,6 +45,7 @@ enum ErrorStatus {
     eDuplicateRecordName = 37,
     eCannotScaleNonUniformly = 38, ///< the object cannot follow a scale that differs by direction
     eFileAccessErr = 39,           ///< a file cannot be read or written
+    eSelfReference = 40,           ///< a block would be part of itself
 };
 
 /// The status's name, for messages ("eWasErased").

@@ -47,13 +47,21 @@ void AddOnce(AcDbObjectId id, CIds& ids) {
     if (std::find(ids.begin(), ids.end(), id) == ids.end()) ids.push_back(id);
 }
 
-/// The living entities of a block in database order, whoever has it open.
-CIds EntitiesOf(AcDbObjectId idBlock) {
+bool IsBefore(const AcDbObjectId& a, const AcDbObjectId& b) {
+    return a.handle() < b.handle();
+}
+
+/// The living entities of a block, whoever has it open.
+CIds LivingOf(AcDbObjectId idBlock) {
     const CDbOpen<AcDbBlockTableRecord> opened(idBlock); // nothing where it is open for writing already
     const auto* const pBlock = PeekObject<AcDbBlockTableRecord>(idBlock);
-    CIds ids = pBlock && pBlock->isReadEnabled() ? pBlock->EntityIds() : CIds();
-    std::sort(ids.begin(), ids.end(),
-              [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
+    return pBlock && pBlock->isReadEnabled() ? pBlock->EntityIds() : CIds();
+}
+
+/// The same in database order.
+CIds EntitiesOf(AcDbObjectId idBlock) {
+    CIds ids = LivingOf(idBlock);
+    std::sort(ids.begin(), ids.end(), IsBefore);
     return ids;
 }
 
@@ -119,6 +127,17 @@ int acedEntSel(const ACHAR* prompt, ads_name name, ads_point point) {
     if (result == CPromptResult::None) return RTERROR;
     PutName(id, name);
     PutPoint(picked, point);
+    return RTNORM;
+}
+
+int acdbEntLast(ads_name result) {
+    const AcDbDatabase* const pDrawing = acdbHostApplicationServices()->workingDatabase();
+    if (!pDrawing || !result) return RTERROR;
+    const CIds ids = LivingOf(pDrawing->ModelSpaceId());
+    ads_name name;
+    if (ids.empty() || acdbGetAdsName(name, *std::ranges::max_element(ids, IsBefore)) != Acad::eOk)
+        return RTERROR;
+    std::copy(std::begin(name), std::end(name), result);
     return RTNORM;
 }
 

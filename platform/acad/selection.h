@@ -8,6 +8,9 @@
 /// RTERROR when nothing is picked, RTCAN when the user cancelled.
 int acedEntSel(const ACHAR* prompt, ads_name name, ads_point point);
 
+/// The last entity of the working drawing's model space. RTERROR when there is none.
+int acdbEntLast(ads_name result);
+
 /// Makes a selection of entities of the working drawing. mode is null (the user picks), "X" (model and paper
 /// space), "L" (the last of model space), "P" (what was selected before, other than by "X"), "C" (model
 /// space, what passes through the box of two corners) or "W" (what lies wholly in it); pt1 and pt2 are the

@@ -56,11 +56,12 @@ TEST(AddToModelSpace, LeavesANullIdWhereThereIsNoDrawing) {
     EXPECT_TRUE(id.isNull());
 }
 
-TEST(IsCurrentDrawing, ComparesTheFilesNameWithoutCase) {
+TEST(IsCurrentDrawing, ComparesTheFilesNameWithoutCaseAndKindOfSlash) {
     CTestDrawing drawing;
     EXPECT_EQ(IsCurrentDrawing("C:\\out\\BR勘察-1.dwg"), 0) << "a drawing without a file";
     drawing.Database().SetFilename(L"C:\\out\\BR勘察-1.dwg");
     EXPECT_EQ(IsCurrentDrawing("c:\\OUT\\br勘察-1.DWG"), 1);
+    EXPECT_EQ(IsCurrentDrawing("C:/out\\BR勘察-1.dwg"), 1);
     EXPECT_EQ(IsCurrentDrawing("C:\\out\\BR勘察-2.dwg"), 0);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
     EXPECT_EQ(IsCurrentDrawing("C:\\out\\BR勘察-1.dwg"), 0);

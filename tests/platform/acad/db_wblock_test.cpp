@@ -118,16 +118,49 @@ TEST_F(DbWblock, InsertKeepsTheRecordsThatAreThere) {
     EXPECT_EQ(CDbOpen<AcDbLayerTable>(m_target.layerTableId())->RecordIds().size(), 2U);
 }
 
-TEST_F(DbWblock, InsertRefusesNoDrawingItselfAndANameThatIsThere) {
+TEST_F(DbWblock, InsertRefusesNoDrawingItselfAndNamesOfSpaces) {
     EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", nullptr), Acad::eNullObjectPointer);
     EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_target), Acad::eInvalidInput);
     EXPECT_EQ(m_target.insert(m_idBlock, L"", &m_source), Acad::eInvalidInput);
     EXPECT_EQ(m_target.insert(m_idBlock, nullptr, &m_source), Acad::eInvalidInput);
-    AddBlock(m_target, L"frame");
-    EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eDuplicateRecordName);
+    EXPECT_EQ(m_target.insert(m_idBlock, L"*MODEL_SPACE", &m_source), Acad::eInvalidInput);
+    EXPECT_EQ(m_target.insert(m_idBlock, ACDB_PAPER_SPACE, &m_source), Acad::eInvalidInput);
     EXPECT_TRUE(m_idBlock.isNull());
     EXPECT_EQ(m_target.insert(AcGeMatrix3d(), nullptr), Acad::eNullObjectPointer);
     EXPECT_EQ(m_target.insert(AcGeMatrix3d(), &m_target), Acad::eInvalidInput);
+}
+
+TEST_F(DbWblock, InsertGivesABlockThatIsThereAnotherContent) {
+    const AcDbObjectId idThere = AddBlock(m_target, L"frame");
+    const AcDbObjectId idLine = AppendTo(idThere, new AcDbLine({0, 0, 0}, {9, 9, 0}));
+    m_target.UndoLog().BeginStep();
+    ASSERT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eOk);
+    EXPECT_EQ(m_idBlock, idThere);
+    EXPECT_TRUE(idLine.isErased());
+    EXPECT_EQ(Entities(idThere).size(), 2U);
+    EXPECT_EQ(CDbOpen<AcDbBlockTableRecord>(idThere)->origin(), AcGePoint3d(1, 1, 0));
+    m_target.UndoLog().Undo(1);
+    EXPECT_EQ(Entities(idThere), std::vector<AcDbObjectId>{idLine});
+    EXPECT_EQ(CDbOpen<AcDbBlockTableRecord>(idThere)->origin(), AcGePoint3d());
+}
+
+TEST_F(DbWblock, InsertLeavesABlockWhoseContentIsInUse) {
+    const AcDbObjectId idThere = AddBlock(m_target, L"FRAME");
+    const CDbOpen<AcDbLine> line(AppendTo(idThere, new AcDbLine({0, 0, 0}, {9, 9, 0})));
+    EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eWasOpenForRead);
+    EXPECT_EQ(Entities(idThere).size(), 1U);
+}
+
+TEST_F(DbWblock, InsertRefusesAContentThatTheBlockIsPartOf) {
+    const AcDbObjectId idInner = AddBlock(m_source, L"frame"), idOuter = AddBlock(m_source, L"OUTER");
+    AppendTo(idOuter, new AcDbBlockReference({0, 0, 0}, idInner));
+    EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eOk) << "nothing shows the block";
+    Append(m_source, new AcDbBlockReference({0, 0, 0}, idOuter));
+    EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eSelfReference);
+    EXPECT_EQ(Entities(m_idBlock).size(), 2U);
+    // The target's OUTER stands for the source's, and shows nothing.
+    AddBlock(m_target, L"Outer");
+    EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eOk);
 }
 
 TEST_F(DbWblock, InsertPutsAnotherDrawingIntoModelSpaceTransformed) {

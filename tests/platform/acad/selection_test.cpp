@@ -88,6 +88,20 @@ TEST_F(Selection, LTakesTheLastOfModelSpaceIfItPassesTheFilter) {
     EXPECT_EQ(Get(L"L", texts.Get()), CIds{});
 }
 
+TEST_F(Selection, TheLastEntityIsThatOfModelSpace) {
+    ads_name name{};
+    EXPECT_EQ(acdbEntLast(name), RTERROR);
+    AddLine({0, 0, 0}, {1, 0, 0});
+    const AcDbObjectId idSecond = AddLine({0, 0, 0}, {2, 0, 0}), idErased = AddLine({0, 0, 0}, {3, 0, 0});
+    CDbOpen<AcDbEntity>(idErased, AcDb::kForWrite)->erase();
+    ASSERT_EQ(acdbEntLast(name), RTNORM);
+    AcDbObjectId id;
+    EXPECT_EQ(acdbGetObjectId(id, name), Acad::eOk);
+    EXPECT_EQ(id, idSecond);
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    EXPECT_EQ(acdbEntLast(name), RTERROR);
+}
+
 TEST_F(Selection, PTakesWhatWasSelectedBeforeOtherThanByXAsFarAsItLives) {
     const AcDbObjectId first = AddLine({0, 0, 0}, {1, 0, 0});
     EXPECT_EQ(Get(L"P"), CIds{});
