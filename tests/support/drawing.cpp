@@ -1,5 +1,8 @@
 #include "tests/support/drawing.h"
 
+#include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
+
 CTestDrawing::CTestDrawing() {
     SetTextMetrics(&m_metrics);
     SetEditorHost(this);
@@ -13,8 +16,10 @@ CTestDrawing::~CTestDrawing() {
 }
 
 std::string CTestDrawing::FindFile(const std::string& strName) {
-    return m_bHasLinetypeFile && strName == "acad.lin" ? std::string(TERVO_TEST_DATA) + "/acad.lin"
-                                                       : std::string();
+    if (m_bHasLinetypeFile && strName == "acad.lin") return std::string(TERVO_TEST_DATA) + "/acad.lin";
+    std::string strPath, strFound;
+    if (m_bFindsFiles && ResolvePath({}, strName, &strPath)) Utf8ToGbk(strPath, &strFound);
+    return strFound;
 }
 
 CPromptResult CTestDrawing::AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d*) {

@@ -16,8 +16,8 @@ public:
     }
 };
 
-/// A drawing in force, a line type file that holds "Dashed2", and fixed text widths, for the length of a
-/// test. What the module prints is kept.
+/// A drawing in force, a line type file that holds "Dashed2" (other files are found by their paths), and
+/// fixed text widths, for the length of a test. What the module prints is kept.
 class CTestDrawing final : public CEditorHost {
 public:
     CTestDrawing();
@@ -28,6 +28,7 @@ public:
     AcDbDatabase& Database() { return m_database; }
     std::string m_strPrinted; ///< GBK
     bool m_bHasLinetypeFile = true;
+    bool m_bFindsFiles = true;           ///< others than the line type file
     std::vector<AcDbObjectId> m_arPicks; ///< what is picked when asked; nothing: cancelled
     std::string m_strPrompt;             ///< of the last pick, GBK
 
