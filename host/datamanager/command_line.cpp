@@ -9,6 +9,7 @@
 
 #include "host/datamanager/database_failure.h"
 #include "host/datamanager/failure.h"
+#include "host/datamanager/frame_choice.h"
 #include "host/datamanager/import.h"
 #include "host/datamanager/installation.h"
 #include "host/datamanager/listing.h"
@@ -32,6 +33,7 @@ struct COptions {
     std::string m_strNumber;
     std::string m_strName;
     std::string m_strConnect;
+    std::string m_strTemplate;
     std::int16_t m_nStandard = 0;
     std::vector<std::string> m_arFiles;
     bool m_bReplace = false;
@@ -97,6 +99,11 @@ ExitStatus List(const COptions& options) {
         status = ExitStatus::NoAccess;
     }
     return status;
+}
+
+ExitStatus Template(const COptions& options) {
+    ChooseFrame(OpenInstallation(options), FromTerminal(options.m_strTemplate));
+    return ExitStatus::Done;
 }
 
 ExitStatus Results(const COptions& options) {
@@ -194,6 +201,9 @@ private:
         AddNumber(pOpen);
         pOpen->add_flag("--foreground", m_options.m_bForeground, "Do not go to the background");
         AddRoot(Add("close", "Ends the resident data manager", Close));
+        CLI::App* pTemplate = Add("template", "Makes a file the frame template", Template);
+        AddRoot(pTemplate);
+        pTemplate->add_option("FILE", m_options.m_strTemplate, "A name in the folder Templates")->required();
     }
 
     void AddShowing() {

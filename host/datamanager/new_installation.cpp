@@ -2,7 +2,10 @@
 
 #include <filesystem>
 
+#include "host/datamanager/default_rows.h"
 #include "host/datamanager/failure.h"
+#include "host/datamanager/frame_choice.h"
+#include "host/datamanager/frame_templates.h"
 #include "host/datamanager/ini_file.h"
 #include "host/datamanager/installation.h"
 #include "host/datamanager/layout.h"
@@ -21,10 +24,12 @@ void WriteFile(const fs::path& path, const std::string& strText) {
         throw CFailure(ExitStatus::NoAccess, path.string() + ": the file cannot be written");
 }
 
-void MakeDatabase(const std::string& strPath, std::span<const CTable* const> arTables) {
+void MakeDatabase(const std::string& strPath, std::span<const CTable* const> arTables,
+                  void (*pfnFill)(CDbConnection&)) {
     const auto pDatabase = CreateSqliteDatabase(strPath);
     CDbTransaction transaction(*pDatabase);
     LayOutTables(*pDatabase, arTables);
+    pfnFill(*pDatabase);
     transaction.Commit();
 }
 
@@ -37,9 +42,12 @@ void MakeInstallation(const std::string& strRoot) {
         throw CFailure(ExitStatus::Refused, root.string() + ": the folder already holds an installation");
     for (const char* pszFolder : {"Data", "Projects", "Templates", "Support/Block", "Output"})
         fs::create_directories(root / pszFolder);
-    MakeDatabase(strBelow + "Data/common.db", CommonTables());
-    MakeDatabase(strBelow + "Data/config.db", ConfigTables());
+    MakeDatabase(strBelow + "Data/common.db", CommonTables(), FillCommonDatabase);
+    MakeDatabase(strBelow + "Data/config.db", ConfigTables(), FillConfigDatabase);
     WriteFile(root / "Support" / "acad.lin", LineTypeFile());
+    WriteFile(root / "Templates" / g_pPortraitFile, PortraitFrame());
+    WriteFile(root / "Templates" / g_pLandscapeFile, LandscapeFrame());
+    WriteFile(root / "Support" / "Block" / "gltka3.dwg", TitleStrip());
     WriteFile(root / "Settings.ini", "");
     WriteFile(root / "Marks.ini", "");
     const CIniFile project(strBelow + "Project.ini");

@@ -6,7 +6,7 @@
 
 namespace fs = std::filesystem;
 
-TEST(Init, MakesFoldersIniFilesDatabasesAndLineTypes) {
+TEST(Init, MakesFoldersIniFilesDatabasesLineTypesAndTemplates) {
     const CProgram program;
     program.Do("init \"$ROOT\"");
     for (const char* pszFolder : {"Data", "Projects", "Templates", "Support/Block", "Output"})
@@ -26,6 +26,9 @@ TEST(Init, MakesFoldersIniFilesDatabasesAndLineTypes) {
               "LiuBai\n"
               "t_OthInfo\n");
     EXPECT_NE(program.Read("Support/acad.lin").find("*Dashed2,"), std::string::npos);
+    for (const char* pszDrawing :
+         {"Templates/BREN-A4.dwg", "Templates/BREN-A3.dwg", "Support/Block/gltka3.dwg"})
+        EXPECT_EQ(program.Read(pszDrawing).substr(0, 6), "AC1015") << pszDrawing;
 }
 
 TEST(Init, RefusesAFolderThatHoldsAnInstallation) {
