@@ -20,19 +20,20 @@ CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, const CBRENDlg& dialog, CStrin
 }
 
 int CSheetMaker::PlaceGroup(const CArray<QYPropty>& samples, const AcGePoint3d& ptPicked) {
-    if (!m_block.Prepare()) return 0;
+    if (!m_template.Load()) return 0;
     // As many sheets as samples, also where a sheet takes two charts: those past the charts' end stay empty.
     for (int nSheet = 1; nSheet <= samples.GetSize(); nSheet++)
-        if (!PlaceSheet(samples, SheetCorner(ptPicked, nSheet), (nSheet - 1) * m_nChartsPerSheet)) return 0;
+        if (!PlaceSheet(samples, SheetCorner(ptPicked, nSheet), nSheet)) return 0;
     return 1;
 }
 
-int CSheetMaker::PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& ptCorner, int nFirst) {
-    m_block.AddReference(SheetBlockPoint(ptCorner));
+int CSheetMaker::PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& ptCorner, int nSheet) {
+    m_template.AddFrame(nSheet, SheetBlockPoint(ptCorner));
     CreateTextStyleFromIni(g_pSheetTextStyle, m_idTextStyle, m_pDatabase);
     m_strLabel.Empty();
     m_strMethod.Empty();
     const AcGePoint3d ptFirst = FirstChartPoint(ptCorner, m_dialog.m_nGCBZ);
+    const int nFirst = (nSheet - 1) * m_nChartsPerSheet;
     const int nRows = m_nChartsPerSheet / m_nChartsPerRow;
     for (int nRow = 0; nRow < nRows; nRow++) {
         for (int nColumn = 0; nColumn < m_nChartsPerRow; nColumn++) {
@@ -49,7 +50,7 @@ int CSheetMaker::PlaceSheet(const CArray<QYPropty>& samples, const AcGePoint3d& 
 
 void CSheetMaker::AddTexts(const AcGePoint3d& ptCorner) const {
     AddSheetText({ptCorner.x + 28.0, ptCorner.y - 46.0, ptCorner.z}, m_strLabel);
-    const AcGePoint3d ptMethod = SheetBlockPoint(ptCorner) + m_block.MethodOffset();
+    const AcGePoint3d ptMethod = SheetBlockPoint(ptCorner) + m_template.MethodOffset();
     AddSheetText({ptMethod.x, ptMethod.y, 0.0}, m_strMethod);
     if (m_dialog.m_nGCBZ == g_nStandardWithStrip) AddTitleStrip(ptCorner, m_dialog);
 }

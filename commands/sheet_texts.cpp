@@ -3,18 +3,17 @@
 #include "commands/text_conversion.h"
 #include "data/date_text.h"
 #include "data/project_context.h"
+#include "drawing/drawing_file.h"
 #include "drawing/model_space.h"
 #include "platform/acad/db_text.h"
 #include "platform/acad/editor.h"
 #include "ui/bren_dlg.h"
 
-#include <array>
-
 namespace {
 constexpr double g_dStripTextY = -287.0 + 3.0; // from the sheet's top
 constexpr double g_dStripTextHeight = 5.0;
 constexpr double g_dStripDateHeight = 4.0;
-constexpr std::size_t g_nFoundPath = 1024;
+constexpr double g_dStripScale = 1000.0; // the strip is drawn in metres
 } // namespace
 
 void AddSheetText(const AcGePoint3d& ptPosition, const CString& strText, double dHeight) {
@@ -22,20 +21,22 @@ void AddSheetText(const AcGePoint3d& ptPosition, const CString& strText, double 
     AddToModelSpace(new AcDbText(ptPosition, ToWide(strText), AcDbObjectId::kNull, dHeight, 0.0), idText);
 }
 
-void InsertSupportBlock(const CString& strName) {
+void InsertSupportBlock(const CString& strName, const AcGePoint3d& ptPosition, double dRotation,
+                        double dScale) {
     const CString strFile = strName.Mid(strName.ReverseFind('\\') + 1);
     CString strRoot;
     if (!GetRootPath(&strRoot)) {
         acutPrintf(L"\n读取路径出错!");
         return;
     }
-    std::array<ACHAR, g_nFoundPath> path{};
-    if (acedFindFile(ToWide(strRoot + "\\Support\\Block\\" + strFile), path.data()) != RTNORM)
+    CString strFound;
+    if (!FindDrawingFile(strRoot + "\\Support\\Block\\" + strFile, strFound))
         acutPrintf(L"\n缺图框文件%s!", ToWide(strFile));
+    InsertDwgAsBlock(strFound, ptPosition, dRotation, dScale);
 }
 
 void AddTitleStrip(const AcGePoint3d& ptCorner, const CBRENDlg& dialog) {
-    InsertSupportBlock("gltka3.dwg");
+    InsertSupportBlock("gltka3.dwg", {ptCorner.x - 24.0, ptCorner.y - 292.0, 0.0}, 0.0, g_dStripScale);
     const auto add = [&ptCorner](double x, const CString& strText, double dHeight) {
         AddSheetText({ptCorner.x + x, ptCorner.y + g_dStripTextY, ptCorner.z}, strText, dHeight);
     };

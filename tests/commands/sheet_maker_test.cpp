@@ -1,10 +1,12 @@
 #include "commands/sheet_maker.h"
 
+#include "drawing/xdata.h"
 #include "frame/frame_entity.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/windows/code_page.h"
 #include "tests/support/drawing.h"
 #include "tests/support/project.h"
+#include "tests/support/template_file.h"
 #include "ui/bren_dlg.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +16,7 @@ class SheetMaker : public testing::Test {
 protected:
     CTestProject m_project;
     CTestDrawing m_drawing;
+    CTemplateFile m_template;
     CArray<QYPropty> m_samples;
     CBRENDlg m_dialog{"test"};
 
@@ -21,6 +24,8 @@ protected:
         CBRENChart::rxInit();
         CBRENFrame::rxInit();
         m_dialog.m_nGCSY = 1;
+        m_dialog.m_pageGen.m_strFramePath = CString(m_project.Root().c_str()) + "\\";
+        m_dialog.m_pageGen.m_strFrameFile = "frame.dwg";
     }
     ~SheetMaker() override {
         CBRENFrame::rxExit();
@@ -39,6 +44,7 @@ protected:
     }
     int Place(Adesk::Int32 nGCBZ) {
         m_dialog.m_nGCBZ = nGCBZ;
+        m_template.Write(m_project.Root() + "/frame.dwg");
         return CSheetMaker(&m_drawing.Database(), m_dialog, "GC-1").PlaceGroup(m_samples, {0, 0, 4});
     }
     /// What the entities of a class in model space are asked, in order of appending.
@@ -98,6 +104,37 @@ TEST_F(SheetMaker, GivesEverySampleASheetWithItsFrameAndItsTexts) {
     EXPECT_EQ(Texts(), (CTexts{"28,251 试样编号：ZK1-1-1", "0,0 不固结不排水剪", "248,251 试样编号：ZK1-1-2",
                                "220,0 不固结不排水剪"}));
     EXPECT_EQ(m_drawing.m_strPrinted, "");
+}
+
+TEST_F(SheetMaker, PutsTheMethodWhereTheTemplateHasItsMark) {
+    m_template.AddText("[SYFF]", {30, 40, 9});
+    Samples(2);
+    ASSERT_EQ(Place(0), 1);
+    EXPECT_EQ(Texts(), (CTexts{"28,251 试样编号：ZK1-1-1", "30,40 不固结不排水剪",
+                               "248,251 试样编号：ZK1-1-2", "250,40 不固结不排水剪"}));
+    EXPECT_EQ(Each<AcDbText>([](const AcDbText& text) { return text.position().z; }),
+              (std::vector<double>{4, 0, 4, 0}));
+}
+
+TEST_F(SheetMaker, NumbersAndNamesTheFramesOfAGroup) {
+    m_template.AddText("[TH]", {0, 0, 0});
+    Samples(2);
+    ASSERT_EQ(Place(0), 1);
+    const auto names = Each<AcDbBlockReference>([](const AcDbBlockReference& frame) {
+        CString strName;
+        GetXDataText(&frame, "NAME", strName);
+        return std::string(strName.GetString());
+    });
+    EXPECT_EQ(names, (CTexts{"三轴剪切-1", "三轴剪切-2"}));
+}
+
+TEST_F(SheetMaker, PlacesNothingWithoutATemplate) {
+    Samples(1);
+    m_dialog.m_pageGen.m_strFrameFile = "other.dwg";
+    EXPECT_EQ(Place(0), 0);
+    EXPECT_TRUE(BlockPoints().empty());
+    EXPECT_TRUE(Bases().empty());
+    EXPECT_EQ(m_drawing.m_strPrinted, "\n图框文件" + m_project.Root() + "\\other.dwg不存在!");
 }
 
 TEST_F(SheetMaker, GivesSheetsPastTheLastChartAFrameAndEmptyTexts) {

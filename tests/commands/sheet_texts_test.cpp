@@ -1,15 +1,17 @@
 #include "commands/sheet_texts.h"
 
-#include "platform/acad/db_text.h"
+#include "platform/acad/db_block_reference.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
 #include "tests/support/drawing.h"
 #include "tests/support/project.h"
+#include "tests/support/template_file.h"
 #include "ui/bren_dlg.h"
 
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <filesystem>
 
 namespace {
 class SheetTexts : public testing::Test {
@@ -67,12 +69,29 @@ TEST_F(SheetTexts, OfAStripShowWhatTheDialogHasShown) {
 }
 
 TEST_F(SheetTexts, NameASupportDrawingThatIsNotThereWithoutItsFolders) {
-    InsertSupportBlock("C:\\somewhere\\strip.dwg");
+    InsertSupportBlock("C:\\somewhere\\strip.dwg", {0, 0, 0}, 0.0, 1.0);
     EXPECT_EQ(m_drawing.m_strPrinted, "\n缺图框文件strip.dwg!");
+    EXPECT_EQ(Texts(), CTexts());
+}
+
+TEST_F(SheetTexts, OfAStripStandOnItsDrawing) {
+    CTemplateFile strip;
+    strip.AddText("单位", {0, 0, 0});
+    std::filesystem::create_directories(m_project.Root() + "/Support/Block");
+    strip.Write(m_project.Root() + "/Support/Block/gltka3.dwg");
+    AddTitleStrip({10.0, 297.0, 2.0}, CBRENDlg("test"));
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
+    const CDbOpen<AcDbBlockTableRecord> pSpace(m_drawing.Database().ModelSpaceId());
+    ASSERT_EQ(pSpace->EntityIds().size(), 2U);
+    const CDbOpen<AcDbBlockReference> reference(pSpace->EntityIds()[0]);
+    ASSERT_TRUE(reference);
+    EXPECT_EQ(reference->position(), AcGePoint3d(-14, 5, 0));
+    EXPECT_EQ(reference->rotation(), 0.0);
+    EXPECT_EQ(reference->scaleFactors(), AcGeScale3d(1000.0));
 }
 
 TEST_F(SheetTexts, SayThatTheSuitesFolderCannotBeHad) {
     SetInstallationRoot(m_project.Root() + "/none");
-    InsertSupportBlock("strip.dwg");
+    InsertSupportBlock("strip.dwg", {0, 0, 0}, 0.0, 1.0);
     EXPECT_EQ(m_drawing.m_strPrinted, "\n读取路径出错!");
 }

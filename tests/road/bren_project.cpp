@@ -85,6 +85,16 @@ CJson CBrenProject::Entities() const {
     return CJson::parse(m_program.Folder().Read("dump.json"))["modelSpace"];
 }
 
+CJson CBrenProject::FrameEntities() const {
+    const CJson dump = CJson::parse(m_program.Folder().Read("dump.json"));
+    CJson shown = CJson::array();
+    for (const CJson& block : dump["blocks"])
+        if (block["name"] == "BRMB")
+            for (const CJson& entity : block["entities"])
+                if (entity["class"] != "AcDbAttributeDefinition") shown.push_back(entity);
+    return shown;
+}
+
 CJson CBrenProject::Charts() const {
     CJson charts = CJson::array();
     for (const CJson& entity : Entities())

@@ -62,6 +62,8 @@ public:
     std::string Dump() const { return "DUMP " + m_program.Folder().Path("dump.json") + "\n"; }
     /// Model space as it was dumped last.
     CJson Entities() const;
+    /// What it shows of the block of frames.
+    CJson FrameEntities() const;
     /// Its charts' fields.
     CJson Charts() const;
     /// A key of the marks, "(none)" where there is none.

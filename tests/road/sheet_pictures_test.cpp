@@ -40,13 +40,18 @@ std::vector<std::string> Matches(const std::string& strText, const char* pPatter
     return matches;
 }
 
-/// The texts of the chart's picture and of the frame's, without empty ones, sorted.
-std::vector<std::string> TextsOf(const CJson& entities) {
+/// The texts of the sheet's picture, its frame's included, without empty ones, sorted.
+std::vector<std::string> TextsOf(const CBrenProject& project) {
     std::vector<std::string> texts;
-    for (const CJson& entity : entities) {
-        texts.push_back(entity.value("text", ""));
-        for (const CJson& primitive : entity.value("world", CJson::array()))
-            texts.push_back(primitive.value("text", ""));
+    const auto add = [&texts](const CJson& parts) {
+        for (const CJson& part : parts)
+            texts.push_back(part.value("text", ""));
+    };
+    add(project.FrameEntities());
+    add(project.Entities());
+    for (const CJson& entity : project.Entities()) {
+        add(entity.value("attributes", CJson::array()));
+        add(entity.value("world", CJson::array()));
     }
     std::erase(texts, "");
     std::sort(texts.begin(), texts.end());
@@ -69,7 +74,7 @@ class SheetTexts : public testing::TestWithParam<const char*> {};
 TEST_P(SheetTexts, AreTextsInSvgAndPdf) {
     const CPlottedSheet sheet(GetParam());
     sheet.Generate(sheet.Plot("a.svg") + sheet.Plot("a.pdf") + sheet.m_project.Dump());
-    const std::vector<std::string> texts = TextsOf(sheet.m_project.Entities());
+    const std::vector<std::string> texts = TextsOf(sheet.m_project);
     EXPECT_GT(texts.size(), 50U);
     std::vector<std::string> svg = Matches(sheet.Read("a.svg"), "<text [^>]*>([^<]*)</text>");
     std::sort(svg.begin(), svg.end());
