@@ -4,9 +4,13 @@
 #include "host/files/registered_drawing_files.h"
 #include "platform/acad/db_attribute.h"
 #include "platform/acad/db_database.h"
+#include "platform/mfc/string.h"
 #include "platform/windows/code_page.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
+#include <vector>
 
 /// A drawing that becomes a file. Texts are GBK, 2.5 high.
 class CTemplateFile {
@@ -32,11 +36,15 @@ public:
         m_arOpen.push_back(pEntity);
         return pEntity;
     }
-    /// Writes the file (UTF-8 path).
-    void Write(const std::string& strPath) {
+    /// Closes the entities.
+    void Close() {
         for (AcDbEntity* const pEntity : m_arOpen)
             pEntity->close();
         m_arOpen.clear();
+    }
+    /// Writes the file (UTF-8 path).
+    void Write(const std::string& strPath) {
+        Close();
         const std::wstring strWide = WideFromGbk(CString(strPath.c_str()).View());
         ASSERT_EQ(m_drawing.saveAs(strWide.c_str()), Acad::eOk) << strPath;
     }

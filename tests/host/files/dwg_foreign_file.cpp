@@ -5,58 +5,20 @@
 #include "host/files/dwg_dictionaries.h"
 #include "host/files/dwg_drawing_writer.h"
 #include "host/files/dwg_table_records.h"
+#include "tests/support/foreign/renumbering.h"
 
 namespace {
 
 /// Where an object of a new drawing stands in a file of the other program.
 std::uint64_t Elsewhere(std::uint64_t nHandle) {
-    return nHandle == 0 ? 0 : nHandle + 0x21;
-}
-
-void Move(CDwgHandle& handle) {
-    handle.m_nValue = Elsewhere(handle.m_nValue);
-}
-
-void MoveRoots(CDwgVariables& vars) {
-    CDwgRoots& roots = vars.m_roots;
-    for (CDwgHandle* pHandle : {&roots.m_hBlocks,       &roots.m_hLayers,
-                                &roots.m_hStyles,       &roots.m_hLinetypes,
-                                &roots.m_hViews,        &roots.m_hUcss,
-                                &roots.m_hViewports,    &roots.m_hApps,
-                                &roots.m_hDimstyles,    &roots.m_hViewportEntities,
-                                &roots.m_hGroups,       &roots.m_hMlineStyles,
-                                &roots.m_hNamedObjects, &roots.m_hLayouts,
-                                &roots.m_hPlotSettings, &roots.m_hPlotStyles,
-                                &roots.m_hPaperSpace,   &roots.m_hModelSpace,
-                                &roots.m_hByLayer,      &roots.m_hByBlock,
-                                &roots.m_hContinuous,   &vars.m_hClayer,
-                                &vars.m_hTextstyle,     &vars.m_hCeltype,
-                                &vars.m_hDimstyle,      &vars.m_hCmlstyle,
-                                &vars.m_hDimtxsty})
-        Move(*pHandle);
-}
-
-/// An empty drawing with all handles moved.
-CDwgFile MovedFile() {
-    const CDwgFile file = DwgFileOf(AcDbDatabase());
-    CDwgFile moved = file;
-    moved.m_contents.clear();
-    for (const auto& [nHandle, content] : file.m_contents) {
-        CDwgRecord record = ReadDwgRecord(content, nHandle);
-        record.m_nHandle = Elsewhere(nHandle);
-        for (CDwgHandle& handle : record.m_arHandles)
-            Move(handle);
-        moved.m_contents[record.m_nHandle] = WriteDwgRecord(record);
-    }
-    MoveRoots(moved.m_variables);
-    return moved;
+    return nHandle + 0x21;
 }
 
 class CForeignBuilder {
 public:
     explicit CForeignBuilder(bool bNeighbours)
         : m_bNeighbours(bNeighbours)
-        , m_file(MovedFile()) {}
+        , m_file(Renumbered(DwgFileOf(AcDbDatabase()), Elsewhere)) {}
 
     CDwgFile Build() {
         SetVariables();

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "host/files/dwg_file.h"
+
+inline constexpr const char *g_pForeignLayer = "RAHMEN", *g_pForeignStyle = "SCHRIFT";
+
+/// Puts all texts of a file of page 936 into page 1252, with escapes for what that lacks.
+void MakeWestern(CDwgFile& file);
+
+/// Puts model space on a layer of its own and gives each style but the standard one another name.
+void GiveOtherNames(CDwgFile& file);
