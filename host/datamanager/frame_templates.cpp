@@ -14,23 +14,24 @@ constexpr double g_dThin = 0.0;
 // The A4 sheet. The chart's place is 176 by 257 from (25, 5); its topmost 15 are free for the lowest row,
 // into which the sample's number comes at (28, 251). A wide table of stresses reaches to 206.8.
 constexpr double g_dPortraitLeft = 25.0;
-constexpr double g_dPortraitRight = 207.5;
+constexpr double g_dPortraitRight = 208.0;
 constexpr double g_dPortraitRow = 7.0;
-constexpr double g_dPortraitTitle = 277.0;
+constexpr double g_dPortraitTitle = 276.75; // so that the sample's number is in the middle of its row
 
 constexpr std::array g_arPortraitProject = {
     CTitleCell{22.0, Caption, "工程名称"}, CTitleCell{92.5, Field, "[GCMC]"},
-    CTitleCell{22.0, Caption, "工程编号"}, CTitleCell{46.0, Field, "[GCBH]"}};
+    CTitleCell{22.0, Caption, "工程编号"}, CTitleCell{46.5, Field, "[GCBH]"}};
 constexpr std::array g_arPortraitUnit = {
     CTitleCell{22.0, Caption, "完成单位"}, CTitleCell{92.5, Mark, "[WCDW]"},
-    CTitleCell{22.0, Caption, "钻孔编号"}, CTitleCell{46.0, Field, "[ZKBH]"}};
+    CTitleCell{22.0, Caption, "钻孔编号"}, CTitleCell{46.5, Field, "[ZKBH]"}};
+// Its fourth caption stands in the column of the other rows'.
 constexpr std::array g_arPortraitPeople = {CTitleCell{14.0, Caption, "试验"}, CTitleCell{24.0, Mark, "[SYZ]"},
                                            CTitleCell{14.0, Caption, "检查"}, CTitleCell{24.0, Mark, "[JCZ]"},
-                                           CTitleCell{14.0, Caption, "审核"}, CTitleCell{24.0, Mark, "[SH]"},
-                                           CTitleCell{14.0, Caption, "日期"}, CTitleCell{28.0, Mark, "[RQ]"},
-                                           CTitleCell{12.0, Caption, "图号"}, CTitleCell{14.5, Mark, "[TH]"}};
+                                           CTitleCell{14.5, Caption, "审核"}, CTitleCell{24.0, Mark, "[SH]"},
+                                           CTitleCell{22.0, Caption, "日期"}, CTitleCell{26.5, Mark, "[RQ]"},
+                                           CTitleCell{10.5, Caption, "图号"}, CTitleCell{9.5, Mark, "[TH]"}};
 constexpr std::array g_arPortraitSample = {CTitleCell{114.5}, CTitleCell{22.0, Caption, "试验方法"},
-                                           CTitleCell{46.0, Place, "[SYFF]"}};
+                                           CTitleCell{46.5, Place, "[SYFF]"}};
 
 // The A3 sheet. The charts' places are 176 by 257 from (13, 10) and (233, 10).
 constexpr double g_dLandscapeLeft = 4.0;
@@ -55,13 +56,13 @@ constexpr double g_dMetres = 0.001;
 constexpr double g_dStripTexts = 13.0;
 constexpr double g_dStripCaptions = 6.0;
 
-// The title reaches from 120 to 195.
-constexpr std::array g_arStripTexts = {CTitleCell{114.0}, CTitleCell{78.0}, CTitleCell{62.0},
-                                       CTitleCell{70.0}, CTitleCell{88.0}};
+// The title reaches from 120 to 195, the date from 361 to 394.
+constexpr std::array g_arStripTexts = {CTitleCell{111.0}, CTitleCell{85.0}, CTitleCell{58.0},
+                                       CTitleCell{81.0}, CTitleCell{77.0}};
 constexpr std::array g_arStripCaptions = {
-    CTitleCell{114.0, Caption, "完成单位"}, CTitleCell{78.0, Caption, "图    名"},
-    CTitleCell{62.0, Caption, "试 验 者"}, CTitleCell{70.0, Caption, "检 查 者"},
-    CTitleCell{88.0, Caption, "日    期"}};
+    CTitleCell{111.0, Caption, "完成单位"}, CTitleCell{85.0, Caption, "图    名"},
+    CTitleCell{58.0, Caption, "试 验 者"}, CTitleCell{81.0, Caption, "检 查 者"},
+    CTitleCell{77.0, Caption, "日    期"}};
 
 /// Marks that tell of the charts' places: the first one's corners, and how far it is to the next one's.
 void AddLayoutMarks(CSheetSketch* pSketch, const AcGePoint2d& ptLow, const AcGePoint2d& ptHigh) {

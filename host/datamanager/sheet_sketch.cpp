@@ -14,7 +14,8 @@ constexpr double g_dTextHeight = 3.0;
 constexpr double g_dWidthFactor = 0.7;
 /// Width of half a Chinese character, which is a Latin one's too, for a height of 1.
 constexpr double g_dAdvance = 0.8285;
-constexpr double g_dCellMargin = 2.0;
+constexpr double g_dPlacedHeight = 2.5; // of what the chart module writes into a place
+constexpr double g_dCellMargin = 3.0;
 
 AcGePoint2d MiddleOf(const AcGePoint2d& ptLow, const AcGePoint2d& ptHigh) {
     return {(ptLow.x + ptHigh.x) / 2.0, (ptLow.y + ptHigh.y) / 2.0};
@@ -110,7 +111,7 @@ void CSheetSketch::Cell(const AcGePoint2d& ptLow, const AcGePoint2d& ptHigh, con
     case CellKind::Mark:
         return Caption(ptLow, ptHigh, g_dTextHeight, cell.m_pText);
     case CellKind::Place:
-        return Mark({ptLow.x + g_dCellMargin, ptLow.y + g_dCellMargin}, cell.m_pText);
+        return Mark({ptLow.x + g_dCellMargin, (ptLow.y + ptHigh.y - g_dPlacedHeight) / 2.0}, cell.m_pText);
     case CellKind::Field:
         return Field(MiddleOf(ptLow, ptHigh), cell.m_pText);
     case CellKind::Open:

@@ -93,6 +93,34 @@ TEST_F(TemplatePass, ShowsTheAnnotationsThatAreAskedFor) {
     EXPECT_EQ(Texts(), (CTexts{"勘察院", "李四", "王五", "2024年3月7日"}));
 }
 
+TEST_F(TemplatePass, PrefersFieldsAndPeopleOfTheSameNameToTheAnnotations) {
+    AddPeople("('三轴剪切试验曲线','[SYZ]','试验','赵一')");
+    m_config.Add({.t_peizhi = "[WCDW]", .t_tablename = "x_GongCheng", .t_tablefield = "GCBH"});
+    m_dialog.m_bUnit = m_dialog.m_bTester = m_dialog.m_bChecker = 1;
+    m_dialog.m_strUnit = m_dialog.m_strTester = m_dialog.m_strChecker = "标注";
+    for (const char* pMark : {"[WCDW]", "[SYZ]", "[JCZ]"})
+        m_template.AddText(pMark, {0, 0, 0});
+    ASSERT_EQ(Load(), 1);
+    EXPECT_EQ(Texts(), (CTexts{"G1", "赵一", "标注"}));
+}
+
+TEST_F(TemplatePass, ReplacesAPlaceholderOnceThatStandsTwice) {
+    for (const char* pMark : {"[RQ]", "[GCMC]", "[RQ]", "[GCMC]", "[SYFF]", "[SYFF]"})
+        m_template.AddText(pMark, {1.0, 2.0, 0});
+    ASSERT_EQ(Load(), 1);
+    EXPECT_EQ(Texts(), (CTexts{"", "一号工程", "[RQ]", "[GCMC]", "", "[SYFF]"}));
+}
+
+TEST_F(TemplatePass, ReadsCentredAndRightAlignedMarksAsTemplatesMeanThem) {
+    m_template.AddText("[DIST]", {14, 1, 0}, AcDb::kTextCenter);
+    m_template.AddText("[SP]", {30, 3, 0}, AcDb::kTextRight);
+    m_template.AddText("[SYFF]", {60, 200, 0}, AcDb::kTextMid);
+    ASSERT_EQ(Load(), 1);
+    EXPECT_EQ(g_templateMarks.m_dDist, 7.0);
+    EXPECT_EQ(g_templateMarks.m_ptSP, AcGePoint3d(0.2, 3, 0));
+    EXPECT_EQ(m_pass.MethodOffset(), AcGeVector3d(30, 201.25, 0));
+}
+
 TEST_F(TemplatePass, ClearsTheLayoutMarksAndKeepsWhereTheyStood) {
     m_template.AddText("[DIST]", {7, 1, 0});
     m_template.AddText("[EP]", {8, 2, 0});
@@ -215,6 +243,13 @@ TEST_F(TemplatePass, TellsFirstWhatTheSearchOfTheHostDidNotFind) {
 
 TEST_F(TemplatePass, AsksForATemplateToBeClosedThatCannotBeRead) {
     ASSERT_TRUE(WriteFileWhole(TemplatePath(), "no drawing"));
+    EXPECT_EQ(m_pass.Load(), 0);
+    EXPECT_EQ(m_arBoxes, g_arCloseIt);
+    EXPECT_FALSE(HasBlock());
+}
+
+TEST_F(TemplatePass, AsksForATemplateToBeClosedThatIsEmpty) {
+    ASSERT_TRUE(WriteFileWhole(TemplatePath(), ""));
     EXPECT_EQ(m_pass.Load(), 0);
     EXPECT_EQ(m_arBoxes, g_arCloseIt);
     EXPECT_FALSE(HasBlock());

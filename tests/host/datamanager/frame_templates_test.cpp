@@ -72,6 +72,10 @@ TEST(FrameTemplates, PutTheMethodIntoTheRowOfTheSamplesNumber) {
     EXPECT_EQ(CTemplate(PortraitFrame()).m_ptMethod.y, 251.0);
 }
 
+TEST(FrameTemplates, PutTheMethodIntoTheMiddleOfItsRow) {
+    EXPECT_EQ(CTemplate(LandscapeFrame()).m_ptMethod, AcGePoint3d(31.0, 280.0 - 2.5 / 2.0, 0.0));
+}
+
 TEST(FrameTemplates, HaveAStripThatFitsTheFootOfTheSheet) {
     const CTemplate strip(TitleStrip());
     // As the sheet has it: 24 to the left, 5 above its lower edge, a thousand times as large.
