@@ -108,6 +108,22 @@ TEST_F(FramesRoad, NeedATemplateThatIsNotTheDrawingItself) {
     EXPECT_TRUE(m_project.Charts().empty());
 }
 
+TEST_F(FramesRoad, TakeATemplateThatAnotherDocumentShowsAsItsFileIs) {
+    const std::string strTemplate = Root() + "/Templates/BREN-A4.dwg";
+    Run("OPEN " + strTemplate + "\nERASE all\nACTIVATE 1\n" + Generate());
+    EXPECT_EQ(Frames().size(), 2U);
+    EXPECT_EQ(Count(Utf8(u8"三轴剪切试验成果图")), 1);
+}
+
+TEST_F(FramesRoad, NeedATemplateThatMayBeRead) {
+    const std::string strTemplate = Root() + "/Templates/BREN-A4.dwg";
+    std::filesystem::remove(strTemplate);
+    std::filesystem::create_directory(strTemplate); // which nobody reads, an administrator neither
+    const CRun run = Run(Generate());
+    EXPECT_NE(run.m_strOut.find(g_strCloseIt), std::string::npos) << run.m_strOut;
+    EXPECT_TRUE(m_project.Entities().empty());
+}
+
 TEST_F(FramesRoad, NeedATemplateThatIsADrawing) {
     EXPECT_FALSE(m_project.m_program.Folder().Write("root/Templates/BREN-A4.dwg", "AC1015").empty());
     const CRun run = Run(Generate());
