@@ -13,6 +13,7 @@ struct CTemplateCase {
     const char* m_pName;
     CForeignForm m_form;
     AcDb::TextHorzMode m_mode = AcDb::kTextLeft; ///< of the placeholders
+    bool m_bAttributes = false;                  ///< the placeholders are attributes
 };
 
 void PrintTo(const CTemplateCase& tested, std::ostream* pOut) {
@@ -38,11 +39,17 @@ protected:
         double y = 270.0;
         for (const char* pMark :
              {"[GCMC]", "[ZKBH]", "[SH]", "[TH]", "[DIST]", "[SP]", "[SP1]", "[RQ]", "[SYFF]"})
-            drawn.AddText(pMark, {40.0, y -= 5.0, 0}, GetParam().m_mode);
+            AddPlaceholder(drawn, pMark, {40.0, y -= 5.0, 0});
         drawn.AddAttribute("[GCBH]", {100, 250, 0}, GetParam().m_mode);
         drawn.AddAttribute("[检查]", {100, 240, 0}, GetParam().m_mode, "默认值");
         drawn.Write(m_program.Folder().Path("drawn.dwg"));
         return m_program.Folder().Read("drawn.dwg");
+    }
+    static void AddPlaceholder(CTemplateFile& drawn, const char* pMark, const AcGePoint3d& pt) {
+        if (GetParam().m_bAttributes)
+            drawn.AddAttribute(pMark, pt, GetParam().m_mode, pMark);
+        else
+            drawn.AddText(pMark, pt, GetParam().m_mode);
     }
     static std::string Foreign(const std::string& strFile) {
         const CBytes bytes = InForeignForm(CBytes(strFile.begin(), strFile.end()), GetParam().m_form);
@@ -99,11 +106,15 @@ INSTANTIATE_TEST_SUITE_P(, ForeignTemplates,
                                          CTemplateCase{"WithOtherClasses", {.m_bStrangeClasses = true}},
                                          CTemplateCase{"WithOtherObjects", {.m_bStrangeObjects = true}},
                                          CTemplateCase{"WithOtherEntities", {.m_bStrangeEntities = true}},
+                                         CTemplateCase{"WithEscapes", {.m_bEscapes = true}},
                                          CTemplateCase{"InAWesternCodePage", {.m_bWestern = true}},
                                          CTemplateCase{"WithOtherLayersAndStyles", {.m_bOtherNames = true}},
                                          CTemplateCase{"WithAllOfThat", g_everyForm},
                                          CTemplateCase{"Centred", g_everyForm, AcDb::kTextCenter},
                                          CTemplateCase{"AtTheRight", g_everyForm, AcDb::kTextRight},
                                          CTemplateCase{"InTheMiddle", g_everyForm, AcDb::kTextMid},
-                                         CTemplateCase{"Aligned", g_everyForm, AcDb::kTextAlign}),
+                                         CTemplateCase{"Aligned", g_everyForm, AcDb::kTextAlign},
+                                         CTemplateCase{"AsAttributes", g_everyForm, AcDb::kTextLeft, true},
+                                         CTemplateCase{"AsCentredAttributes", g_everyForm, AcDb::kTextCenter,
+                                                       true}),
                          [](const auto& tested) { return tested.param.m_pName; });

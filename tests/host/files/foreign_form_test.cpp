@@ -113,14 +113,21 @@ TEST(ForeignForm, HasObjectsAndEntitiesThatAreKnownNowhere) {
     EXPECT_EQ(Count(entities, isStranger), 2U);
 }
 
-TEST(ForeignForm, HasItsTextsInAWesternCodePage) {
-    const CDwgFile file = Sound({.m_bWestern = true});
-    EXPECT_EQ(file.m_identity.m_nCodePage, g_nDwgAnsi1252);
-    // The Chinese texts have grown, the others have not.
-    const std::vector<std::uint64_t> entities = ModelSpaceOf(file);
-    EXPECT_EQ(file.m_contents.at(entities[0]), g_plain.m_contents.at(entities[0]));
-    for (const std::size_t i : {1U, 2U, 3U})
-        EXPECT_GT(file.m_contents.at(entities[i]).size(), g_plain.m_contents.at(entities[i]).size());
+TEST(ForeignForm, HasItsTextsInAWesternCodePageOrAsEscapes) {
+    const CDwgFile western = Sound({.m_bWestern = true}), escaped = Sound({.m_bEscapes = true});
+    EXPECT_EQ(western.m_identity.m_nCodePage, g_nDwgAnsi1252);
+    EXPECT_EQ(escaped.m_identity.m_nCodePage, g_nDwgAnsi936);
+    const std::vector<std::uint64_t> entities = ModelSpaceOf(g_plain);
+    const auto grown = [&entities](const CDwgFile& file, std::size_t nEntity) {
+        const std::uint64_t nHandle = entities[nEntity];
+        return file.m_contents.at(nHandle).size() - g_plain.m_contents.at(nHandle).size();
+    };
+    EXPECT_EQ(grown(western, 0), 0U);  // without a Chinese character
+    EXPECT_EQ(grown(western, 1), 10U); // two of them, of 7 bytes each
+    EXPECT_EQ(grown(western, 3), 5U);
+    EXPECT_EQ(grown(escaped, 0), 0U);
+    EXPECT_EQ(grown(escaped, 1), 12U); // of 8 bytes each
+    EXPECT_EQ(grown(escaped, 3), 6U);
 }
 
 TEST(ForeignForm, HasALayerOfItsOwn) {

@@ -6,6 +6,7 @@
 
 CBytes InForeignForm(CByteView bytes, const CForeignForm& form) {
     CDwgFile file = ReadDwgFile(bytes);
+    if (form.m_bEscapes) EscapeTexts(file);
     if (form.m_bWestern) MakeWestern(file);
     if (form.m_bOtherNames) GiveOtherNames(file);
     if (form.m_bStrangeClasses) AddStrangeClasses(file);

@@ -12,7 +12,8 @@ struct CForeignForm {
     bool m_bStrangeClasses = false;  ///< there are unknown classes, and the known have other numbers
     bool m_bStrangeObjects = false;  ///< there are unknown objects, and dictionaries of other programs
     bool m_bStrangeEntities = false; ///< there are unknown entities among those of model space
-    bool m_bWestern = false;         ///< texts are in code page 1252, with escapes
+    bool m_bEscapes = false;         ///< Chinese characters stand as escapes, by their codes
+    bool m_bWestern = false;         ///< texts are in code page 1252, with escapes by Unicode
     bool m_bOtherNames = false;      ///< see GiveOtherNames
 };
 

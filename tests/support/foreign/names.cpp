@@ -5,6 +5,9 @@
 #include "host/files/dwg_texts.h"
 #include "tests/support/foreign/records.h"
 
+#include <array>
+#include <cstdio>
+#include <functional>
 #include <type_traits>
 
 namespace {
@@ -23,25 +26,28 @@ void ForEach(CDwgFile& file, std::uint16_t nType, Visit visit) {
         if (ReadDwgRecord(content, nHandle).m_nType == nType) visit(nHandle);
 }
 
-class CWestern {
-public:
-    explicit CWestern(CDwgFile& file)
-        : m_file(file) {}
+using CTextChange = std::function<std::string(const std::string&)>;
 
-    void Convert() {
+/// Changes all texts of a file that need not be plain.
+class CTextsOfFile {
+public:
+    CTextsOfFile(CDwgFile& file, CTextChange change)
+        : m_file(file)
+        , m_change(std::move(change)) {}
+
+    void Change() {
         Texts<CDwgTextEntity>(g_nDwgText, DWG_FILED(FileText), [](auto&) {});
         Texts<CDwgAttributeDefinitionEntity>(g_nDwgAttributeDefinition, DWG_FILED(FileAttributeDefinition),
                                              [this](auto& definition) {
-                                                 Convert(definition.m_strTag);
-                                                 Convert(definition.m_strPrompt);
+                                                 Change(definition.m_strTag);
+                                                 Change(definition.m_strPrompt);
                                              });
         Names<CDwgLayerRecord>(g_nDwgLayer, DWG_FILED(FileLayer));
         Names<CDwgStyleRecord>(g_nDwgStyle, DWG_FILED(FileStyle));
-        m_file.m_identity.m_nCodePage = g_nDwgAnsi1252;
     }
 
 private:
-    void Convert(std::string& strText) const { strText = m_western.Encode(m_chinese.Decode(strText)); }
+    void Change(std::string& strText) const { strText = m_change(strText); }
 
     template <class Part, class File, class More>
     void Texts(std::uint16_t nType, File filed, More more) {
@@ -51,7 +57,7 @@ private:
         };
         ForEach(m_file, nType, [&](std::uint64_t nHandle) {
             ChangeObject<CFiledEntity<Part>>(m_file, nHandle, entity, [&](auto& value) {
-                Convert(value.m_part.m_strText);
+                Change(value.m_part.m_strText);
                 more(value.m_part);
             });
         });
@@ -61,18 +67,35 @@ private:
     void Names(std::uint16_t nType, File filed) {
         ForEach(m_file, nType, [&](std::uint64_t nHandle) {
             ChangeObject<Record>(m_file, nHandle, filed, [this](Record& record) {
-                Convert(record.m_strName);
+                Change(record.m_strName);
                 if constexpr (std::is_same_v<Record, CDwgStyleRecord>) {
-                    Convert(record.m_strFont);
-                    Convert(record.m_strBigFont);
+                    Change(record.m_strFont);
+                    Change(record.m_strBigFont);
                 }
             });
         });
     }
 
     CDwgFile& m_file;
-    const CDrawingText m_chinese{g_nChinesePage}, m_western{g_nWesternPage};
+    const CTextChange m_change;
 };
+
+/// A text of page 936 with the escape \M+5XXXX for each character of two bytes.
+std::string Escaped(const std::string& strText) {
+    std::string strEscaped;
+    for (std::size_t i = 0; i < strText.size(); ++i) {
+        const auto nLead = static_cast<unsigned char>(strText[i]);
+        if (nLead < 0x81 || i + 1 == strText.size()) {
+            strEscaped += strText[i];
+            continue;
+        }
+        std::array<char, 9> code{};
+        std::snprintf(code.data(), code.size(), "\\M+5%02X%02X", nLead,
+                      static_cast<unsigned>(static_cast<unsigned char>(strText[++i])));
+        strEscaped += code.data();
+    }
+    return strEscaped;
+}
 
 std::uint64_t AddLayer(CDwgFile& file) {
     const std::uint64_t nTable = file.m_variables.m_roots.m_hLayers.m_nValue, nLayer = TakeHandle(file);
@@ -91,7 +114,15 @@ std::uint64_t AddLayer(CDwgFile& file) {
 } // namespace
 
 void MakeWestern(CDwgFile& file) {
-    CWestern(file).Convert();
+    const CDrawingText chinese(g_nChinesePage), western(g_nWesternPage);
+    CTextsOfFile(file, [&](const std::string& strText) {
+        return western.Encode(chinese.Decode(strText));
+    }).Change();
+    file.m_identity.m_nCodePage = g_nDwgAnsi1252;
+}
+
+void EscapeTexts(CDwgFile& file) {
+    CTextsOfFile(file, Escaped).Change();
 }
 
 void GiveOtherNames(CDwgFile& file) {
