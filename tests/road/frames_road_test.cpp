@@ -1,6 +1,7 @@
 // The frames that BREN puts its sheets into, from the templates of an installation.
 
 #include "tests/road/bren_project.h"
+#include "tests/support/template_file.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -28,6 +29,11 @@ protected:
         for (const CJson& attribute : frame["attributes"])
             texts.push_back(attribute["tag"].get<std::string>() + "=" + attribute["text"].get<std::string>());
         return texts;
+    }
+    /// Makes a drawing the template.
+    void Choose(CTemplateFile& drawn) const {
+        drawn.Write(Root() + "/Templates/own.dwg");
+        m_project.m_program.Do("template --root \"$ROOT\" own.dwg");
     }
     /// How often the frames' block has a text.
     int Count(const std::string& strText) const {
@@ -91,6 +97,41 @@ TEST_F(FramesRoad, ArePagesOfTheirSize) {
     const CRun info = m_project.m_program.Shell("pdfinfo " + strPdf);
     EXPECT_NE(info.m_strOut.find("Pages:           2"), std::string::npos) << info.m_strOut;
     EXPECT_NE(info.m_strOut.find("(A4)"), std::string::npos) << info.m_strOut;
+}
+
+TEST_F(FramesRoad, NameNoBoreholeForAllSamples) {
+    Run("BREN\ncheck 1063\nok\n0,0\n");
+    ASSERT_EQ(Frames().size(), 2U);
+    EXPECT_EQ(Attributes(Frames()[0]), (std::vector<std::string>{"[GCMC]=test", "[GCBH]=GC1", "[ZKBH]="}));
+    EXPECT_EQ(m_project.Charts()[0]["m_strZKBH"], "1");
+}
+
+TEST_F(FramesRoad, WithoutMarksHaveTheMethodInTheirCorner) {
+    CTemplateFile plain;
+    plain.AddText("没有标记", {0, 0, 0});
+    Choose(plain);
+    Run(Generate());
+    std::vector<CJson> methods;
+    for (const CJson& entity : m_project.Entities())
+        if (entity.value("text", "") == g_strUU) methods.push_back(entity["position"]);
+    EXPECT_EQ(methods, (std::vector<CJson>{{0.0, 0.0, 0.0}, {220.0, 0.0, 0.0}}));
+    EXPECT_EQ(Count(Utf8(u8"没有标记")), 1);
+}
+
+TEST_F(FramesRoad, AreFilledFromTwoHundredFields) {
+    CTemplateFile wide;
+    for (int i = 0; i < 200; ++i) {
+        const std::string strName = "[F" + std::to_string(i) + "]";
+        m_project.m_program.Sql(
+            "Data/config.db",
+            "insert into t_GraphTYPZ(t_peizhi,t_tablename,t_tablefield,t_type,t_fieldtype,t_hb) "
+            "values('" +
+                strName + "','x_GongCheng','GCBH',0,'" + Utf8(u8"文本") + "'," + std::to_string(i % 2) + ")");
+        wide.AddText(strName.c_str(), {1.0 * i, 0, 0});
+    }
+    Choose(wide);
+    Run(Generate("1-1"));
+    EXPECT_EQ(Count("GC1"), 200);
 }
 
 TEST_F(FramesRoad, NeedATemplateThatIsThere) {
