@@ -56,11 +56,11 @@ TEST(BrenSheets, OfAllSamplesStandInOneRowInTableOrderFromOnePoint) {
     EXPECT_EQ(Each(entities, "AcDbText", "text"),
               CJson({Label("9-1-1"), g_strUU, Label("10-1-1"), g_strCU, Label("A1-1-1"), g_strCD}));
     EXPECT_EQ(Each(entities, "AcDbText", "position"), CJson({{33.0, 258.0, 0.0},
-                                                             {168.5, 258.0, 0.0},
+                                                             {169.5, 258.0, 0.0},
                                                              {253.0, 258.0, 0.0},
-                                                             {388.5, 258.0, 0.0},
+                                                             {389.5, 258.0, 0.0},
                                                              {473.0, 258.0, 0.0},
-                                                             {608.5, 258.0, 0.0}}));
+                                                             {609.5, 258.0, 0.0}}));
     for (const CJson& height : Each(entities, "AcDbText", "height"))
         EXPECT_EQ(height, 2.5);
 }
@@ -104,7 +104,7 @@ TEST(BrenSheets, OfStandardTwoTakeTwoChartsEachAndTheRestStaysEmpty) {
         EXPECT_EQ(texts[7 * i], arLabels[i]);
         EXPECT_EQ(positions[7 * i], CJson({x + 28.0, 251.0, 0.0}));
         EXPECT_EQ(texts[7 * i + 1], arMethods[i]);
-        EXPECT_EQ(positions[7 * i + 1], CJson({x + 163.5, 251.0, 0.0}));
+        EXPECT_EQ(positions[7 * i + 1], CJson({x + 164.5, 251.0, 0.0}));
         EXPECT_EQ(texts[7 * i + 6], Utf8(u8"三轴剪切试验成果图"));
         EXPECT_EQ(positions[7 * i + 6], CJson({x + 120.0, 13.0, 0.0}));
     }
