@@ -89,7 +89,7 @@ public:
     // hold.
 
     /// Fills a drawing that was made without the default one, else eNotApplicable; it gets the file's name.
-    /// eFileNotFound. A file is read whole and then let go, so that no share mode keeps others from it.
+    /// eFileNotFound. A share mode of 0x20 denies others to write it: no document may have it open then.
     Acad::ErrorStatus readDwgFile(const ACHAR* fileName, int shareMode = 0x20);
     /// Writes the drawing, in the format that the name's ending stands for; it keeps its own name. What the
     /// file held stays beside it with the ending .bak. eWasOpenForWrite while an object is.

@@ -1,12 +1,17 @@
 // A drawing's way into and out of a file.
 
+#include "platform/acad/ap_document_manager.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 
+#include <filesystem>
+
 namespace {
+
+constexpr int g_nDenyWrite = 0x20; // a share mode: nobody else may write the file meanwhile
 
 /// The path that a name stands for, UTF-8; empty for none.
 std::string PathOf(const ACHAR* fileName) {
@@ -15,12 +20,26 @@ std::string PathOf(const ACHAR* fileName) {
     return utf8;
 }
 
+/// Whether a document has the file, and so may write it.
+bool IsOfDocument(const std::string& strPath) {
+    const std::unique_ptr<AcApDocumentIterator> pDocuments(acDocManagerPtr()->newAcApDocumentIterator());
+    std::error_code noSuchFile;
+    for (; !pDocuments->done(); pDocuments->step()) {
+        const AcApDocument& document = *pDocuments->document();
+        if (document.isNamedDrawing() &&
+            std::filesystem::equivalent(PathOf(document.fileName()), strPath, noSuchFile))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
-Acad::ErrorStatus AcDbDatabase::readDwgFile(const ACHAR* fileName, int) {
+Acad::ErrorStatus AcDbDatabase::readDwgFile(const ACHAR* fileName, int shareMode) {
     if (!DrawingFileHost() || !m_mapStubs.empty()) return Acad::eNotApplicable;
     const std::string strPath = PathOf(fileName);
     if (strPath.empty()) return Acad::eInvalidInput;
+    if (shareMode == g_nDenyWrite && IsOfDocument(strPath)) return Acad::eFileAccessErr;
     std::unique_ptr<AcDbDatabase> pRead;
     const Acad::ErrorStatus status = DrawingFileHost()->Read(strPath, &pRead);
     if (status != Acad::eOk) return status;

@@ -2,8 +2,11 @@
 
 #include "platform/acad/db_line.h"
 #include "platform/acad/host_application.h"
+#include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 #include "tests/platform/acad/block_sample.h"
+#include "tests/platform/acad/fake_documents.h"
+#include "tests/temp_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -75,6 +78,22 @@ TEST(ReadDwgFile, LeavesADrawingThatCannotBeFilledAsItWas) {
     std::wstring strName;
     empty.getFilename(strName);
     EXPECT_EQ(strName, L"");
+}
+
+TEST(ReadDwgFile, RefusesTheFileOfAnOpenDocumentWhereItDeniesOthersToWrite) {
+    const CTempFolder folder;
+    const std::wstring strFile = WideFromGbk(folder.Write("a.dwg", "")),
+                       strOther = WideFromGbk(folder.Write("b.dwg", ""));
+    CFakeFiles files;
+    CFakeDocuments documents;
+    documents.NewDocument(); // one without a file
+    documents.NewDocument();
+    documents.m_pCurrent->database()->SetFilename(strFile.c_str());
+    AcDbDatabase refused(false), shared(false), other(false);
+    EXPECT_EQ(refused.readDwgFile(WideFromGbk(folder.Path("A.DWG")).c_str()), Acad::eFileAccessErr);
+    EXPECT_TRUE(refused.ObjectIds().empty());
+    EXPECT_EQ(shared.readDwgFile(strFile.c_str(), 0x40), Acad::eOk);
+    EXPECT_EQ(other.readDwgFile(strOther.c_str()), Acad::eOk);
 }
 
 TEST(ReadDwgFile, WhatHoldsNothingGivesNoCopy) {
