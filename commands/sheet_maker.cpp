@@ -14,8 +14,8 @@ CSheetMaker::CSheetMaker(AcDbDatabase* pDatabase, const CBRENDlg& dialog, CStrin
     : m_pDatabase(pDatabase)
     , m_dialog(dialog)
     , m_strGCBH(std::move(strGCBH)) {
-    int nWidth = 0,
-        nHeight = 0; // the layout depends on the standard code alone, and the size goes no further
+    // The layout depends on the standard code alone, and the size goes no further.
+    int nWidth = 0, nHeight = 0;
     GetSheetLayout(m_dialog.m_nGCBZ, g_nPaperA4, nWidth, nHeight, m_nChartsPerRow, m_nChartsPerSheet);
 }
 

@@ -17,18 +17,21 @@ inline constexpr const char* g_pKindLabels = "类型拼接"; ///< of all rows, c
 
 /// One field: what stands for a placeholder of a title block, and how to find it.
 struct CGraphFiled {
-    CString t_peizhi;     ///< the placeholder
-    CString t_tablename;  ///< table or table expression
-    CString t_tablefield; ///< column list or expression of the query
-    CString t_Key;        ///< the column of the result
-    Adesk::Int32 t_type = g_nScopeProject;
-    CString t_value;
-    CString t_fieldtype;        ///< one of the kinds above; any other is a number
-    CString t_Where;            ///< what a borehole's condition ends with
-    CString t_OthInfo;          ///< of labels: "code|label" pairs joined with ","
-    Adesk::Int32 t_hb = 0;      ///< nonzero: shares a query with fields of its table
-    Adesk::Int32 t_XiaoShu = 0; ///< decimals of a number in a shared query
-    Adesk::Int32 t_LiuBai = 0;  ///< not used
+    CString t_peizhi;                      ///< the placeholder
+    CString t_tablename;                   ///< table or table expression
+    CString t_tablefield;                  ///< column list or expression of the query
+    CString t_Key;                         ///< the column of the result
+    Adesk::Int32 t_type = g_nScopeProject; ///< one of the scopes above
+    CString t_value;                       ///< what was found for it
+    CString t_fieldtype;                   ///< one of the kinds above; any other is a number
+    CString t_Where;                       ///< what a borehole's condition ends with
+    CString t_OthInfo;                     ///< of labels: "code|label" pairs joined with ","
+    Adesk::Int32 t_hb = 0;                 ///< nonzero: shares its query with fields of its table
+    Adesk::Int32 t_XiaoShu = 0;            ///< decimals of a number in a shared query
+    Adesk::Int32 t_LiuBai = 0;             ///< not used
+
+    bool IsQueried() const { return t_type != g_nScopeNoQuery && !t_tablename.IsEmpty(); }
+    bool IsShared() const { return t_hb != 0; }
 };
 
 /// The fields, in table order, since LoadFieldConfig.

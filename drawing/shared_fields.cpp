@@ -25,10 +25,6 @@ struct CFieldGroup {
     Adesk::Int32 m_nScope;
 };
 
-bool IsShared(const CGraphFiled& field) {
-    return field.t_type != g_nScopeNoQuery && !field.t_tablename.IsEmpty() && field.t_hb != 0;
-}
-
 void AddToGroups(const CGraphFiled& field, std::vector<CFieldGroup>& groups) {
     const auto group = std::ranges::find(groups, field.t_tablename, &CFieldGroup::m_strTable);
     const bool bJoins = field.t_type <= g_nScopeBorehole;
@@ -85,7 +81,7 @@ void FillSharedValues(const CString& strGCSY, const CString& strZKBH) {
     std::vector<CFieldGroup> groups;
     CKinds kinds;
     for (const CGraphFiled& field : g_arFields) {
-        if (!IsShared(field)) continue;
+        if (!field.IsQueried() || !field.IsShared()) continue;
         AddToGroups(field, groups);
         kinds.SetAt(field.t_tablefield, field.t_fieldtype);
     }

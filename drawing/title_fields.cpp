@@ -25,8 +25,7 @@ int FillFieldValues(const CString& strGCSY, CString strZKBH, CStringArray& saKey
     FillSharedValues(strGCSY, strZKBH);
     for (CGraphFiled& field : g_arFields) {
         g_mapValues.Lookup(field.t_peizhi, field.t_value);
-        if (field.t_type != g_nScopeNoQuery && !field.t_tablename.IsEmpty() && field.t_hb == 0)
-            field.t_value = SingleFieldValue(field, strGCSY, strZKBH);
+        if (field.IsQueried() && !field.IsShared()) field.t_value = SingleFieldValue(field, strGCSY, strZKBH);
         Add(field.t_peizhi, field.t_value, saKeys, saValues);
     }
     return 1;

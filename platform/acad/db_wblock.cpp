@@ -31,25 +31,32 @@ void CloneVariables(const AcDbDatabase& source, const CCloner& cloner, AcDbDatab
     target.SetVariables(variables);
 }
 
+/// The blocks that a block's references show.
+std::vector<const AcDbBlockTableRecord*> BlocksIn(AcDbObjectId idBlock) {
+    std::vector<const AcDbBlockTableRecord*> blocks;
+    const CDbOpen<AcDbBlockTableRecord> block(idBlock);
+    if (!block) return blocks;
+    for (const AcDbObjectId id : block->EntityIds()) {
+        const auto* const pReference = PeekObject<AcDbBlockReference>(id);
+        if (!pReference) continue;
+        const auto* const pShown = PeekObject<AcDbBlockTableRecord>(pReference->blockTableRecord());
+        if (pShown) blocks.push_back(pShown);
+    }
+    return blocks;
+}
+
 /// Whether what the source shows in model space leads to a block of that name. Blocks that the target has
 /// stand for those of their names.
 bool LeadsTo(const ACHAR* name, const AcDbDatabase& source, const AcDbDatabase& target) {
     const auto* const pPresent = PeekObject<AcDbBlockTable>(target.blockTableId());
     std::vector<AcDbObjectId> arBlocks{source.ModelSpaceId()};
-    for (std::size_t i = 0; i < arBlocks.size(); ++i) {
-        const CDbOpen<AcDbBlockTableRecord> block(arBlocks[i]);
-        if (!block) continue;
-        for (const AcDbObjectId id : block->EntityIds()) {
-            const auto* const pReference = PeekObject<AcDbBlockReference>(id);
-            if (!pReference) continue;
-            const auto* const pShown = PeekObject<AcDbBlockTableRecord>(pReference->blockTableRecord());
-            if (!pShown) continue;
+    for (std::size_t i = 0; i < arBlocks.size(); ++i)
+        for (const AcDbBlockTableRecord* const pShown : BlocksIn(arBlocks[i])) {
             if (SameName(pShown->Name(), name)) return true;
             const AcDbObjectId idPresent = pPresent->Find(pShown->Name().c_str());
             const AcDbObjectId idStanding = idPresent.isNull() ? pShown->objectId() : idPresent;
             if (std::ranges::find(arBlocks, idStanding) == arBlocks.end()) arBlocks.push_back(idStanding);
         }
-    }
     return false;
 }
 

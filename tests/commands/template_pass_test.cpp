@@ -261,6 +261,7 @@ TEST_F(TemplatePass, TakesATemplateWithoutAnyText) {
     EXPECT_EQ(Texts(), CTexts());
     EXPECT_EQ(ModelSpace().size(), 1U);
     EXPECT_TRUE(m_arBoxes.empty());
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
 }
 
 TEST_F(TemplatePass, RewritesTheBlockForTheNextGroup) {

@@ -151,3 +151,10 @@ TEST_F(InsertBlock, StampsNothingInAnEmptyDrawing) {
     EXPECT_EQ(CInsertBlock::StampFrame({0, 0, 0}, "a", 1, 2, 3), 1);
     EXPECT_TRUE(Entities(m_drawing.Database().ModelSpaceId()).empty());
 }
+
+TEST_F(InsertBlock, StampsNothingOnAnEntityThatIsInUse) {
+    Load();
+    const CDbOpen<AcDbEntity> used(Reference(), AcDb::kForWrite);
+    EXPECT_EQ(CInsertBlock::StampFrame({0, 0, 0}, "a", 1, 2, 3), 1);
+    EXPECT_TRUE(used->XData().Apps().empty());
+}
