@@ -13,5 +13,6 @@ int FindDrawingFile(const CString& strFile, CString& strFound);
 std::unique_ptr<AcDbDatabase> CopyOfDrawing(const CString& strPath);
 
 /// Brings a drawing file into the working drawing, as a block named by its path, and adds a reference to
-/// model space. The scale holds for all directions. Nothing happens when the file cannot be read.
+/// model space. The rotation is in radians, the scale holds for all directions. Nothing happens when the file
+/// cannot be read.
 void InsertDwgAsBlock(const CString& strPath, const AcGePoint3d& ptPosition, double dRotation, double dScale);

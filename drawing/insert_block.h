@@ -27,8 +27,8 @@ public:
     int FindBlockText(const CString& strPlaceholder, const CString& strReplacement, AcGePoint3dArray& points,
                       AcDbIntArray& modes);
 
-    /// Adds a reference with its attributes to the target's model space: its id, null on failure. When the
-    /// definition cannot be opened, the reference is there and stays open for writing.
+    /// Adds a reference with its attributes to the target's model space, rotated by radians: its id, null on
+    /// failure. When the definition cannot be opened, the reference is there and stays open for writing.
     AcDbObjectId InsertReference(const AcGePoint3d& ptPosition, double dRotation, double dXScale,
                                  double dYScale, AcDbDatabase* pDatabase);
 

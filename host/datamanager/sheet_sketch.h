@@ -16,10 +16,11 @@ enum class CellKind {
     Field,   ///< an attribute of this tag
 };
 
+/// A cell of a title block's row.
 struct CTitleCell {
-    double m_dWidth;
+    double m_dWidth; ///< in millimetres on the sheet
     CellKind m_kind = CellKind::Open;
-    const char* m_pText = "";
+    const char* m_pText = ""; ///< GBK: of the caption, the placeholder or the tag
 };
 
 /// A drawing of lines and texts for a template file. Lengths are millimetres on the sheet; texts are GBK and
