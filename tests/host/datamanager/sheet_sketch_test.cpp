@@ -97,7 +97,7 @@ TEST(SheetSketch, DrawsARowOfCells) {
     EXPECT_STREQ(field->tag(), L"[GCBH]");
     EXPECT_STREQ(field->textString(), L"");
     EXPECT_EQ(field->alignmentPoint(), AcGePoint3d(120.0, 54.0, 0.0));
-    EXPECT_EQ(read.At<AcDbText>(5)->position(), AcGePoint3d(137.0, 52.0, 0.0));
+    EXPECT_EQ(read.At<AcDbText>(5)->position(), AcGePoint3d(138.0, 54.0 - 2.5 / 2.0, 0.0));
     EXPECT_EQ(read.At<AcDbLine>(6)->startPoint(), AcGePoint3d(100.0, 58.0, 0.0));
     EXPECT_EQ(read.At<AcDbLine>(6)->endPoint(), AcGePoint3d(150.0, 58.0, 0.0));
 }
