@@ -1,5 +1,6 @@
 #include "commands/bren_command.h"
 
+#include "commands/document_session.h"
 #include "commands/module_library.h"
 #include "commands/sheet_maker.h"
 #include "commands/text_conversion.h"
@@ -11,13 +12,6 @@
 #include "ui/bren_dlg.h"
 
 namespace {
-void ForceMultiDocument() {
-    resbuf value;
-    value.restype = RTSHORT;
-    value.resval.rint = 0;
-    acedSetVar(L"SDI", &value);
-}
-
 Adesk::Int32 ProjectStandard() {
     return static_cast<Adesk::Int32>(GetPrivateProfileIntA("Project", "GCBZ", -1, g_strProjectIni));
 }
@@ -43,7 +37,7 @@ bool AskInsertionPoint(AcGePoint3d& ptPicked) {
 } // namespace
 
 void BrenCommand() {
-    ForceMultiDocument();
+    SetSdi(0);
     const int nGCSY = GetProjectIndex();
     if (nGCSY < 0 || !CheckDataManager()) return;
     const CString strGCBH = ReadProjectText("GCBH");
