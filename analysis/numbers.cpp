@@ -13,6 +13,10 @@ double RoundToTwoDecimals(double dValue) {
     return dRead;
 }
 
+double CutToTwoDecimals(double dValue) {
+    return TruncateToInt32(dValue * 100.0) / 100.0;
+}
+
 Adesk::Int32 TruncateToInt32(double dValue) {
     // Written so that a NaN, for which every comparison is false, takes the last line.
     if (dValue > -2147483649.0 && dValue < 2147483648.0) return static_cast<Adesk::Int32>(dValue);

@@ -2,6 +2,7 @@
 
 #include "chart/chart_entity.h"
 #include "commands/br_editor_reactor.h"
+#include "commands/brcf_command.h"
 #include "commands/bren_command.h"
 #include "data/project_context.h"
 #include "frame/frame_entity.h"
@@ -37,6 +38,7 @@ void Load() {
     CBRENChart::rxInit();
     CBRENFrame::rxInit();
     AddCommand(L"BREN", &BrenCommand);
+    AddCommand(L"BRCF", &BrcfCommand);
 }
 
 void Unload() {

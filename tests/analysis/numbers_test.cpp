@@ -32,6 +32,17 @@ TEST(RoundToTwoDecimals, KeepsWhatIsNoFiniteNumber) {
     EXPECT_EQ(RoundToTwoDecimals(-HUGE_VAL), -HUGE_VAL);
 }
 
+TEST(CutToTwoDecimals, CutsTowardZero) {
+    EXPECT_EQ(CutToTwoDecimals(25.678), 25.67);
+    EXPECT_EQ(CutToTwoDecimals(-1.239), -1.23);
+    EXPECT_EQ(CutToTwoDecimals(0.009), 0.0);
+}
+
+TEST(CutToTwoDecimals, GivesTheLeastValueForWhatDoesNotFit) {
+    for (const double dValue : {std::nan(""), HUGE_VAL, 3e7})
+        EXPECT_EQ(CutToTwoDecimals(dValue), -21474836.48) << dValue;
+}
+
 TEST(TruncateToInt32, CutsTowardZero) {
     EXPECT_EQ(TruncateToInt32(2.999), 2);
     EXPECT_EQ(TruncateToInt32(-2.999), -2);

@@ -30,7 +30,7 @@ TEST_F(ModuleEntry, ReportsTheApiVersion) {
     EXPECT_EQ(acrxGetApiVersion(), 0x130000);
 }
 
-TEST_F(ModuleEntry, RegistersPathsReactorClassesAndCommand) {
+TEST_F(ModuleEntry, RegistersPathsReactorClassesAndCommands) {
     g_strProjectIni.Empty();
     Load();
     EXPECT_TRUE(g_strProjectIni == (m_project.Root() + "/Project.ini").c_str());
@@ -39,11 +39,14 @@ TEST_F(ModuleEntry, RegistersPathsReactorClassesAndCommand) {
     EXPECT_NE(g_pEdReactor, nullptr);
     EXPECT_NE(CBRENChart::desc(), nullptr);
     EXPECT_NE(CBRENFrame::desc(), nullptr);
-    const CRegisteredCommand* pCommand = acedRegCmds->lookup(L"BREN");
-    ASSERT_NE(pCommand, nullptr);
-    EXPECT_EQ(pCommand->m_strGroup, L"BREN");
-    EXPECT_EQ(pCommand->m_strLocalName, L"BREN");
-    EXPECT_EQ(pCommand->m_nFlags, 0);
+    std::wstring strCommands;
+    for (const CRegisteredCommand& command : acedRegCmds->Commands()) {
+        EXPECT_EQ(command.m_strGroup, L"BREN");
+        EXPECT_EQ(command.m_strLocalName, command.m_strGlobalName);
+        EXPECT_EQ(command.m_nFlags, 0);
+        strCommands += command.m_strGlobalName + L" ";
+    }
+    EXPECT_EQ(strCommands, L"BREN BRCF ");
     Unload();
 }
 

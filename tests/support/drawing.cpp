@@ -35,6 +35,11 @@ CPromptResult CTestDrawing::AskSelection(const std::string& strPrompt, std::vect
     return m_arPicks.empty() ? CPromptResult::Cancel : CPromptResult::Value;
 }
 
+CCommandResult CTestDrawing::RunCommand(const std::vector<std::string>& arWords) {
+    m_arCommands.push_back(arWords.front());
+    return CCommandResult::Done;
+}
+
 CEntities TakeOver(const AcDbVoidPtrArray& entitySet) {
     CEntities entities;
     for (void* const pEntity : entitySet)

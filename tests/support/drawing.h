@@ -28,14 +28,16 @@ public:
     AcDbDatabase& Database() { return m_database; }
     std::string m_strPrinted; ///< GBK
     bool m_bHasLinetypeFile = true;
-    bool m_bFindsFiles = true;           ///< others than the line type file
-    std::vector<AcDbObjectId> m_arPicks; ///< what is picked when asked; nothing: cancelled
-    std::string m_strPrompt;             ///< of the last pick, GBK
+    bool m_bFindsFiles = true;             ///< others than the line type file
+    std::vector<AcDbObjectId> m_arPicks;   ///< what is picked when asked; nothing: cancelled
+    std::string m_strPrompt;               ///< of the last pick, GBK
+    std::vector<std::string> m_arCommands; ///< run from within a command
 
     void Print(const std::string& strText) override { m_strPrinted += strText; }
     CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
     CPromptResult AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) override;
     CPromptResult AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) override;
+    CCommandResult RunCommand(const std::vector<std::string>& arWords) override;
     std::string FindFile(const std::string& strName) override;
 
 private:
