@@ -1,0 +1,12 @@
+#pragma once
+// The titles of stored chart drawings, which are their file names without folder and ending: "BR", the
+// borehole, "-", and the sample numbers with "~" between them.
+
+#include "platform/mfc/string.h"
+
+/// 1 when the title is one of the borehole. A borehole whose number goes on with "-" is one of the shorter
+/// number, too.
+int MatchBorehole(const CString& strZKBH, const CString& strTitle);
+
+/// How the title is shown: "试样ZK1-3和4" for "BRZK1-3~4".
+CString DisplayName(const CString& strTitle);
