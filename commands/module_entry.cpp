@@ -4,6 +4,7 @@
 #include "commands/br_editor_reactor.h"
 #include "commands/brcf_command.h"
 #include "commands/bren_command.h"
+#include "commands/bropen_command.h"
 #include "data/project_context.h"
 #include "frame/frame_entity.h"
 #include "platform/acad/command_stack.h"
@@ -39,6 +40,7 @@ void Load() {
     CBRENFrame::rxInit();
     AddCommand(L"BREN", &BrenCommand);
     AddCommand(L"BRCF", &BrcfCommand);
+    AddCommand(L"BROPEN", &BropenCommand);
 }
 
 void Unload() {

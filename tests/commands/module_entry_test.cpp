@@ -46,7 +46,7 @@ TEST_F(ModuleEntry, RegistersPathsReactorClassesAndCommands) {
         EXPECT_EQ(command.m_nFlags, 0);
         strCommands += command.m_strGlobalName + L" ";
     }
-    EXPECT_EQ(strCommands, L"BREN BRCF ");
+    EXPECT_EQ(strCommands, L"BREN BRCF BROPEN ");
     Unload();
 }
 

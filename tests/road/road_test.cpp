@@ -191,7 +191,8 @@ TEST(Road, ASheetSurvivesItsModule) {
                                    "\nPLOT " + road.File("without.svg") + "\nLOADMODULE tervo-bren.so\n" +
                                    strReloads + "REGEN\nDUMP " + road.File("sheet.json") + "\nCOMMANDS\n");
     EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
-    EXPECT_NE(run.m_strOut.find("BREN BREN 0\n"), std::string::npos) << run.m_strOut;
+    EXPECT_NE(run.m_strOut.find("BREN BREN 0\nBREN BRCF 0\nBREN BROPEN 0\n"), std::string::npos)
+        << run.m_strOut;
     CJson before = CJson::parse(ReadFile(road.File("before.json")));
     const CJson without = CJson::parse(ReadFile(road.File("without.json")));
     const CJson chart = before["modelSpace"][1];
@@ -286,7 +287,9 @@ TEST(Road, LosesTheModulesCommandsWhileItIsAway) {
     const CRun run = program.Tvcad("COMMANDS\nUNLOADMODULE " + strModule + "COMMANDS\nLOADMODULE " +
                                    strModule + "COMMANDS\n");
     EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
-    EXPECT_EQ(run.m_strOut, "BREN BREN 0\nBREN BREN 0\n") << "none between the two";
+    EXPECT_EQ(run.m_strOut,
+              "BREN BREN 0\nBREN BRCF 0\nBREN BROPEN 0\nBREN BREN 0\nBREN BRCF 0\nBREN BROPEN 0\n")
+        << "none between the two";
     const CRun without = program.Tvcad("UNLOADMODULE " + strModule + "BREN\n");
     EXPECT_EQ(without.m_nStatus, 5);
     EXPECT_NE(without.m_strErrors.find("unknown command: BREN"), std::string::npos) << without.m_strErrors;
