@@ -1,13 +1,8 @@
 #pragma once
 
+#include "platform/mfc/runtime_class.h"
 #include "platform/mfc/string.h"
 #include "platform/windows/types.h"
-
-/// What is known of a class at run time.
-struct CRuntimeClass {
-    const char* m_lpszClassName;
-    const CRuntimeClass* m_pBaseClass; ///< null for a class without one
-};
 
 /// The base of everything that is thrown. It is thrown as a value and caught by reference.
 class CException {
