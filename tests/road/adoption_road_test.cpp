@@ -1,0 +1,138 @@
+// The strength values adopted from a chart, and the question whether a dragged line is to be stored, in real
+// runs.
+
+#include "tests/road/bren_project.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+const std::string g_strStored = Utf8(u8"三轴剪切数据存储成功!");
+const std::string g_strQuestion = Utf8(u8"[Tervo] 三轴剪切图中有关数据已改变,是否入库?\n");
+
+/// A project with one sample, and its chart in a drawing.
+class AdoptionRoad : public testing::Test {
+protected:
+    explicit AdoptionRoad(const char* pSet = "smith-exc4.4")
+        : m_project(CMeasuredSamples{{"1", "1-1", pSet}}) {}
+
+    /// The lines that draw the chart; then comes what makes its handle known to this object.
+    std::string Drawn() const { return "BREN\n" + Selection("1", "1-1") + "0,0\n"; }
+    /// Draws the chart, saves the drawing, and keeps the chart's handle.
+    void Draw() {
+        m_project.Run(Drawn() + m_project.Dump() + "SAVEAS " + Drawing() + "\n");
+        for (const CJson& entity : m_project.Entities())
+            if (entity["class"] == "CBRENChart") m_strChart = "#" + entity["handle"].get<std::string>();
+        ASSERT_NE(m_strChart, "");
+    }
+    /// What a run on the drawing prints.
+    std::string Run(const std::string& strScript) const {
+        return m_project.Run("OPEN " + Drawing() + "\n" + strScript + m_project.Dump()).m_strOut;
+    }
+    std::string Drawing() const { return m_project.m_program.Folder().Path("sheet.dwg"); }
+    /// The line that drags the far end of the envelope line up.
+    std::string Dragged() const { return "GRIP " + m_strChart + " 5 @0,5\n"; }
+    CJson Chart() const { return m_project.Charts().at(0); }
+    CJson Row() const { return m_project.Results().at(0); }
+
+    CBrenProject m_project;
+    std::string m_strChart; ///< how a script picks it
+};
+
+class AdoptionRoadUndrained : public AdoptionRoad {
+protected:
+    AdoptionRoadUndrained()
+        : AdoptionRoad("mafra-ciu") {}
+};
+
+double Cut(const CJson& value) {
+    return static_cast<int>(value.get<double>() * 100.0) / 100.0;
+}
+} // namespace
+
+TEST_F(AdoptionRoad, StoresTheGraphicalValuesOfADraggedLine) {
+    Draw();
+    Run(Dragged());
+    const CJson dragged = Chart();
+    const std::string strOut = Run(Dragged() + "REGEN\nBRCF\n" + m_strChart + "\nshow\ncheck 1060\nok\n");
+    EXPECT_NE(strOut.find(Utf8(u8"dialog 14 \"选择采用值入库\"")), std::string::npos) << strOut;
+    EXPECT_TRUE(strOut.ends_with("\n" + g_strStored + "\n")) << strOut;
+    EXPECT_EQ(strOut.find(g_strQuestion), std::string::npos) << strOut;
+    EXPECT_EQ(Row()["CDC"], Cut(dragged["m_dGraphC"]));
+    EXPECT_EQ(Row()["CDF"], Cut(dragged["m_dGraphPhi"]));
+    EXPECT_NE(Row()["CDF"], 17.35) << "what was computed";
+    EXPECT_EQ(Chart()["m_dAdoptPhi"], Row()["CDF"]);
+    EXPECT_EQ(Chart()["m_dCalcPhi"], dragged["m_dCalcPhi"]);
+    EXPECT_NEAR(Chart()["m_dGraphPhi"].get<double>(), Row()["CDF"].get<double>(), 1e-4) << "refitted, drawn";
+    EXPECT_NEAR(Chart()["m_dGraphC"].get<double>(), Row()["CDC"].get<double>(), 1e-4);
+}
+
+TEST_F(AdoptionRoad, AsksBeforeAWatchedCommandAndStoresOnYes) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "LINE 0,0 1,1\nNEW\nyes\n" + m_strChart +
+                                   "\ncheck 1060\nok\nOPEN " + Drawing() + "\n");
+    const std::size_t nAsked = strOut.find(g_strQuestion);
+    ASSERT_NE(nAsked, std::string::npos) << strOut;
+    EXPECT_NE(strOut.find(g_strStored, nAsked), std::string::npos) << strOut;
+    EXPECT_EQ(strOut.find(g_strQuestion, nAsked + 1), std::string::npos) << "asked once: " << strOut;
+    EXPECT_NE(Row()["CDF"], 17.35);
+}
+
+TEST_F(AdoptionRoad, AsksOnceWhenTheAnswerIsNo) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "NEW\nno\nNEW\nACTIVATE 2\n");
+    const std::size_t nAsked = strOut.find(g_strQuestion);
+    ASSERT_NE(nAsked, std::string::npos) << strOut;
+    EXPECT_EQ(strOut.find(g_strQuestion, nAsked + 1), std::string::npos) << strOut;
+    EXPECT_EQ(Row()["CDF"], 17.35);
+    EXPECT_GT(Chart()["m_dGraphPhi"].get<double>(), 17.4) << "the change stays in the drawing";
+}
+
+TEST_F(AdoptionRoad, AsksAgainWhenNoChartWasPicked) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "NEW\nyes\n\nNEW\nno\n");
+    const std::size_t nAsked = strOut.find(g_strQuestion);
+    ASSERT_NE(nAsked, std::string::npos) << strOut;
+    EXPECT_NE(strOut.find(Utf8(u8"什么也没有选中.\n"), nAsked), std::string::npos) << strOut;
+    EXPECT_NE(strOut.find(g_strQuestion, nAsked + 1), std::string::npos) << strOut;
+}
+
+TEST_F(AdoptionRoad, AsksBeforeANewGenerationWhoseStoreForgetsTheChange) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "BREN\nyes\n\n" + Selection("1", "1-1") + "300,0\nNEW\n");
+    const std::size_t nAsked = strOut.find(g_strQuestion);
+    ASSERT_NE(nAsked, std::string::npos) << strOut;
+    EXPECT_EQ(strOut.find(g_strQuestion, nAsked + 1), std::string::npos) << strOut;
+    EXPECT_EQ(Row()["CDF"], 17.35);
+}
+
+TEST_F(AdoptionRoad, DoesNotAskWhenOnlyAnAnchorWasMoved) {
+    Draw();
+    const std::string strOut = Run("GRIP " + m_strChart + " 0,1,2,3 @5,5\nNEW\n");
+    EXPECT_EQ(strOut.find(g_strQuestion), std::string::npos) << strOut;
+}
+
+TEST_F(AdoptionRoad, IsUndoneInTheDrawingOnly) {
+    Draw();
+    Run("");
+    const CJson before = Chart();
+    const std::string strSet = "set 1053 40\nset 1054 30\n";
+    Run("BRCF\n" + m_strChart + "\n" + strSet + "ok\nUNDO 1\n");
+    EXPECT_EQ(Chart()["m_dAdoptPhi"], before["m_dAdoptPhi"]);
+    EXPECT_EQ(Chart()["m_ptEnvEnd"], before["m_ptEnvEnd"]);
+    EXPECT_EQ(Row()["CDC"], 40.0);
+    EXPECT_EQ(Row()["CDF"], 30.0);
+}
+
+TEST_F(AdoptionRoadUndrained, StoresAllFourValuesAndRefitsBothLines) {
+    Draw();
+    const std::string strOut =
+        Run("BRCF\n" + m_strChart + "\nset 1045 10.5\nset 1046 21.25\nset 1053 3.75\nset 1054 31\nok\n");
+    EXPECT_TRUE(strOut.ends_with("\n" + g_strStored + "\n")) << strOut;
+    EXPECT_EQ(Row()["CUC"], 10.5);
+    EXPECT_EQ(Row()["CUF"], 21.25);
+    EXPECT_EQ(Row()["CUCE"], 3.75);
+    EXPECT_EQ(Row()["CUFE"], 31.0);
+    EXPECT_NEAR(Chart()["m_dGraphPhi"].get<double>(), 21.25, 1e-4);
+    EXPECT_NEAR(Chart()["m_dGraphCEff"].get<double>(), 3.75, 1e-4);
+    EXPECT_NEAR(Chart()["m_dGraphPhiEff"].get<double>(), 31.0, 1e-4);
+}
