@@ -48,6 +48,8 @@ constexpr std::array g_arCommands = {
     CHostCommand{"COMMANDS", CommandCommands, "lists the commands of modules: group, name, flags"},
     CHostCommand{"DUMP", CommandDump, "path: writes the drawing as JSON"},
     CHostCommand{"PLOT", CommandPlot, "path: plots to .pdf, .svg or .png"},
+    CHostCommand{"SAVECHARTS", CommandSaveCharts,
+                 "saves a drawing of charts into the project's output tree, under its charts' name"},
 };
 
 } // namespace

@@ -60,6 +60,8 @@ void CommandMeasure(CHost& host);
 void CommandLoadModule(CHost& host);
 void CommandUnloadModule(CHost& host);
 void CommandCommands(CHost& host);
+// save_charts_command.cpp
+void CommandSaveCharts(CHost& host);
 // output_commands.cpp
 void CommandDump(CHost& host);
 void CommandPlot(CHost& host);

@@ -1,0 +1,115 @@
+// SAVECHARTS: a drawing of charts into the project's output tree, under the name that its charts give it.
+
+#include "host/console/drawing_order.h"
+#include "host/console/drawing_saving.h"
+#include "host/console/host_commands.h"
+#include "host/console/texts.h"
+#include "platform/acad/field_table.h"
+#include "platform/tvtool/tvtool.h"
+#include "platform/windows/code_page.h"
+#include "platform/windows/installation_root.h"
+#include "platform/windows/path.h"
+#include "platform/windows/profile.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace {
+
+/// What a chart says of itself, UTF-8.
+struct CStoredChart {
+    std::string m_strPick, m_strGCBH, m_strZKBH, m_strQYBH;
+};
+
+[[noreturn]] void Refuse(const std::string& strWhat) {
+    throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
+}
+
+/// Empty for an entity without such a text.
+std::string TextField(const AcDbEntity& entity, const char* pName) {
+    const auto* const pFields = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const int row = pFields ? pFields->Find(pName) : -1;
+    if (row < 0) return {};
+    const CFieldValue value = pFields->Get(entity, row);
+    const auto* const pText = std::get_if<std::string>(&value);
+    return pText ? ToUtf8(*pText) : std::string();
+}
+
+std::vector<CStoredChart> ChartsOf(AcDbDatabase& drawing) {
+    std::vector<CStoredChart> charts;
+    for (const AcDbObjectId& id : ModelSpaceEntities(drawing)) {
+        const CDbOpen<AcDbEntity> pEntity(id);
+        if (!pEntity || std::wstring_view(pEntity->isA()->name()) != L"CBRENChart") continue;
+        charts.push_back({"#" + id.handle().Hex(), TextField(*pEntity.Get(), "m_strGCBH"),
+                          TextField(*pEntity.Get(), "m_strZKBH"), TextField(*pEntity.Get(), "m_strQYBH")});
+    }
+    return charts;
+}
+
+std::string RunningProject() {
+    std::array<char, MAX_PATH> szIni{};
+    std::array<char, 1024> szGCBH{};
+    TVToolGetProjectIni(szIni.data());
+    if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, szIni.data())) < 0)
+        Refuse("no project is running");
+    GetPrivateProfileStringA("Project", "GCBH", "", szGCBH.data(), szGCBH.size(), szIni.data());
+    return ToUtf8(szGCBH.data());
+}
+
+/// On any system of the suite.
+bool CanStandInFileName(const std::string& strNumber) {
+    return !strNumber.empty() && std::ranges::none_of(strNumber, [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
+    });
+}
+
+void CheckCharts(const std::vector<CStoredChart>& charts, const std::string& strProject) {
+    if (charts.empty()) Refuse("the drawing has no chart");
+    for (const CStoredChart& chart : charts) {
+        if (chart.m_strGCBH != strProject)
+            Refuse("chart " + chart.m_strPick + " is of project \"" + chart.m_strGCBH + "\", not of \"" +
+                   strProject + "\"");
+        for (const std::string& strNumber : {chart.m_strGCBH, chart.m_strZKBH, chart.m_strQYBH})
+            if (!CanStandInFileName(strNumber))
+                Refuse("chart " + chart.m_strPick + ": \"" + strNumber + "\" cannot stand in a file name");
+    }
+}
+
+/// A sample that has several charts is named once.
+std::string TitleOf(const std::vector<CStoredChart>& charts) {
+    const std::string& strZKBH = charts.front().m_strZKBH;
+    std::vector<std::string> samples;
+    for (const CStoredChart& chart : charts) {
+        if (chart.m_strZKBH != strZKBH) return ToUtf8("BR全部-全部试样");
+        if (!std::ranges::count(samples, chart.m_strQYBH)) samples.push_back(chart.m_strQYBH);
+    }
+    std::string strTitle = "BR" + strZKBH;
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        strTitle += (i ? "~" : "-") + samples[i];
+    return strTitle;
+}
+
+/// The folder, made if need be; one that differs by case is it, too.
+std::string FolderOf(const std::string& strProject) {
+    const std::string strWanted = InstallationRoot() + "/Output/" + strProject + "/" + ToUtf8("室内曲线");
+    std::string utf8;
+    ResolvePath({}, GbkAnswer(strWanted), &utf8);
+    std::error_code error;
+    std::filesystem::create_directories(utf8, error);
+    if (error) throw CRunFailure(EXIT_FILE_FAILED, utf8 + " cannot be made: " + error.message());
+    return utf8;
+}
+
+} // namespace
+
+void CommandSaveCharts(CHost& host) {
+    AcApDocument& document = host.Document();
+    host.m_input.End();
+    const std::string strProject = RunningProject();
+    const std::vector<CStoredChart> charts = ChartsOf(*document.database());
+    CheckCharts(charts, strProject);
+    SaveDrawingAs(host, document, FolderOf(strProject) + "/" + TitleOf(charts) + ".dwg", false);
+    host.Print("saved " + CDrawings::NameOf(document));
+}
