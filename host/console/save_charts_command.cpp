@@ -47,16 +47,6 @@ std::vector<CStoredChart> ChartsOf(AcDbDatabase& drawing) {
     return charts;
 }
 
-std::string RunningProject() {
-    std::array<char, MAX_PATH> szIni{};
-    std::array<char, 1024> szGCBH{};
-    TVToolGetProjectIni(szIni.data());
-    if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, szIni.data())) < 0)
-        Refuse("no project is running");
-    GetPrivateProfileStringA("Project", "GCBH", "", szGCBH.data(), szGCBH.size(), szIni.data());
-    return ToUtf8(szGCBH.data());
-}
-
 /// On any system of the suite.
 bool CanStandInFileName(const std::string& strNumber) {
     return !strNumber.empty() && std::ranges::none_of(strNumber, [](char c) {
@@ -65,13 +55,27 @@ bool CanStandInFileName(const std::string& strNumber) {
     });
 }
 
+/// Its number, of which the folder of its drawings is named.
+std::string RunningProject() {
+    std::array<char, MAX_PATH> szIni{};
+    std::array<char, 1024> szGCBH{};
+    TVToolGetProjectIni(szIni.data());
+    if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, szIni.data())) < 0)
+        Refuse("no project is running");
+    GetPrivateProfileStringA("Project", "GCBH", "", szGCBH.data(), szGCBH.size(), szIni.data());
+    const std::string strGCBH = ToUtf8(szGCBH.data());
+    if (!CanStandInFileName(strGCBH) || strGCBH.back() == '.')
+        Refuse("project \"" + strGCBH + "\" cannot name a folder");
+    return strGCBH;
+}
+
 void CheckCharts(const std::vector<CStoredChart>& charts, const std::string& strProject) {
     if (charts.empty()) Refuse("the drawing has no chart");
     for (const CStoredChart& chart : charts) {
         if (chart.m_strGCBH != strProject)
             Refuse("chart " + chart.m_strPick + " is of project \"" + chart.m_strGCBH + "\", not of \"" +
                    strProject + "\"");
-        for (const std::string& strNumber : {chart.m_strGCBH, chart.m_strZKBH, chart.m_strQYBH})
+        for (const std::string& strNumber : {chart.m_strZKBH, chart.m_strQYBH})
             if (!CanStandInFileName(strNumber))
                 Refuse("chart " + chart.m_strPick + ": \"" + strNumber + "\" cannot stand in a file name");
     }

@@ -3,6 +3,7 @@
 #include "tests/road/bren_project.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
@@ -72,6 +73,17 @@ TEST_F(StoredCharts, AreRefusedWhereTheyHaveNoName) {
     EXPECT_EQ(Refusal(""), "no project is running\n");
 }
 
+TEST_F(StoredCharts, AreRefusedInAProjectThatCannotNameAFolder) {
+    for (const char* pGCBH : {"..", "1/2", "GC.", ""}) {
+        EXPECT_EQ(m_project.m_program
+                      .Shell("sed -i 's|^GCBH=.*|GCBH=" + std::string(pGCBH) + "|' \"$ROOT/Project.ini\"")
+                      .m_nStatus,
+                  0);
+        EXPECT_EQ(Refusal(Chart(pGCBH, "1", "1-1")),
+                  "project \"" + std::string(pGCBH) + "\" cannot name a folder\n");
+    }
+}
+
 TEST_F(StoredCharts, WhoseFolderCannotBeMadeAreNotSaved) {
     const std::string strOutput = m_project.m_program.Root() + "/Output";
     std::filesystem::remove_all(strOutput);
@@ -99,6 +111,13 @@ TEST_F(StoredCharts, TakeTheCurrentDrawingsPlaceInSingleDocumentMode) {
     EXPECT_EQ(run.m_strOut, "1 * " + File("BR1-1-1") + "\n");
 }
 
+TEST_F(StoredCharts, AskBeforeTheyTakeTheChangedDrawingsPlace) {
+    const std::string strScript =
+        "SETVAR SDI 1\nLINE 0,0 1,1\nBROPEN\ndblclick 1056 " + Shown("1-1-1") + "\n";
+    EXPECT_EQ(m_project.Run(strScript + "cancel\nDOCUMENTS\n").m_strOut, "1 * Drawing1 (changed)\n");
+    EXPECT_EQ(m_project.Run(strScript + "no\nDOCUMENTS\n").m_strOut, "1 * " + File("BR1-1-1") + "\n");
+}
+
 TEST_F(StoredCharts, OpenNotAtAllWhenSeveralAreChosen) {
     std::filesystem::copy_file(File("BR1-1-1"), File("BR1-2"));
     const CRun run = m_project.Run("BROPEN\nselect 1056 all\nok\nDOCUMENTS\n");
@@ -119,4 +138,69 @@ TEST_F(StoredCharts, AreListedUnderTheirBorehole) {
     EXPECT_NE(run.m_strOut.find("multilist enabled \"\" 1\n    \"" + Shown(Utf8(u8"全部-全部试样")) + "\"\n"),
               std::string::npos)
         << run.m_strOut;
+}
+
+TEST_F(StoredCharts, AreNoneInAnEmptyOrMissingFolder) {
+    const std::filesystem::path file = File("BR1-1-1"), folder = file.parent_path();
+    for (const std::filesystem::path& gone : {file, folder, folder.parent_path()}) {
+        std::filesystem::remove_all(gone);
+        const CRun run = m_project.Run("BROPEN\nok\nshow\ncancel\nDOCUMENTS\n");
+        EXPECT_TRUE(run.m_strOut.starts_with(Utf8(u8"[Tervo] 请选择试样,然后确认!\n"))) << run.m_strOut;
+        EXPECT_NE(run.m_strOut.find("  > \"1\"\n    \"10\"\n"), std::string::npos) << run.m_strOut;
+        EXPECT_NE(run.m_strOut.find("1056 multilist enabled \"\" 0\n"), std::string::npos) << run.m_strOut;
+        EXPECT_TRUE(run.m_strOut.ends_with("\n1 * Drawing1\n")) << run.m_strOut;
+    }
+}
+
+TEST_F(StoredCharts, AreListedAmongFilesOfOtherPrograms) {
+    const std::filesystem::path folder = std::filesystem::path(File("x")).parent_path();
+    for (const char* pOther :
+         {"MV1-1.dwg", "1-1.dwg", "BR1-1.bak", "BR1-1.dwg.bak", "BR1.dwg", "BR.dwg", ".dwg"})
+        std::ofstream(folder / pOther) << "other";
+    std::filesystem::create_directory(folder / "BR1-8.dwg");
+    std::ofstream(folder / "BR1-9.dwg") << "no drawing";
+    std::filesystem::create_symlink("nowhere", folder / "BR1-7.dwg");
+    const std::string strOut = m_project.Run("BROPEN\nshow\ncancel\n").m_strOut;
+    EXPECT_NE(strOut.find("1056 multilist enabled \"\" 3\n    \"" + Shown("1-1-1") + "\"\n    \"" +
+                          Shown("1-8") + "\"\n    \"" + Shown("1-9") + "\"\n1 button"),
+              std::string::npos)
+        << strOut;
+    for (const char* pNone : {"1-8", "1-9"})
+        EXPECT_EQ(m_project.Run("BROPEN\nselect 1056 " + Shown(pNone) + "\nok\nDOCUMENTS\n").m_strOut,
+                  "1 * Drawing1\n");
+}
+
+TEST_F(StoredCharts, AreFoundInAnyCaseButForTheBorehole) {
+    const std::filesystem::path output = m_project.m_program.Root() + "/Output";
+    std::filesystem::rename(File("BR1-1-1"),
+                            std::filesystem::path(File("x")).replace_filename("br1-1-1.DWG"));
+    std::filesystem::rename(output / "GC1", output / "gc1");
+    std::filesystem::rename(output, output.parent_path() / "OUTPUT");
+    const CRun run = m_project.Run("BROPEN\nselect 1056 " + Shown("1-1-1") + "\nok\nDOCUMENTS\n");
+    EXPECT_EQ(run.m_strOut, "1   Drawing1\n2 * " + m_project.m_program.Root() + "/OUTPUT/gc1/" +
+                                Utf8(u8"室内曲线") + "/br1-1-1.DWG\n");
+}
+
+TEST(StoredChartsOfHyphens, AreListedUnderEachBoreholeThatTheirNameBeginsWith) {
+    const CBrenProject project(CMeasuredSamples{{"A", "1", "smith-exc4.4"},
+                                                {"A-1", "2", "smith-ex3.4"},
+                                                {"ZK1", "1-1", "smith-exc4.4"},
+                                                {"zk1", "1-1", "smith-exc4.4"}});
+    for (const auto& [strZKBH, strQYBH] :
+         {std::pair{"A", "1"}, std::pair{"A-1", "2"}, std::pair{"ZK1", "1-1"}})
+        project.Run("BREN\n" + Selection(strZKBH, strQYBH) + "0,0\nSAVECHARTS\n");
+    const auto listed = [&](const std::string& strZKBH) {
+        const std::string strOut =
+            project.Run("BROPEN\nselect 1055 " + strZKBH + "\nshow\ncancel\n").m_strOut;
+        const std::size_t nStart = strOut.find("1056 multilist"), nEnd = strOut.find("1 button");
+        return strOut.substr(nStart, nEnd - nStart);
+    };
+    const std::string strList = "1056 multilist enabled \"\" ";
+    EXPECT_EQ(listed("A"), strList + "2\n    \"" + Shown("A-1-2") + "\"\n    \"" + Shown("A-1") + "\"\n");
+    EXPECT_EQ(listed("A-1"), strList + "1\n    \"" + Shown("A-1-2") + "\"\n");
+    EXPECT_EQ(listed("ZK1"), strList + "1\n    \"" + Shown("ZK1-1-1") + "\"\n");
+    EXPECT_EQ(listed("zk1"), strList + "0\n");
+    const CRun run =
+        project.Run("BROPEN\nselect 1055 A-1\nselect 1056 " + Shown("A-1-2") + "\nok\nDOCUMENTS\n");
+    EXPECT_TRUE(run.m_strOut.ends_with("/BRA-1-2.dwg\n")) << run.m_strOut;
 }
