@@ -78,8 +78,7 @@ void RefitEnvelopes(CBRENChart& chart) {
                           chart.m_dAdoptCEff);
 }
 
-void RunDialog(CBRENChart& chart) {
-    const CTemporaryResourceOverride resources(g_hModuleResources);
+void AskAdoptedValues(CBRENChart& chart) {
     CDLGSAVE dialog(adsw_acadMainWnd());
     FillDialog(chart, dialog);
     if (dialog.DoModal() != ID_OK) acutPrintf(L"\n放弃存储三轴剪切数据!");
@@ -87,11 +86,10 @@ void RunDialog(CBRENChart& chart) {
     AdoptValues(dialog, chart);
 }
 
-/// Zero, and nothing is refitted, when the values may not or cannot be stored.
-int AdoptAndStore(CBRENChart& chart) {
-    if (!chart.CheckProjectForStore()) return 0;
-    RunDialog(chart);
-    return chart.StoreAdoptedValues();
+/// Either way the change of a line is not asked about again.
+void TellOutcome(int bStored) {
+    g_bChartDataChanged = 0;
+    acutPrintf(bStored ? L"\n三轴剪切数据存储成功!" : L"\n三轴剪切数据存储失败!");
 }
 } // namespace
 
@@ -104,9 +102,14 @@ void BrcfCommand() {
         acutPrintf(L"\n没有选中三轴剪切试样曲线!\n请选择三轴剪切试样曲线!");
         return;
     }
-    const int bStored = AdoptAndStore(*pChart);
-    g_bChartDataChanged = 0;
-    acutPrintf(bStored ? L"\n三轴剪切数据存储成功!" : L"\n三轴剪切数据存储失败!");
+    if (!pChart->CheckProjectForStore()) {
+        TellOutcome(0);
+        return;
+    }
+    const CTemporaryResourceOverride resources(g_hModuleResources);
+    AskAdoptedValues(*pChart);
+    const int bStored = pChart->StoreAdoptedValues();
+    TellOutcome(bStored);
     if (!bStored) return;
     RefitEnvelopes(*pChart);
     pEntity.reset();
