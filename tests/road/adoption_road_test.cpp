@@ -105,6 +105,49 @@ TEST_F(AdoptionRoad, AsksBeforeANewGenerationWhoseStoreForgetsTheChange) {
     EXPECT_EQ(Row()["CDF"], 17.35);
 }
 
+TEST_F(AdoptionRoad, LeavesTheWordsOfTheLineToTheCommand) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "OPEN " + Drawing() + "\nno\nDOCUMENTS\n");
+    EXPECT_EQ(strOut,
+              g_strQuestion + "1   Drawing1\n2   " + Drawing() + " (changed)\n3 * " + Drawing() + "\n");
+}
+
+TEST_F(AdoptionRoad, RemembersTheChangeOfADrawingThatWasClosed) {
+    Draw();
+    const std::string strOut = Run(Dragged() + "CLOSE\nno\nCLOSE\nNEW\nyes\nNEW\nno\n");
+    EXPECT_EQ(strOut, g_strQuestion + Utf8(u8"什么也没有选中.\n") + g_strQuestion);
+}
+
+TEST_F(AdoptionRoad, IsRefusedWhenTheProjectIsAnotherOneMeanwhile) {
+    Draw();
+    const std::string strFailed = Utf8(u8"\n数据存储失败!\n三轴剪切数据存储失败!\n");
+    const std::string strRow = "SELECT CDC, CDF, SYRQ FROM z_c_SanZhou", strBefore = m_project.Sql(strRow);
+    Run("");
+    const CJson before = Chart();
+    for (const auto& [strChange, strBox] :
+         {std::pair{"UPDATE x_GongCheng SET GCBH = 'GC2'", Utf8(u8"该工程工程编号已被修改,数据无法入库!")},
+          std::pair{"DELETE FROM x_GongCheng", Utf8(u8"打开工点信息数据表中不存在该工程!")},
+          std::pair{"DROP TABLE x_GongCheng", Utf8(u8"不能打开工点信息数据表,请检查数据!")}}) {
+        m_project.Sql(strChange);
+        // What fails does not hold the command back, and is not asked for again.
+        const std::string strOut =
+            Run(Dragged() + "NEW\nyes\n" + m_strChart + "\nNEW\nDOCUMENTS\nACTIVATE 2\n");
+        EXPECT_EQ(strOut, g_strQuestion + "[Tervo] " + strBox + "\n" + strFailed + "1   Drawing1\n2   " +
+                              Drawing() + " (changed)\n3   Drawing3\n4 * Drawing4\n");
+        EXPECT_EQ(Chart()["m_dAdoptPhi"], before["m_dAdoptPhi"]);
+        EXPECT_EQ(m_project.Sql(strRow), strBefore);
+    }
+}
+
+TEST_F(AdoptionRoad, StoresAlsoWhenItsDialogIsCancelled) {
+    Draw();
+    m_project.Sql("UPDATE z_c_SanZhou SET CDC = NULL, CDF = NULL");
+    const std::string strOut = Run(Dragged() + "BRCF\n" + m_strChart + "\ncancel\n");
+    EXPECT_EQ(strOut, Utf8(u8"\n放弃存储三轴剪切数据!\n三轴剪切数据存储成功!\n"));
+    EXPECT_EQ(Row()["CDF"], 17.35);
+    EXPECT_NEAR(Chart()["m_dGraphPhi"].get<double>(), 17.35, 1e-4) << "the dragged line goes back";
+}
+
 TEST_F(AdoptionRoad, DoesNotAskWhenOnlyAnAnchorWasMoved) {
     Draw();
     const std::string strOut = Run("GRIP " + m_strChart + " 0,1,2,3 @5,5\nNEW\n");
