@@ -12,15 +12,13 @@
 #include "ui/br_open_dlg.h"
 
 namespace {
-constexpr char g_cSeparator = '|';
-
 /// The files chosen in the dialog.
 CString PathsOf(const CBROpenDlg& dialog) {
     CStringArray saTitles, saPaths;
-    SplitText(dialog.m_strOpenResult, g_cSeparator, saTitles);
+    SplitText(dialog.m_strOpenResult, g_cPathSeparator, saTitles);
     for (const CString& strTitle : saTitles)
         saPaths.Add(ChartFile(dialog.m_strOpenGCBH, strTitle));
-    return JoinTexts(saPaths, g_cSeparator);
+    return JoinTexts(saPaths, g_cPathSeparator);
 }
 
 void BropenAppContext(void* /*pData*/) {

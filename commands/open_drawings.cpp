@@ -9,8 +9,6 @@
 #include <cstdlib>
 
 namespace {
-constexpr char g_cSeparator = '|';
-
 CString g_strPendingRequest; ///< for the time after the command; a second request takes the first one's place
 
 /// What zooms when it is typed, with the blank that ends it; null for no zoom.
@@ -33,7 +31,7 @@ Acad::ErrorStatus SendZoom(int nZoom) {
 
 Acad::ErrorStatus OpenInPlace(const CString& strPaths, OpenZoom zoom) {
     CStringArray saPaths;
-    SplitText(strPaths, g_cSeparator, saPaths);
+    SplitText(strPaths, g_cPathSeparator, saPaths);
     if (saPaths.GetSize() > 1) acutPrintf(L"当前是单文档状态,只能打开一个文档");
     const CString strPath = saPaths.IsEmpty() ? CString() : saPaths[0];
     const Acad::ErrorStatus status = acedSyncFileOpen(ToWide(strPath));
@@ -66,7 +64,7 @@ void OpenDocumentsInApp(const CString& strRequest) {
         return;
     }
     CStringArray saParts;
-    SplitText(strRequest, g_cSeparator, saParts);
+    SplitText(strRequest, g_cPathSeparator, saParts);
     for (int i = 1; i < saParts.GetSize(); i++)
         if (acDocManager->appContextOpenDocument(ToWide(saParts[i])) == Acad::eOk)
             SendZoom(std::atoi(saParts[0]));

@@ -4,6 +4,9 @@
 #include "platform/acad/error_status.h"
 #include "platform/mfc/string.h"
 
+/// Stands between paths, and between the titles of stored drawings.
+inline constexpr char g_cPathSeparator = '|';
+
 /// What the view shows of a drawing that was opened.
 enum OpenZoom { OpenZoom_None = 0, OpenZoom_Extents = 1, OpenZoom_All = 2 };
 

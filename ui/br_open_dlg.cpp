@@ -2,6 +2,7 @@
 
 #include "commands/chart_folder.h"
 #include "commands/document_session.h"
+#include "commands/open_drawings.h"
 #include "commands/text_lists.h"
 #include "data/criteria.h"
 #include "data/project_context.h"
@@ -111,7 +112,7 @@ void CBROpenDlg::OnOK() {
     CStringArray saChosen;
     for (int i = 0; i < m_listCharts.GetCount(); i++)
         if (m_listCharts.GetSel(i) > 0) saChosen.Add(m_saOpenFiles[i]);
-    m_strOpenResult = JoinTexts(saChosen, '|');
+    m_strOpenResult = JoinTexts(saChosen, g_cPathSeparator);
     CDialog::OnOK();
 }
 

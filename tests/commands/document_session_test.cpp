@@ -72,6 +72,21 @@ TEST_F(DocumentSession, SendsCloseToTheOthersAndSaysThatTheyAreStillOpen) {
     EXPECT_EQ(m_documents.Shown(), "a[close] b c[close]");
 }
 
+TEST_F(DocumentSession, BecomesSingleWhenTheOthersAreGoneBehindTheQuestion) {
+    AcApDocument& other = m_documents.Add(L"a");
+    m_documents.Add(L"b");
+    CMessageBoxHost closing;
+    closing.m_show = [&](HWND, const std::wstring&, const std::wstring&, UINT) {
+        m_documents.CloseDocument(other);
+        return IDYES;
+    };
+    SetMessageBoxHost(closing);
+    EXPECT_EQ(EnsureSingleDocument("标题"), 1);
+    EXPECT_EQ(Sdi(), 1);
+    EXPECT_EQ(m_documents.Shown(), "b");
+    EXPECT_EQ(m_drawing.m_strPrinted, "");
+}
+
 TEST_F(DocumentSession, ClosesTheCurrentDocument) {
     m_documents.Add(L"a");
     m_documents.Add(L"b");
