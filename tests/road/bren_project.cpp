@@ -48,7 +48,7 @@ CImportRows RowsOf(const CMeasuredSamples& samples) {
     return rows;
 }
 
-CBrenProject::CBrenProject(const CImportRows& rows, int nStandard) {
+CBrenProject::CBrenProject(const CImportRows& rows, int nStandard, const std::string& strConnect) {
     const CTempFolder& folder = m_program.Folder();
     folder.Write("samples.csv", "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
     folder.Write("layers.csv", "ZKBH,TCCDSD,TCHD,TCMC\n" + rows.m_strLayers);
@@ -56,7 +56,8 @@ CBrenProject::CBrenProject(const CImportRows& rows, int nStandard) {
                  "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
                      rows.m_strReadings);
     m_program.Do("init \"$ROOT\"");
-    m_program.Do("new --root \"$ROOT\" --number GC1 --name test --standard " + std::to_string(nStandard));
+    m_program.Do("new --root \"$ROOT\" --number GC1 --name test --standard " + std::to_string(nStandard) +
+                 " --connect \"" + strConnect + "\"");
     EXPECT_EQ(m_program
                   .Shell("cd '" + folder.Path() +
                          "' && $T import --root \"$ROOT\" --number GC1 samples.csv "

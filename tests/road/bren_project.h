@@ -45,10 +45,12 @@ CImportRows RowsOf(const CMeasuredSamples& samples);
 /// Project GC1, GCSY 1, running.
 class CBrenProject {
 public:
+    /// In a database of its own, or in the one that strConnect names.
     template <class Sample>
-    explicit CBrenProject(const std::vector<Sample>& samples, int nStandard = 0)
-        : CBrenProject(RowsOf(samples), nStandard) {}
-    CBrenProject(const CImportRows& rows, int nStandard);
+    explicit CBrenProject(const std::vector<Sample>& samples, int nStandard = 0,
+                          const std::string& strConnect = "")
+        : CBrenProject(RowsOf(samples), nStandard, strConnect) {}
+    CBrenProject(const CImportRows& rows, int nStandard, const std::string& strConnect = "");
 
     /// Runs a statement on the project's database; see CProgram::Sql.
     std::string Sql(const std::string& strSql) const { return m_program.Sql(m_strDatabase, strSql); }

@@ -1,7 +1,7 @@
 // Two programs at work on one project's database at the same time, in real runs.
 
-#include "tests/platform/ado/locking_process.h"
 #include "tests/road/bren_project.h"
+#include "tests/support/test_database.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +9,13 @@ namespace {
 constexpr int g_nStores = 20;
 
 /// A project with the sheets of three samples, each in a drawing named by its sample.
-class SharedProject : public testing::Test {
-protected:
-    SharedProject() {
+class CSharedProject {
+public:
+    explicit CSharedProject(const std::string& strConnect = "")
+        : m_project(CMeasuredSamples{{"1", "1-1", "smith-exc4.4"},
+                                     {"1", "1-2", "smith-exc4.4"},
+                                     {"1", "1-3", "smith-exc4.4"}},
+                    0, strConnect) {
         for (const char* pSample : {"1-1", "1-2", "1-3"}) {
             m_project.Run("BREN\n" + Selection("1", pSample) + "0,0\nSAVEAS " + Drawing(pSample) + "\n" +
                           m_project.Dump());
@@ -37,17 +41,27 @@ protected:
                m_project.m_program.Folder().Write(strSample + ".scr", strScript) + "'";
     }
 
-    const CBrenProject m_project{CMeasuredSamples{
-        {"1", "1-1", "smith-exc4.4"}, {"1", "1-2", "smith-exc4.4"}, {"1", "1-3", "smith-exc4.4"}}};
+    const CBrenProject m_project;
     std::string m_strChart; ///< how a script picks it; the same in each drawing
 };
+
+class SharedProject : public testing::Test, protected CSharedProject {};
+
+class SharedProjectOnEngine : public testing::TestWithParam<TestEngine> {
+protected:
+    CTestDatabase m_database{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, SharedProjectOnEngine, TestEngines(), TestEngineName);
 } // namespace
 
-TEST_F(SharedProject, LosesNoStoreOfTwoProgramsAtOnce) {
-    const CRun run = m_project.m_program.Shell(Stores("1-1", 100) + " & " + Stores("1-2", 200) + "; wait");
+TEST_P(SharedProjectOnEngine, LosesNoStoreOfTwoProgramsAtOnce) {
+    const CSharedProject shared(m_database.ConnectionText());
+    const CRun run = shared.m_project.m_program.Shell(shared.Stores("1-1", 100) + " & " +
+                                                      shared.Stores("1-2", 200) + "; wait");
     EXPECT_EQ(run.m_strErrors, "");
     EXPECT_EQ(run.m_strOut.find("not stored"), std::string::npos) << run.m_strOut;
-    const CJson rows = m_project.Results();
+    const CJson rows = shared.m_project.Results();
     ASSERT_EQ(rows.size(), 3U);
     for (const char* pColumn : {"CDC", "CDF"}) {
         EXPECT_EQ(rows[0][pColumn], 119.0);
