@@ -3,11 +3,11 @@
 #include "host/files/dwg_block_reader.h"
 #include "host/files/dwg_common.h"
 #include "host/files/dwg_error.h"
-#include "host/files/dwg_fixed_handles.h"
 #include "host/files/dwg_handle_map.h"
 #include "host/files/dwg_object_reader.h"
 #include "host/files/dwg_proxies.h"
 #include "host/files/dwg_table_reader.h"
+#include "platform/acad/standard_handles.h"
 
 #include <algorithm>
 
@@ -72,7 +72,7 @@ void MoveAside(AcDbDatabase& database, std::uint64_t nSpare) {
 /// Lets the handles to come follow those in use, and not be below the one that the file gives as the next.
 void EndHandles(AcDbDatabase& database, std::uint64_t nSpare) {
     const std::uint64_t nHighest = database.ObjectIds().back().handle().Value();
-    database.SetHandseed(AcDbHandle(std::max({nSpare, nHighest + 1, CDwgFixed::s_nFirstFree})));
+    database.SetHandseed(AcDbHandle(std::max({nSpare, nHighest + 1, CStandardHandles::s_nFirstFree})));
 }
 
 /// Above every handle of the file, and not below the one that it gives as such.

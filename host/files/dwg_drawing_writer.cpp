@@ -9,21 +9,21 @@ namespace {
 
 /// The references of a new drawing's header to what every drawing has.
 void SetFixedHandles(CDwgVariables& vars) {
-    vars.m_hDimstyle = HardPointer(CDwgFixed::s_nDimstyle);
-    vars.m_hCmlstyle = HardPointer(CDwgFixed::s_nMlineStyle);
-    vars.m_hDimtxsty = HardPointer(CDwgFixed::s_nStandardStyle);
+    vars.m_hDimstyle = HardPointer(CStandardHandles::s_nDimstyle);
+    vars.m_hCmlstyle = HardPointer(CStandardHandles::s_nMlineStyle);
+    vars.m_hDimtxsty = HardPointer(CStandardHandles::s_nStandardStyle);
     CDwgRoots& roots = vars.m_roots;
     const std::pair<CDwgHandle*, std::uint64_t> fixed[] = {
-        {&roots.m_hViews, CDwgFixed::s_nViews},
-        {&roots.m_hUcss, CDwgFixed::s_nUcss},
-        {&roots.m_hViewports, CDwgFixed::s_nViewports},
-        {&roots.m_hDimstyles, CDwgFixed::s_nDimstyles},
-        {&roots.m_hViewportEntities, CDwgFixed::s_nViewportEntities},
-        {&roots.m_hGroups, CDwgFixed::s_nGroups},
-        {&roots.m_hMlineStyles, CDwgFixed::s_nMlineStyles},
-        {&roots.m_hLayouts, CDwgFixed::s_nLayouts},
-        {&roots.m_hPlotSettings, CDwgFixed::s_nPlotSettings},
-        {&roots.m_hPlotStyles, CDwgFixed::s_nPlotStyles}};
+        {&roots.m_hViews, CStandardHandles::s_nViews},
+        {&roots.m_hUcss, CStandardHandles::s_nUcss},
+        {&roots.m_hViewports, CStandardHandles::s_nViewports},
+        {&roots.m_hDimstyles, CStandardHandles::s_nDimstyles},
+        {&roots.m_hViewportEntities, CStandardHandles::s_nViewportEntities},
+        {&roots.m_hGroups, CStandardHandles::s_nGroups},
+        {&roots.m_hMlineStyles, CStandardHandles::s_nMlineStyles},
+        {&roots.m_hLayouts, CStandardHandles::s_nLayouts},
+        {&roots.m_hPlotSettings, CStandardHandles::s_nPlotSettings},
+        {&roots.m_hPlotStyles, CStandardHandles::s_nPlotStyles}};
     for (const auto& [pHandle, nHandle] : fixed)
         pHandle->m_nValue = nHandle;
 }

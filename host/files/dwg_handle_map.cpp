@@ -11,7 +11,7 @@ AcDbObjectId RecordNamed(AcDbObjectId idTable, const ACHAR* name) {
 }
 
 CDwgHandleMap::CDwgHandleMap(const AcDbDatabase& database)
-    : m_nNext(std::max(database.handseed().Value(), CDwgFixed::s_nFirstFree)) {
+    : m_nNext(std::max(database.handseed().Value(), CStandardHandles::s_nFirstFree)) {
     FindGone(database);
     if (!DwgOriginOf(database)) FixHandles(database);
 }
@@ -33,24 +33,24 @@ void CDwgHandleMap::FindGone(const AcDbDatabase& database) {
 
 void CDwgHandleMap::FixHandles(const AcDbDatabase& database) {
     const std::pair<AcDbObjectId, std::uint64_t> fixed[] = {
-        {database.blockTableId(), CDwgFixed::s_nBlocks},
-        {database.layerTableId(), CDwgFixed::s_nLayers},
-        {database.textStyleTableId(), CDwgFixed::s_nStyles},
-        {database.linetypeTableId(), CDwgFixed::s_nLinetypes},
-        {database.regAppTableId(), CDwgFixed::s_nApps},
-        {database.namedObjectsDictionaryId(), CDwgFixed::s_nNamedObjects},
-        {database.ModelSpaceId(), CDwgFixed::s_nModelSpace},
-        {RecordNamed(database.blockTableId(), ACDB_PAPER_SPACE), CDwgFixed::s_nPaperSpace},
-        {RecordNamed(database.layerTableId(), L"0"), CDwgFixed::s_nLayer0},
-        {RecordNamed(database.textStyleTableId(), L"Standard"), CDwgFixed::s_nStandardStyle},
-        {RecordNamed(database.regAppTableId(), L"ACAD"), CDwgFixed::s_nAcadApp},
-        {RecordNamed(database.linetypeTableId(), L"ByBlock"), CDwgFixed::s_nByBlock},
-        {RecordNamed(database.linetypeTableId(), L"ByLayer"), CDwgFixed::s_nByLayer},
-        {RecordNamed(database.linetypeTableId(), L"Continuous"), CDwgFixed::s_nContinuous}};
+        {database.blockTableId(), CStandardHandles::s_nBlocks},
+        {database.layerTableId(), CStandardHandles::s_nLayers},
+        {database.textStyleTableId(), CStandardHandles::s_nStyles},
+        {database.linetypeTableId(), CStandardHandles::s_nLinetypes},
+        {database.regAppTableId(), CStandardHandles::s_nApps},
+        {database.namedObjectsDictionaryId(), CStandardHandles::s_nNamedObjects},
+        {database.ModelSpaceId(), CStandardHandles::s_nModelSpace},
+        {RecordNamed(database.blockTableId(), ACDB_PAPER_SPACE), CStandardHandles::s_nPaperSpace},
+        {RecordNamed(database.layerTableId(), L"0"), CStandardHandles::s_nLayer0},
+        {RecordNamed(database.textStyleTableId(), L"Standard"), CStandardHandles::s_nStandardStyle},
+        {RecordNamed(database.regAppTableId(), L"ACAD"), CStandardHandles::s_nAcadApp},
+        {RecordNamed(database.linetypeTableId(), L"ByBlock"), CStandardHandles::s_nByBlock},
+        {RecordNamed(database.linetypeTableId(), L"ByLayer"), CStandardHandles::s_nByLayer},
+        {RecordNamed(database.linetypeTableId(), L"Continuous"), CStandardHandles::s_nContinuous}};
     for (const auto& [id, nHandle] : fixed)
         if (!id.isNull()) m_mapHandles[id.handle()] = nHandle;
     for (const AcDbObjectId& id : database.ObjectIds()) {
-        if (id.handle().Value() >= CDwgFixed::s_nFirstFree) break; // they come in order
+        if (id.handle().Value() >= CStandardHandles::s_nFirstFree) break; // they come in order
         if (m_mapHandles.try_emplace(id.handle(), m_nNext).second) ++m_nNext;
     }
 }

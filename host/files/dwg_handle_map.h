@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/files/dwg_fixed_handles.h"
 #include "platform/acad/db_database.h"
+#include "platform/acad/standard_handles.h"
 
 #include <map>
 #include <set>

@@ -59,11 +59,11 @@ private:
     std::map<std::wstring, std::uint64_t> EntriesOf(const AcDbDictionary& dictionary) const {
         std::map<std::wstring, std::uint64_t> entries;
         if (!m_writing.m_pOrigin && dictionary.objectId() == m_writing.m_database.namedObjectsDictionaryId())
-            entries = {{L"ACAD_GROUP", CDwgFixed::s_nGroups},
-                       {L"ACAD_LAYOUT", CDwgFixed::s_nLayouts},
-                       {L"ACAD_MLINESTYLE", CDwgFixed::s_nMlineStyles},
-                       {L"ACAD_PLOTSETTINGS", CDwgFixed::s_nPlotSettings},
-                       {L"ACAD_PLOTSTYLENAME", CDwgFixed::s_nPlotStyles}};
+            entries = {{L"ACAD_GROUP", CStandardHandles::s_nGroups},
+                       {L"ACAD_LAYOUT", CStandardHandles::s_nLayouts},
+                       {L"ACAD_MLINESTYLE", CStandardHandles::s_nMlineStyles},
+                       {L"ACAD_PLOTSETTINGS", CStandardHandles::s_nPlotSettings},
+                       {L"ACAD_PLOTSTYLENAME", CStandardHandles::s_nPlotStyles}};
         for (const auto& [strName, id] : dictionary.Entries())
             if (const std::uint64_t nHandle = m_writing.m_handles.Of(id))
                 entries.try_emplace(strName, nHandle);

@@ -1,8 +1,8 @@
 #include "host/files/dwg_standard_objects.h"
 
 #include "host/files/dwg_dictionaries.h"
-#include "host/files/dwg_fixed_handles.h"
 #include "host/files/dwg_viewport.h"
+#include "platform/acad/standard_handles.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ CDwgRecord Control(std::uint16_t nType, std::uint64_t nHandle, std::vector<CDwgH
 template <class Dictionary>
 Dictionary NamedDictionary(const std::vector<std::string>& names, const std::vector<CDwgHandle>& items) {
     Dictionary dictionary;
-    dictionary.m_hOwner = SoftPointer(CDwgFixed::s_nNamedObjects);
+    dictionary.m_hOwner = SoftPointer(CStandardHandles::s_nNamedObjects);
     dictionary.m_arReactors = {dictionary.m_hOwner};
     dictionary.m_arNames = names;
     dictionary.m_arItems = items;
@@ -32,32 +32,32 @@ CDwgRecord DictionaryOf(std::uint64_t nHandle, const std::vector<std::string>& n
 
 CDwgRecord PlotStyles() {
     auto dictionary =
-        NamedDictionary<CDwgDefaultDictionary>({"Normal"}, {SoftOwner(CDwgFixed::s_nPlotStyle)});
-    dictionary.m_hDefault = HardPointer(CDwgFixed::s_nPlotStyle);
-    return DwgRecordOf(g_nDwgDefaultDictionaryClass, CDwgFixed::s_nPlotStyles, dictionary,
+        NamedDictionary<CDwgDefaultDictionary>({"Normal"}, {SoftOwner(CStandardHandles::s_nPlotStyle)});
+    dictionary.m_hDefault = HardPointer(CStandardHandles::s_nPlotStyle);
+    return DwgRecordOf(g_nDwgDefaultDictionaryClass, CStandardHandles::s_nPlotStyles, dictionary,
                        DWG_FILED(FileDefaultDictionary));
 }
 
 CDwgRecord PlotStyle() {
-    const CDwgHandle hOwner = SoftPointer(CDwgFixed::s_nPlotStyles);
+    const CDwgHandle hOwner = SoftPointer(CStandardHandles::s_nPlotStyles);
     const CDwgObjectCommon placeholder{hOwner, {hOwner}};
-    return DwgRecordOf(g_nDwgPlaceholderClass, CDwgFixed::s_nPlotStyle, placeholder,
+    return DwgRecordOf(g_nDwgPlaceholderClass, CStandardHandles::s_nPlotStyle, placeholder,
                        DWG_FILED(FileObjectCommon));
 }
 
 CDwgRecord MlineStyle() {
     CDwgMlineStyle style;
-    style.m_hOwner = SoftPointer(CDwgFixed::s_nMlineStyles);
+    style.m_hOwner = SoftPointer(CStandardHandles::s_nMlineStyles);
     style.m_arReactors = {style.m_hOwner};
     style.m_strName = "STANDARD";
     style.m_arElements = {{0.5}, {-0.5}};
-    return DwgRecordOf(g_nDwgMlineStyle, CDwgFixed::s_nMlineStyle, style, DWG_FILED(FileMlineStyle));
+    return DwgRecordOf(g_nDwgMlineStyle, CStandardHandles::s_nMlineStyle, style, DWG_FILED(FileMlineStyle));
 }
 
 CDwgRecord LayoutOf(std::uint64_t nSpace, const char* pName) {
-    const bool bModel = nSpace == CDwgFixed::s_nModelSpace;
+    const bool bModel = nSpace == CStandardHandles::s_nModelSpace;
     CDwgLayout layout;
-    layout.m_hOwner = SoftPointer(CDwgFixed::s_nLayouts);
+    layout.m_hOwner = SoftPointer(CStandardHandles::s_nLayouts);
     layout.m_arReactors = {layout.m_hOwner};
     layout.m_strName = pName;
     layout.m_nTab = bModel ? 0 : 1;
@@ -69,10 +69,10 @@ CDwgRecord LayoutOf(std::uint64_t nSpace, const char* pName) {
 
 CDwgRecord Dimstyle() {
     CDwgDimstyleRecord style;
-    style.m_hOwner = SoftPointer(CDwgFixed::s_nDimstyles);
+    style.m_hOwner = SoftPointer(CStandardHandles::s_nDimstyles);
     style.m_strName = "Standard";
-    style.m_arParts[0] = HardPointer(CDwgFixed::s_nStandardStyle);
-    return DwgRecordOf(g_nDwgDimstyle, CDwgFixed::s_nDimstyle, style, DWG_FILED(FileDimstyle));
+    style.m_arParts[0] = HardPointer(CStandardHandles::s_nStandardStyle);
+    return DwgRecordOf(g_nDwgDimstyle, CStandardHandles::s_nDimstyle, style, DWG_FILED(FileDimstyle));
 }
 
 } // namespace
@@ -85,20 +85,24 @@ std::vector<CDwgClass> DwgStandardClasses() {
 }
 
 std::vector<CDwgRecord> DwgStandardObjects() {
-    return {Control(g_nDwgViewControl, CDwgFixed::s_nViews, {}),
-            Control(g_nDwgUcsControl, CDwgFixed::s_nUcss, {}),
-            Control(g_nDwgViewportControl, CDwgFixed::s_nViewports, {SoftOwner(CDwgFixed::s_nViewport)}),
-            Control(g_nDwgDimstyleControl, CDwgFixed::s_nDimstyles, {SoftOwner(CDwgFixed::s_nDimstyle)}),
-            Control(g_nDwgViewportEntityControl, CDwgFixed::s_nViewportEntities, {}),
-            DictionaryOf(CDwgFixed::s_nGroups),
+    return {Control(g_nDwgViewControl, CStandardHandles::s_nViews, {}),
+            Control(g_nDwgUcsControl, CStandardHandles::s_nUcss, {}),
+            Control(g_nDwgViewportControl, CStandardHandles::s_nViewports,
+                    {SoftOwner(CStandardHandles::s_nViewport)}),
+            Control(g_nDwgDimstyleControl, CStandardHandles::s_nDimstyles,
+                    {SoftOwner(CStandardHandles::s_nDimstyle)}),
+            Control(g_nDwgViewportEntityControl, CStandardHandles::s_nViewportEntities, {}),
+            DictionaryOf(CStandardHandles::s_nGroups),
             PlotStyles(),
             PlotStyle(),
-            DictionaryOf(CDwgFixed::s_nMlineStyles, {"Standard"}, {SoftOwner(CDwgFixed::s_nMlineStyle)}),
+            DictionaryOf(CStandardHandles::s_nMlineStyles, {"Standard"},
+                         {SoftOwner(CStandardHandles::s_nMlineStyle)}),
             MlineStyle(),
-            DictionaryOf(CDwgFixed::s_nPlotSettings),
-            DictionaryOf(CDwgFixed::s_nLayouts, {"Layout1", "Model"},
-                         {SoftOwner(CDwgFixed::s_nPaperSpace + 3), SoftOwner(CDwgFixed::s_nModelSpace + 3)}),
-            LayoutOf(CDwgFixed::s_nPaperSpace, "Layout1"),
-            LayoutOf(CDwgFixed::s_nModelSpace, "Model"),
+            DictionaryOf(CStandardHandles::s_nPlotSettings),
+            DictionaryOf(CStandardHandles::s_nLayouts, {"Layout1", "Model"},
+                         {SoftOwner(CStandardHandles::s_nPaperSpace + 3),
+                          SoftOwner(CStandardHandles::s_nModelSpace + 3)}),
+            LayoutOf(CStandardHandles::s_nPaperSpace, "Layout1"),
+            LayoutOf(CStandardHandles::s_nModelSpace, "Model"),
             Dimstyle()};
 }

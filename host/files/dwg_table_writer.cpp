@@ -68,7 +68,7 @@ private:
     void WriteRecord(const AcDbLayerTableRecord& record, std::uint64_t nHandle) {
         auto layer = Begin<CDwgLayerRecord>(record, nHandle, g_nDwgLayer, DWG_FILED(FileLayer));
         layer.m_nColor = record.ColorIndex();
-        if (!m_writing.m_pOrigin) layer.m_hPlotStyle = HardPointer(CDwgFixed::s_nPlotStyle);
+        if (!m_writing.m_pOrigin) layer.m_hPlotStyle = HardPointer(CStandardHandles::s_nPlotStyle);
         const std::uint64_t nLinetype = m_writing.m_handles.Of(record.linetypeObjectId());
         layer.m_hLinetype = HardPointer(nLinetype ? nLinetype : Continuous());
         Append(g_nDwgLayer, nHandle, layer, DWG_FILED(FileLayer));
@@ -131,12 +131,12 @@ private:
 
     void WriteViewport(const CDbView& view) {
         CDwgViewportRecord viewport;
-        viewport.m_hOwner = SoftPointer(CDwgFixed::s_nViewports);
+        viewport.m_hOwner = SoftPointer(CStandardHandles::s_nViewports);
         viewport.m_strName = "*Active";
         viewport.m_ptCenter = view.m_ptCenter;
         viewport.m_dHeight = view.m_dHeight;
         viewport.m_dWidth = view.m_dHeight * g_dViewRatio;
-        Append(g_nDwgViewport, CDwgFixed::s_nViewport, viewport, DWG_FILED(FileViewport));
+        Append(g_nDwgViewport, CStandardHandles::s_nViewport, viewport, DWG_FILED(FileViewport));
     }
 
     const CDwgWriting& m_writing;

@@ -4,8 +4,8 @@
 #include "host/files/dwg_curves.h"
 #include "host/files/dwg_drawing_reader.h"
 #include "host/files/dwg_drawing_writer.h"
-#include "host/files/dwg_fixed_handles.h"
 #include "host/files/dwg_handle_map.h"
+#include "platform/acad/standard_handles.h"
 #include "tests/host/files/dwg_refusal.h"
 #include "tests/host/files/dwg_sample_drawing.h"
 
@@ -19,7 +19,7 @@ CBytes LineContent(std::uint64_t nHandle, const CDwgHandle& hNext, bool bNeighbo
     common.m_nPlace = g_nDwgInModelSpace;
     common.m_bNeighbours = bNeighbours;
     common.m_hNext = hNext;
-    common.m_hLayer = HardPointer(CDwgFixed::s_nLayer0);
+    common.m_hLayer = HardPointer(CStandardHandles::s_nLayer0);
     return WriteDwgRecord(DwgRecordOf(g_nDwgLine, nHandle, CDwgLine(), [&](auto& io, auto& line) {
         FileEntityCommon(io, common);
         FileLine(io, line);
@@ -30,14 +30,14 @@ CBytes LineContent(std::uint64_t nHandle, const CDwgHandle& hNext, bool bNeighbo
 CDwgFile FileWithChain(std::uint64_t nFirst, std::uint64_t nLast) {
     CDwgFile file = DwgFileOf(AcDbDatabase());
     const CDwgRecord record =
-        ReadDwgRecord(file.m_contents.at(CDwgFixed::s_nModelSpace), CDwgFixed::s_nModelSpace);
+        ReadDwgRecord(file.m_contents.at(CStandardHandles::s_nModelSpace), CStandardHandles::s_nModelSpace);
     CDwgRecordReader reader(record);
     CDwgBlockHeader header;
     FileBlockHeader(reader, header);
     header.m_hFirst = SoftPointer(nFirst);
     header.m_hLast = SoftPointer(nLast);
-    file.m_contents[CDwgFixed::s_nModelSpace] = WriteDwgRecord(
-        DwgRecordOf(g_nDwgBlockHeader, CDwgFixed::s_nModelSpace, header, DWG_FILED(FileBlockHeader)));
+    file.m_contents[CStandardHandles::s_nModelSpace] = WriteDwgRecord(
+        DwgRecordOf(g_nDwgBlockHeader, CStandardHandles::s_nModelSpace, header, DWG_FILED(FileBlockHeader)));
     return file;
 }
 
@@ -80,7 +80,7 @@ TEST(ReadDwgBlocks, EndsAChainThatLeadsToNothing) {
 
 TEST(ReadDwgBlocks, EndsAChainThatLeadsToTheEndOfABlockOrToWhatIsNoEntity) {
     EXPECT_TRUE(HandlesRead(FileWithChain(0x1D, 0x1D)).empty()); // of paper space
-    EXPECT_TRUE(HandlesRead(FileWithChain(CDwgFixed::s_nGroups, CDwgFixed::s_nGroups)).empty());
+    EXPECT_TRUE(HandlesRead(FileWithChain(CStandardHandles::s_nGroups, CStandardHandles::s_nGroups)).empty());
 }
 
 TEST(ReadDwgBlocks, PutsEntitiesThatNoChainLeadsToIntoTheBlockThatTheyName) {

@@ -30,7 +30,7 @@ TEST(WriteDwgBlocks, ChainsTheEntitiesOfModelSpace) {
     const CDwgWritten written(database);
     const std::vector<CDwgRecord> lines = written.OfType(g_nDwgLine);
     ASSERT_EQ(lines.size(), 3u);
-    const CDwgBlockHeader header = HeaderOf(written, CDwgFixed::s_nModelSpace);
+    const CDwgBlockHeader header = HeaderOf(written, CStandardHandles::s_nModelSpace);
     EXPECT_EQ(header.m_hFirst, SoftPointer(lines[0].m_nHandle));
     EXPECT_EQ(header.m_hLast, SoftPointer(lines[2].m_nHandle));
     EXPECT_EQ(CommonOf(lines[0]).m_hPrevious, SoftPointer(0));
@@ -43,7 +43,7 @@ TEST(WriteDwgBlocks, ChainsTheEntitiesOfModelSpace) {
 TEST(WriteDwgBlocks, GivesTheSpacesTheirEndsAndLayouts) {
     const AcDbDatabase database;
     const CDwgWritten written(database);
-    const CDwgBlockHeader model = HeaderOf(written, CDwgFixed::s_nModelSpace);
+    const CDwgBlockHeader model = HeaderOf(written, CStandardHandles::s_nModelSpace);
     EXPECT_EQ(model.m_strName, "*Model_Space");
     EXPECT_EQ(model.m_hFirst, SoftPointer(0));
     EXPECT_EQ(model.m_hBlock, HardOwner(0x20));
@@ -53,9 +53,9 @@ TEST(WriteDwgBlocks, GivesTheSpacesTheirEndsAndLayouts) {
     EXPECT_EQ(CommonOf(written.Record(0x1C)).m_nPlace, g_nDwgInPaperSpace);
     EXPECT_EQ(written.Record(0x20).m_nType, g_nDwgBlock);
     EXPECT_EQ(written.Record(0x21).m_nType, g_nDwgBlockEnd);
-    const auto control = Filed<CDwgControl>(written.Record(CDwgFixed::s_nBlocks), [](auto& io, auto& value) {
-        FileControl(io, value, g_nDwgBlockControl);
-    });
+    const auto control =
+        Filed<CDwgControl>(written.Record(CStandardHandles::s_nBlocks),
+                           [](auto& io, auto& value) { FileControl(io, value, g_nDwgBlockControl); });
     EXPECT_TRUE(control.m_arRecords.empty());
     EXPECT_EQ(control.m_arFixed, (std::vector{HardOwner(0x1F), HardOwner(0x1B)}));
 }
@@ -113,9 +113,9 @@ TEST(WriteDwgBlocks, GivesEntitiesTheirColorLayerLinetypeAndExtendedData) {
     const CDwgEntityCommon common = CommonOf(record);
     EXPECT_EQ(common.m_nColor, 5);
     EXPECT_EQ(common.m_nLinetype, g_nDwgByBlock);
-    EXPECT_EQ(common.m_hLayer, HardPointer(CDwgFixed::s_nLayer0));
+    EXPECT_EQ(common.m_hLayer, HardPointer(CStandardHandles::s_nLayer0));
     ASSERT_EQ(record.m_arExtended.size(), 1u);
-    EXPECT_EQ(record.m_arExtended[0].m_hApp, HardPointer(CDwgFixed::s_nAcadApp));
+    EXPECT_EQ(record.m_arExtended[0].m_hApp, HardPointer(CStandardHandles::s_nAcadApp));
 }
 
 TEST(WriteDwgBlocks, LeavesErasedEntitiesOut) {
@@ -124,5 +124,5 @@ TEST(WriteDwgBlocks, LeavesErasedEntitiesOut) {
     CDbOpen<AcDbLine>(id, AcDb::kForWrite)->erase();
     const CDwgWritten written(database);
     EXPECT_TRUE(written.OfType(g_nDwgLine).empty());
-    EXPECT_EQ(HeaderOf(written, CDwgFixed::s_nModelSpace).m_hFirst, SoftPointer(0));
+    EXPECT_EQ(HeaderOf(written, CStandardHandles::s_nModelSpace).m_hFirst, SoftPointer(0));
 }

@@ -1,6 +1,6 @@
 #include "host/files/dwg_drawing_writer.h"
 
-#include "host/files/dwg_fixed_handles.h"
+#include "platform/acad/standard_handles.h"
 #include "tests/host/files/dwg_sample_drawing.h"
 #include "tests/host/files/dwg_structure.h"
 #include "tests/host/files/dwg_written.h"
@@ -32,8 +32,8 @@ TEST(DwgFileOf, KeepsTheVariablesOfTheDrawing) {
     const CDwgVariables vars = CDwgWritten(database).File().m_variables;
     EXPECT_EQ(vars.m_dLtscale, 2.5);
     EXPECT_EQ(vars.m_model.m_ptInsbase, AcGePoint3d(1.0, 2.0, 3.0));
-    EXPECT_EQ(vars.m_hClayer, HardPointer(CDwgFixed::s_nLayer0));
-    EXPECT_EQ(vars.m_hTextstyle, HardPointer(CDwgFixed::s_nStandardStyle));
-    EXPECT_EQ(vars.m_hCeltype, HardPointer(CDwgFixed::s_nByLayer));
+    EXPECT_EQ(vars.m_hClayer, HardPointer(CStandardHandles::s_nLayer0));
+    EXPECT_EQ(vars.m_hTextstyle, HardPointer(CStandardHandles::s_nStandardStyle));
+    EXPECT_EQ(vars.m_hCeltype, HardPointer(CStandardHandles::s_nByLayer));
     EXPECT_EQ(vars.m_hHandseed, (CDwgHandle{0, 0x60}));
 }

@@ -111,7 +111,7 @@ TEST(WriteDwgEntity, GivesATextWithoutAStyleTheStandardOne) {
     text.setHorizontalMode(AcDb::kTextMid);
     text.setAlignmentPoint({5.0, 6.0, 3.0});
     const auto part = writing.PartOf<CDwgTextEntity>(text, g_nDwgText, DWG_FILED(FileText));
-    EXPECT_EQ(part.m_hStyle, HardPointer(CDwgFixed::s_nStandardStyle));
+    EXPECT_EQ(part.m_hStyle, HardPointer(CStandardHandles::s_nStandardStyle));
     EXPECT_EQ(part.m_strText, "固é");
     EXPECT_EQ(part.m_dElevation, 3.0);
     EXPECT_EQ(part.m_ptAlignment.y, 6.0);
@@ -145,7 +145,7 @@ TEST(WriteDwgEntity, WritesInsertionsWithWhereTheirAttributesAre) {
     reference.setScaleFactors({2.0, 2.0, 1.0});
     const auto part =
         writing.PartOf<CDwgInsertEntity>(reference, g_nDwgInsert, DWG_FILED(FileInsert), {0x61, 0x62, 0x63});
-    EXPECT_EQ(part.m_hBlock, HardPointer(CDwgFixed::s_nModelSpace));
+    EXPECT_EQ(part.m_hBlock, HardPointer(CStandardHandles::s_nModelSpace));
     EXPECT_EQ(part.m_scale, AcGeScale3d(2.0, 2.0, 1.0));
     EXPECT_EQ(part.m_hFirstAttribute, SoftPointer(0x61));
     EXPECT_EQ(part.m_hLastAttribute, SoftPointer(0x62));

@@ -2,9 +2,9 @@
 
 #include "host/files/dwg_drawing_reader.h"
 #include "host/files/dwg_drawing_writer.h"
-#include "host/files/dwg_fixed_handles.h"
 #include "host/files/dwg_handle_map.h"
 #include "platform/acad/db_stub.h"
+#include "platform/acad/standard_handles.h"
 #include "tests/host/files/dwg_refusal.h"
 #include "tests/host/files/dwg_sample_drawing.h"
 
@@ -85,7 +85,7 @@ TEST(ReadDwgTables, KeepsBothKindsOfFonts) {
 
 TEST(ReadDwgTables, RefusesATableThatHoldsWhatIsNoneOfIts) {
     CDwgFile file = DwgFileOf(AcDbDatabase());
-    file.m_variables.m_roots.m_hLayers.m_nValue = CDwgFixed::s_nStyles;
+    file.m_variables.m_roots.m_hLayers.m_nValue = CStandardHandles::s_nStyles;
     EXPECT_EQ(RefusalOf([&] { DrawingOfDwg(file); }),
               "Object 3: a table refers to it, but it is none of that table's.");
     file.m_variables.m_roots.m_hLayers.m_nValue = 0;

@@ -30,13 +30,13 @@ TEST(WriteDwgTables, GivesLayersTheirColorAndLinetype) {
     ASSERT_EQ(layers.size(), 2u);
     EXPECT_EQ(layers.at("土层").m_nColor, 3);
     EXPECT_EQ(layers.at("0").m_nColor, 7);
-    EXPECT_EQ(layers.at("0").m_hLinetype, HardPointer(CDwgFixed::s_nContinuous));
-    EXPECT_EQ(layers.at("0").m_hOwner, SoftPointer(CDwgFixed::s_nLayers));
-    const auto control = Filed<CDwgControl>(written.Record(CDwgFixed::s_nLayers), [](auto& io, auto& value) {
-        FileControl(io, value, g_nDwgLayerControl);
-    });
+    EXPECT_EQ(layers.at("0").m_hLinetype, HardPointer(CStandardHandles::s_nContinuous));
+    EXPECT_EQ(layers.at("0").m_hOwner, SoftPointer(CStandardHandles::s_nLayers));
+    const auto control =
+        Filed<CDwgControl>(written.Record(CStandardHandles::s_nLayers),
+                           [](auto& io, auto& value) { FileControl(io, value, g_nDwgLayerControl); });
     EXPECT_EQ(control.m_arRecords.size(), 2u);
-    EXPECT_EQ(control.m_arRecords[0], SoftOwner(CDwgFixed::s_nLayer0));
+    EXPECT_EQ(control.m_arRecords[0], SoftOwner(CStandardHandles::s_nLayer0));
 }
 
 TEST(WriteDwgTables, LeavesErasedRecordsOut) {
@@ -60,7 +60,7 @@ TEST(WriteDwgTables, GivesLinetypesTheirDashesAndLength) {
     ASSERT_EQ(dashed.m_arDashes.size(), 4u);
     EXPECT_EQ(dashed.m_arDashes[1].m_dLength, -0.5);
     const auto control =
-        Filed<CDwgControl>(written.Record(CDwgFixed::s_nLinetypes),
+        Filed<CDwgControl>(written.Record(CStandardHandles::s_nLinetypes),
                            [](auto& io, auto& value) { FileControl(io, value, g_nDwgLinetypeControl); });
     EXPECT_EQ(control.m_arRecords.size(), 2u);
     EXPECT_EQ(control.m_arFixed, (std::vector{HardOwner(0x14), HardOwner(0x15)}));
@@ -87,7 +87,7 @@ TEST(WriteDwgTables, GivesStylesTheirFontsAndNamedOnesAsExtendedData) {
     ASSERT_EQ(records.size(), 2u);
     EXPECT_TRUE(records[0].m_arExtended.empty());
     ASSERT_EQ(records[1].m_arExtended.size(), 1u);
-    EXPECT_EQ(records[1].m_arExtended[0].m_hApp, HardPointer(CDwgFixed::s_nAcadApp));
+    EXPECT_EQ(records[1].m_arExtended[0].m_hApp, HardPointer(CStandardHandles::s_nAcadApp));
     const CDrawingText text(g_nChinesePage);
     const auto items =
         UnpackExtendedData(records[1].m_arExtended[0].m_arBytes, {text, g_nDwgAnsi936, {}, {}});
@@ -99,7 +99,7 @@ TEST(WriteDwgTables, GivesStylesTheirFontsAndNamedOnesAsExtendedData) {
 TEST(WriteDwgTables, ShowsTheDrawingsView) {
     AcDbDatabase database;
     database.SetView({{10.0, 20.0}, 594.0});
-    const auto view = Filed<CDwgViewportRecord>(CDwgWritten(database).Record(CDwgFixed::s_nViewport),
+    const auto view = Filed<CDwgViewportRecord>(CDwgWritten(database).Record(CStandardHandles::s_nViewport),
                                                 DWG_FILED(FileViewport));
     EXPECT_EQ(view.m_ptCenter.x, 10.0);
     EXPECT_EQ(view.m_dHeight, 594.0);
@@ -108,7 +108,7 @@ TEST(WriteDwgTables, ShowsTheDrawingsView) {
 
 TEST(WriteDwgTables, NamesTheDictionariesThatEveryFileHas) {
     const AcDbDatabase database;
-    const auto named = Filed<CDwgDictionary>(CDwgWritten(database).Record(CDwgFixed::s_nNamedObjects),
+    const auto named = Filed<CDwgDictionary>(CDwgWritten(database).Record(CStandardHandles::s_nNamedObjects),
                                              DWG_FILED(FileDictionary));
     EXPECT_EQ(named.m_arNames, (std::vector<std::string>{"ACAD_GROUP", "ACAD_LAYOUT", "ACAD_MLINESTYLE",
                                                          "ACAD_PLOTSETTINGS", "ACAD_PLOTSTYLENAME"}));

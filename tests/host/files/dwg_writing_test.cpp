@@ -31,5 +31,5 @@ TEST(DwgExtendedDataOf, PacksEachApplicationsValuesUnderItsHandle) {
     const auto extended = DwgExtendedDataOf(line, {database, nullptr, text, g_nDwgAnsi936, handles, classes});
     ASSERT_EQ(extended.size(), 1u);
     EXPECT_EQ(extended[0].m_hApp, HardPointer(handles.Of(idApp)));
-    EXPECT_EQ(extended[0].m_arBytes.back(), CDwgFixed::s_nLayer0);
+    EXPECT_EQ(extended[0].m_arBytes.back(), CStandardHandles::s_nLayer0);
 }

@@ -1,5 +1,0 @@
-#pragma once
-
-#include "platform/acad/standard_handles.h"
-
-using CDwgFixed = CStandardHandles;
