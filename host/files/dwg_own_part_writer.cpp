@@ -1,10 +1,12 @@
 #include "host/files/dwg_own_part_writer.h"
 
+#include "host/files/dwg_error.h"
 #include "host/files/dwg_own_part.h"
 #include "host/files/dwg_value_writer.h"
 #include "platform/acad/db_proxy.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -28,6 +30,15 @@ void WriteForeign(CDwgRecordWriter& io, const CDwgOwnPart& part, const CDbRecord
         io.Handle(HandleAt(part, record, i, writing));
 }
 
+/// A number behind those of the file's classes.
+std::uint16_t NextNumber(const std::vector<CDwgClass>& classes) {
+    const auto last = std::ranges::max_element(classes, {}, &CDwgClass::m_nNumber);
+    if (last == classes.end()) return g_nDwgFirstClass;
+    if (last->m_nNumber == std::numeric_limits<std::uint16_t>::max())
+        throw CDwgError("Classes: the last number is taken, another class has no room.");
+    return static_cast<std::uint16_t>(last->m_nNumber + 1);
+}
+
 /// The number of a class in the file.
 std::uint16_t NumberOf(const CProxyOrigin& original, bool bKnown, bool bEntity, const CDwgWriting& writing) {
     const std::string strName = writing.m_text.Encode(original.m_strClassName);
@@ -38,9 +49,7 @@ std::uint16_t NumberOf(const CProxyOrigin& original, bool bKnown, bool bEntity, 
         return found->m_nNumber;
     }
     CDwgClass entry;
-    const auto last = std::ranges::max_element(classes, {}, &CDwgClass::m_nNumber);
-    entry.m_nNumber =
-        static_cast<std::uint16_t>(last == classes.end() ? g_nDwgFirstClass : last->m_nNumber + 1);
+    entry.m_nNumber = NextNumber(classes);
     entry.m_nProxyFlags = static_cast<std::uint16_t>(original.m_nProxyFlags);
     entry.m_strAppName = writing.m_text.Encode(original.m_strAppName);
     entry.m_strClassName = strName;

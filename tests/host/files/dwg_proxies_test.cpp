@@ -4,6 +4,7 @@
 #include "host/files/dwg_drawing_writer.h"
 #include "platform/acad/db_stub.h"
 #include "tests/host/files/dwg_mark_class.h"
+#include "tests/host/files/dwg_refusal.h"
 
 #include <optional>
 
@@ -137,4 +138,16 @@ TEST(DwgProxies, AreClonedWithTheirReferences) {
     const CDwgFile file = ThroughBytes(*pClone);
     const CMarkClass markClass;
     ExpectMark(*DrawingOfDwg(file));
+}
+
+TEST(DwgProxies, AreRefusedWhereTheFileHasNoClassNumberLeft) {
+    AcDbDatabase empty;
+    CDwgFile file = DwgFileOf(empty);
+    file.m_arClasses.push_back({65535, 0, "Last", "CLast", "LAST", false, true});
+    const auto pDrawing = DrawingOfDwg(file);
+    EXPECT_EQ(RefusalOf([&] { DwgFileOf(*pDrawing); }), "");
+    const CMarkClass markClass;
+    FillWithMark(*pDrawing);
+    EXPECT_EQ(RefusalOf([&] { DwgFileOf(*pDrawing); }),
+              "Classes: the last number is taken, another class has no room.");
 }
