@@ -28,6 +28,8 @@ using HostCommandsRun = CProgramRun;
 TEST_F(HostCommandsRun, EachCommandEndsWithAnImmediateCancelOrAtOnce) {
     for (const CHostCommand& command : HostCommands()) {
         const CProgramResult result = RunScript(std::string(command.m_pName) + "\ncancel\nSETVAR PLOTDPI\n");
-        EXPECT_EQ(result.m_nStatus, 0) << command.m_pName << ": " << result.m_strErr;
+        // SAVECHARTS asks nothing, and is refused where no project runs.
+        const int nStatus = std::string_view(command.m_pName) == "SAVECHARTS" ? 5 : 0;
+        EXPECT_EQ(result.m_nStatus, nStatus) << command.m_pName << ": " << result.m_strErr;
     }
 }
