@@ -63,7 +63,7 @@ std::string RunningProject() {
     if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, szIni.data())) < 0)
         Refuse("no project is running");
     GetPrivateProfileStringA("Project", "GCBH", "", szGCBH.data(), szGCBH.size(), szIni.data());
-    const std::string strGCBH = ToUtf8(szGCBH.data());
+    std::string strGCBH = ToUtf8(szGCBH.data());
     if (!CanStandInFileName(strGCBH) || strGCBH.back() == '.')
         Refuse("project \"" + strGCBH + "\" cannot name a folder");
     return strGCBH;

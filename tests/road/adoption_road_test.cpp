@@ -105,6 +105,19 @@ TEST_F(AdoptionRoad, AsksBeforeANewGenerationWhoseStoreForgetsTheChange) {
     EXPECT_EQ(Row()["CDF"], 17.35);
 }
 
+TEST_F(AdoptionRoad, AsksBeforeTheHostAsksWhetherToSave) {
+    Draw();
+    const std::string strOut =
+        m_project.m_program
+            .Shell("printf '%s' 'OPEN " + Drawing() + "\n" + Dragged() +
+                   "QUIT\nno\ncancel\nQUIT\nno\n' | " TERVO_BIN "/tvcad --root \"$ROOT\" -s -")
+            .m_strOut;
+    const std::string strSave = "Save changes to " + Drawing() + "? ";
+    EXPECT_TRUE(strOut.ends_with("Command: QUIT\n" + g_strQuestion + "yes/no> no\n" + strSave +
+                                 "cancel\nCommand: QUIT\n" + strSave + "no\n"))
+        << strOut;
+}
+
 TEST_F(AdoptionRoad, LeavesTheWordsOfTheLineToTheCommand) {
     Draw();
     const std::string strOut = Run(Dragged() + "OPEN " + Drawing() + "\nno\nDOCUMENTS\n");

@@ -204,3 +204,16 @@ TEST(StoredChartsOfHyphens, AreListedUnderEachBoreholeThatTheirNameBeginsWith) {
         project.Run("BROPEN\nselect 1055 A-1\nselect 1056 " + Shown("A-1-2") + "\nok\nDOCUMENTS\n");
     EXPECT_TRUE(run.m_strOut.ends_with("/BRA-1-2.dwg\n")) << run.m_strOut;
 }
+
+TEST(StoredChartsOfOddBytes, AreListedAndOpenedAsOthersAre) {
+    // In the code page their second bytes are a backslash, a bar and a tilde.
+    const std::string strZKBH = Utf8(u8"乗倈"), strQYBH = Utf8(u8"儈");
+    const CBrenProject project(
+        CMeasuredSamples{{strZKBH, strQYBH, "smith-exc4.4"}, {strZKBH, strQYBH + "2", "smith-ex3.4"}});
+    project.Run("BREN\n" + Selection(strZKBH, "all") + "0,0\nSAVECHARTS\n");
+    const CRun run =
+        project.Run("BROPEN\nselect 1056 " + Shown(strZKBH + "-" + strQYBH + Utf8(u8"和") + strQYBH) +
+                    "2\nok\nDOCUMENTS\n");
+    EXPECT_TRUE(run.m_strOut.ends_with("/BR" + strZKBH + "-" + strQYBH + "~" + strQYBH + "2.dwg\n"))
+        << run.m_strOut;
+}
