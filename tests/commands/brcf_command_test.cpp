@@ -203,7 +203,7 @@ TEST_F(BrcfCommandTest, TakesBackTheResourcesThatAHostPutInForceForManyDocuments
     Run({"ok"});
     EXPECT_EQ(AfxGetResourceHandle(), hBefore);
     const CModuleResources pushed{{}};
-    for (const short nSdi : {0, 1}) {
+    for (const short nSdi : std::initializer_list<short>{0, 1}) {
         SetSdi(nSdi);
         acDocManager->pushResourceHandle(&pushed);
         Run({"ok"});

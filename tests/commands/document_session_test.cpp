@@ -20,7 +20,7 @@ protected:
 
 TEST_F(DocumentSession, HasSeveralDocumentsOnlyWhileSdiIsZero) {
     EXPECT_TRUE(IsMultiDocument());
-    for (const short nSdi : {1, 2, 3}) {
+    for (const short nSdi : std::initializer_list<short>{1, 2, 3}) {
         SetSdi(nSdi);
         EXPECT_FALSE(IsMultiDocument()) << nSdi;
     }

@@ -133,20 +133,21 @@ TEST_F(AdoptionRoad, RemembersTheChangeOfADrawingThatWasClosed) {
 
 TEST_F(AdoptionRoad, IsRefusedWhenTheProjectIsAnotherOneMeanwhile) {
     Draw();
-    const std::string strFailed = Utf8(u8"\n数据存储失败!\n三轴剪切数据存储失败!\n");
+    // What fails does not hold the command back, and is not asked for again.
+    const std::string strScript = Dragged() + "NEW\nyes\n" + m_strChart + "\nNEW\nDOCUMENTS\nACTIVATE 2\n";
+    const std::string strFailed = Utf8(u8"\n\n数据存储失败!\n三轴剪切数据存储失败!\n") +
+                                  "1   Drawing1\n2   " + Drawing() +
+                                  " (changed)\n3   Drawing3\n4 * Drawing4\n";
     const std::string strRow = "SELECT CDC, CDF, SYRQ FROM z_c_SanZhou", strBefore = m_project.Sql(strRow);
     Run("");
     const CJson before = Chart();
     for (const auto& [strChange, strBox] :
-         {std::pair{"UPDATE x_GongCheng SET GCBH = 'GC2'", Utf8(u8"该工程工程编号已被修改,数据无法入库!")},
-          std::pair{"DELETE FROM x_GongCheng", Utf8(u8"打开工点信息数据表中不存在该工程!")},
-          std::pair{"DROP TABLE x_GongCheng", Utf8(u8"不能打开工点信息数据表,请检查数据!")}}) {
+         {std::pair{"UPDATE x_GongCheng SET GCBH = 'GC2'",
+                    Utf8(u8"[Tervo] 该工程工程编号已被修改,数据无法入库!")},
+          std::pair{"DELETE FROM x_GongCheng", Utf8(u8"[Tervo] 打开工点信息数据表中不存在该工程!")},
+          std::pair{"DROP TABLE x_GongCheng", Utf8(u8"[Tervo] 不能打开工点信息数据表,请检查数据!")}}) {
         m_project.Sql(strChange);
-        // What fails does not hold the command back, and is not asked for again.
-        const std::string strOut =
-            Run(Dragged() + "NEW\nyes\n" + m_strChart + "\nNEW\nDOCUMENTS\nACTIVATE 2\n");
-        EXPECT_EQ(strOut, g_strQuestion + "[Tervo] " + strBox + "\n" + strFailed + "1   Drawing1\n2   " +
-                              Drawing() + " (changed)\n3   Drawing3\n4 * Drawing4\n");
+        EXPECT_EQ(Run(strScript), std::string(g_strQuestion).append(strBox).append(strFailed));
         EXPECT_EQ(Chart()["m_dAdoptPhi"], before["m_dAdoptPhi"]);
         EXPECT_EQ(m_project.Sql(strRow), strBefore);
     }
