@@ -59,35 +59,31 @@ void CDLGSAVE::EnableAdoptedOfKind() {
     EnableAdopted(m_nKind != g_nKindEffective, m_nKind != g_nKindTotal);
 }
 
-// None of these reads the controls first: what was typed is given up.
+// The controls are not read first: what was typed is given up.
+void CDLGSAVE::TakeOver(double dC, double dPhi, double dCE, double dPhiE) {
+    m_dAdoptC = dC;
+    m_dAdoptPhi = dPhi;
+    m_dAdoptCE = dCE;
+    m_dAdoptPhiE = dPhiE;
+    UpdateData(FALSE);
+}
+
 void CDLGSAVE::OnFromCalc() {
     m_nSource = g_nFromCalc;
-    m_dAdoptC = m_dCalcC;
-    m_dAdoptPhi = m_dCalcPhi;
-    m_dAdoptCE = m_dCalcCE;
-    m_dAdoptPhiE = m_dCalcPhiE;
     EnableAdopted(false, false);
-    UpdateData(FALSE);
+    TakeOver(m_dCalcC, m_dCalcPhi, m_dCalcCE, m_dCalcPhiE);
 }
 
 void CDLGSAVE::OnFromGraph() {
     m_nSource = g_nFromGraph;
-    m_dAdoptC = m_dGraphC;
-    m_dAdoptPhi = m_dGraphPhi;
-    m_dAdoptCE = m_dGraphCE;
-    m_dAdoptPhiE = m_dGraphPhiE;
     EnableAdopted(false, false);
-    UpdateData(FALSE);
+    TakeOver(m_dGraphC, m_dGraphPhi, m_dGraphCE, m_dGraphPhiE);
 }
 
 void CDLGSAVE::OnByHand() {
     m_nSource = g_nByHand;
-    m_dAdoptC = m_dSavedC;
-    m_dAdoptPhi = m_dSavedPhi;
-    m_dAdoptCE = m_dSavedCE;
-    m_dAdoptPhiE = m_dSavedPhiE;
     EnableAdoptedOfKind();
-    UpdateData(FALSE);
+    TakeOver(m_dSavedC, m_dSavedPhi, m_dSavedCE, m_dSavedPhiE);
 }
 
 void CDLGSAVE::DoDataExchange(CDataExchange* pDX) {

@@ -32,6 +32,8 @@ private:
     /// Lets the adopted values of these be typed.
     void EnableAdopted(bool bTotal, bool bEffective);
     void EnableAdoptedOfKind();
+    /// Shows these as the adopted values.
+    void TakeOver(double dC, double dPhi, double dCE, double dPhiE);
     void OnFromCalc();
     void OnFromGraph();
     void OnByHand();

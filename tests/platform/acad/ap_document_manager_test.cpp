@@ -2,7 +2,7 @@
 
 #include "platform/acad/editor.h"
 #include "platform/mfc/resources.h"
-#include "tests/platform/acad/fake_documents.h"
+#include "tests/support/documents.h"
 
 #include <gtest/gtest.h>
 
@@ -10,16 +10,8 @@ namespace {
 
 class ApDocManager : public testing::Test {
 protected:
-    ~ApDocManager() override {
-        resbuf off;
-        off.restype = RTSHORT;
-        acedSetVar(L"SDI", &off);
-    }
-    AcApDocument* Add() {
-        m_documents.NewDocument();
-        return m_documents.m_pCurrent;
-    }
-    CFakeDocuments m_documents;
+    AcApDocument* Add() { return &m_documents.Add(L"new"); }
+    CTestDocuments m_documents;
     AcApDocManager& m_manager = *acDocManagerPtr();
 };
 
@@ -76,7 +68,7 @@ TEST_F(ApDocManager, WhatIsForTheApplicationIsRefusedInADocumentsContext) {
     EXPECT_EQ(m_manager.appContextOpenDocument(L"a.dwg"), Acad::eInvalidContext);
     EXPECT_EQ(m_manager.appContextCloseDocument(pDocument), Acad::eInvalidContext);
     EXPECT_EQ(m_manager.activateDocument(pDocument), Acad::eInvalidContext);
-    EXPECT_EQ(m_documents.m_strOpened, L"");
+    EXPECT_EQ(m_manager.documentCount(), 1);
     EXPECT_EQ(m_manager.lockDocument(pDocument), Acad::eOk);
     EXPECT_EQ(m_manager.unlockDocument(pDocument), Acad::eOk);
 }
@@ -84,8 +76,10 @@ TEST_F(ApDocManager, WhatIsForTheApplicationIsRefusedInADocumentsContext) {
 TEST_F(ApDocManager, ADocumentIsOpenedActivatedAndClosedByTheProgram) {
     AcApDocument* const pFirst = Add();
     Add();
-    EXPECT_EQ(m_manager.appContextOpenDocument(L"a.dwg"), Acad::eFileNotFound);
-    EXPECT_EQ(m_documents.m_strOpened, L"a.dwg");
+    m_documents.m_strMissing = "missing.dwg";
+    EXPECT_EQ(m_manager.appContextOpenDocument(L"missing.dwg"), Acad::eFileNotFound);
+    EXPECT_EQ(m_manager.appContextOpenDocument(L"a.dwg"), Acad::eOk);
+    EXPECT_STREQ(m_manager.curDocument()->fileName(), L"a.dwg");
     EXPECT_EQ(m_manager.appContextOpenDocument(L""), Acad::eInvalidInput);
     EXPECT_EQ(m_manager.activateDocument(pFirst), Acad::eOk);
     EXPECT_EQ(m_manager.curDocument(), pFirst);
@@ -180,7 +174,9 @@ TEST_F(ApDocManager, ADrawingIsOpenedInPlaceInSingleDocumentModeOnly) {
     on.restype = RTSHORT;
     on.resval.rint = 2;
     ASSERT_EQ(acedSetVar(L"SDI", &on), RTNORM);
-    EXPECT_EQ(acedSyncFileOpen(L"a.dwg"), Acad::eFileNotFound);
-    EXPECT_EQ(m_documents.m_strOpened, L"a.dwg");
+    EXPECT_EQ(acedSyncFileOpen(L"a.dwg"), Acad::eOk);
+    EXPECT_STREQ(m_manager.curDocument()->fileName(), L"a.dwg");
+    m_documents.m_strMissing = "missing.dwg";
+    EXPECT_EQ(acedSyncFileOpen(L"missing.dwg"), Acad::eFileNotFound);
     EXPECT_EQ(acedSyncFileOpen(nullptr), Acad::eInvalidInput);
 }

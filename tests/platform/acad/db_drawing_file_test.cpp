@@ -5,7 +5,7 @@
 #include "platform/windows/code_page.h"
 #include "platform/windows/path.h"
 #include "tests/platform/acad/block_sample.h"
-#include "tests/platform/acad/fake_documents.h"
+#include "tests/support/documents.h"
 #include "tests/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -85,10 +85,9 @@ TEST(ReadDwgFile, RefusesTheFileOfAnOpenDocumentWhereItDeniesOthersToWrite) {
     const std::wstring strFile = WideFromGbk(folder.Write("a.dwg", "")),
                        strOther = WideFromGbk(folder.Write("b.dwg", ""));
     CFakeFiles files;
-    CFakeDocuments documents;
-    documents.NewDocument(); // one without a file
-    documents.NewDocument();
-    documents.m_pCurrent->database()->SetFilename(strFile.c_str());
+    CTestDocuments documents;
+    documents.Add(L"new"); // without a file
+    documents.Add(L"a").database()->SetFilename(strFile.c_str());
     AcDbDatabase refused(false), shared(false), other(false);
     EXPECT_EQ(refused.readDwgFile(WideFromGbk(folder.Path("A.DWG")).c_str()), Acad::eFileAccessErr);
     EXPECT_TRUE(refused.ObjectIds().empty());
