@@ -44,22 +44,22 @@ CDrawingLosses KeptTypes(const AcDbDatabase& database) {
     return kept;
 }
 
-CReadDrawing ReadDwg(std::string_view bytes) {
+CReadDrawing ReadDwg(std::string_view bytes, const CReadGoesOn& fnGoesOn) {
     const auto* const pBytes = reinterpret_cast<const std::uint8_t*>(bytes.data());
-    std::unique_ptr<AcDbDatabase> pDatabase = DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()}));
+    std::unique_ptr<AcDbDatabase> pDatabase = DrawingOfDwg(ReadDwgFile({pBytes, bytes.size()}), fnGoesOn);
     CDrawingLosses kept = KeptTypes(*pDatabase);
     return {std::move(pDatabase), CDrawingFormat::Dwg, {}, std::move(kept)};
 }
 
-CReadDrawing ReadDxfDrawing(std::string_view bytes) {
+CReadDrawing ReadDxfDrawing(std::string_view bytes, const CReadGoesOn& fnGoesOn) {
     auto pDatabase = std::make_unique<AcDbDatabase>();
-    CDrawingLosses losses = ReadDxf(bytes, *pDatabase);
+    CDrawingLosses losses = ReadDxf(bytes, *pDatabase, fnGoesOn);
     return {std::move(pDatabase), CDrawingFormat::Dxf, std::move(losses)};
 }
 
-CReadDrawing ReadEither(std::string_view bytes) {
-    if (BeginsLikeDwg(bytes)) return ReadDwg(bytes);
-    if (BeginsLikeDxf(bytes)) return ReadDxfDrawing(bytes);
+CReadDrawing ReadEither(std::string_view bytes, const CReadGoesOn& fnGoesOn) {
+    if (BeginsLikeDwg(bytes)) return ReadDwg(bytes, fnGoesOn);
+    if (BeginsLikeDxf(bytes)) return ReadDxfDrawing(bytes, fnGoesOn);
     throw CDrawingFailure(Acad::eFilerError, bytes.empty() ? "the file is empty"
                                                            : "the file is neither a DWG nor a DXF drawing");
 }
@@ -117,8 +117,8 @@ std::string LossesText(const CDrawingLosses& losses) {
     return text;
 }
 
-CReadDrawing ReadDrawing(std::string_view bytes) {
-    return Told([&] { return ReadEither(bytes); });
+CReadDrawing ReadDrawing(std::string_view bytes, const CReadGoesOn& fnGoesOn) {
+    return Told([&] { return ReadEither(bytes, fnGoesOn); });
 }
 
 CWrittenDrawing WriteDrawing(const AcDbDatabase& database, CDrawingFormat format) {

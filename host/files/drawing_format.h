@@ -1,8 +1,8 @@
 #pragma once
 // Drawings and the bytes of their files, whichever format those have.
 
-#include "host/files/drawing_failure.h"
 #include "host/files/dxf_losses.h"
+#include "host/files/read_goes_on.h"
 #include "platform/acad/db_database.h"
 
 #include <memory>
@@ -33,8 +33,8 @@ struct CReadDrawing {
 };
 
 /// Throws CDrawingFailure, for bytes that are no drawing too; it names the version of one that cannot be
-/// read.
-CReadDrawing ReadDrawing(std::string_view bytes);
+/// read. With eUserBreak when fnGoesOn, asked before each object, gives it up.
+CReadDrawing ReadDrawing(std::string_view bytes, const CReadGoesOn& fnGoesOn = {});
 
 struct CWrittenDrawing {
     std::string m_strBytes;

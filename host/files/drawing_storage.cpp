@@ -46,13 +46,13 @@ void CheckReplaceable(const std::string& utf8Path) {
 
 } // namespace
 
-CReadDrawing LoadDrawing(const std::string& utf8Path) {
+CReadDrawing LoadDrawing(const std::string& utf8Path, const CReadGoesOn& fnGoesOn) {
     const fs::file_status status = StatusOf(utf8Path);
     if (!fs::exists(status)) throw CDrawingFailure(Acad::eFileNotFound, "there is no such file");
     CheckOrdinary(status);
     std::string strBytes;
     if (!ReadFileWhole(utf8Path, &strBytes)) Refuse(std::strerror(errno));
-    return ReadDrawing(strBytes);
+    return ReadDrawing(strBytes, fnGoesOn);
 }
 
 void StoreDrawing(const std::string& utf8Path, std::string_view bytes) {

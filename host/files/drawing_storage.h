@@ -3,7 +3,8 @@
 
 #include "host/files/drawing_format.h"
 
-CReadDrawing LoadDrawing(const std::string& utf8Path);
+/// Throws with eUserBreak when fnGoesOn gives it up.
+CReadDrawing LoadDrawing(const std::string& utf8Path, const CReadGoesOn& fnGoesOn = {});
 
 /// Puts a drawing's bytes in place of what the path stands for, and keeps that beside with the ending .bak.
 /// A link is followed. Refused, and nothing changed, where that is no ordinary file, is write-protected, or

@@ -102,6 +102,7 @@ private:
     }
 
     void AppendEntity(const CDwgRecord& record, CDwgReadEntity read, AcDbObjectId idBlock) {
+        m_reading.CheckGoesOn();
         AcDbObjectId id;
         AcDbEntity* const pEntity = read.m_pEntity.release();
         CDbOpen<AcDbBlockTableRecord>(idBlock, AcDb::kForWrite)->appendAcDbEntity(id, pEntity);

@@ -85,10 +85,10 @@ std::uint64_t SpareHandle(const CDwgFile& file) {
 
 } // namespace
 
-std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file) {
+std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file, const CReadGoesOn& fnGoesOn) {
     const std::uint64_t nSpare = SpareHandle(file);
     auto pDatabase = std::make_unique<AcDbDatabase>();
-    CDwgReading reading{*pDatabase, std::make_shared<const CDwgOrigin>(file), {}};
+    CDwgReading reading{*pDatabase, std::make_shared<const CDwgOrigin>(file), {}, fnGoesOn};
     MoveAside(*pDatabase, nSpare);
     ReadDwgTables(file.m_variables.m_roots, reading);
     ReadDwgBlocks(reading);

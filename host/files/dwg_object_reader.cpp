@@ -50,6 +50,7 @@ private:
     }
 
     void Add(const CDwgRecord& record) {
+        m_reading.CheckGoesOn();
         CDwgRecordReader reader(record);
         const auto common =
             ReadDwgCommon<CDwgObjectCommon>(reader, record.m_nHandle, DWG_FILED(FileObjectCommon));

@@ -2,12 +2,14 @@
 
 #include "host/files/dwg_origin.h"
 #include "host/files/dwg_record_io.h"
+#include "host/files/read_goes_on.h"
 
 /// What the parts of a drawing that is being read share.
 struct CDwgReading {
     AcDbDatabase& m_database;
     std::shared_ptr<const CDwgOrigin> m_pOrigin;
     std::map<std::uint64_t, AcDbObjectId> m_ids; ///< what was made of the file's objects so far
+    CReadGoesOn m_fnGoesOn = {};
 
     /// What was made of an object; null for none.
     AcDbObjectId IdOf(std::uint64_t nHandle) const {
@@ -16,6 +18,8 @@ struct CDwgReading {
     }
     AcDbObjectId IdOf(const CDwgHandle& handle) const { return IdOf(handle.m_nValue); }
     std::wstring Text(const std::string& strBytes) const { return m_pOrigin->m_text.Decode(strBytes); }
+    /// Asks whether to go on with the next object; see CheckReadGoesOn.
+    void CheckGoesOn() const { CheckReadGoesOn(m_fnGoesOn, m_ids.size(), m_pOrigin->m_records.size()); }
 };
 
 /// Notes what was made of an object of the file, and gives it the handle that it has there. An object that

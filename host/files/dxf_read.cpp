@@ -11,8 +11,11 @@ namespace {
 /// A file on its way into a drawing, section by section.
 class CDxfReading {
 public:
-    CDxfReading(CDxfReader& reader, AcDbDatabase& database)
-        : m_records(reader)
+    CDxfReading(std::string_view bytes, AcDbDatabase& database, const CReadGoesOn& fnGoesOn)
+        : m_bytes(bytes)
+        , m_fnGoesOn(fnGoesOn)
+        , m_pReader(OpenDxf(bytes))
+        , m_records(*m_pReader)
         , m_drawing(database)
         , m_entities(m_drawing)
         , m_objects(m_drawing) {}
@@ -33,7 +36,12 @@ public:
     }
 
 private:
-    bool Next() { return m_records.Next(&m_record); }
+    bool Next() {
+        if (!m_records.Next(&m_record)) return false;
+        const auto nDone = static_cast<std::size_t>(m_record.m_type.data() - m_bytes.data()); // it lies there
+        CheckReadGoesOn(m_fnGoesOn, nDone, m_bytes.size());
+        return true;
+    }
 
     void ReadSection(const std::wstring& strName) {
         if (strName == L"HEADER") ReadHeader();
@@ -82,6 +90,9 @@ private:
         block->setOrigin(m_record.Point(10));
     }
 
+    std::string_view m_bytes;
+    const CReadGoesOn& m_fnGoesOn;
+    std::unique_ptr<CDxfReader> m_pReader;
     CDxfRecords m_records;
     CDxfDrawing m_drawing;
     CDxfEntities m_entities;
@@ -93,7 +104,6 @@ private:
 
 } // namespace
 
-CDxfLosses ReadDxf(std::string_view bytes, AcDbDatabase& database) {
-    const std::unique_ptr<CDxfReader> pReader = OpenDxf(bytes);
-    return CDxfReading(*pReader, database).Read();
+CDxfLosses ReadDxf(std::string_view bytes, AcDbDatabase& database, const CReadGoesOn& fnGoesOn) {
+    return CDxfReading(bytes, database, fnGoesOn).Read();
 }

@@ -7,19 +7,6 @@
 #include <clocale>
 #include <string>
 
-#ifdef __SANITIZE_ADDRESS__
-// The font library drops a few hundred bytes while it reads its configuration; only that is left out,
-// silently.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig.so";
-}
-extern "C" const char* __lsan_default_options();
-extern "C" const char* __lsan_default_options() {
-    return "print_suppressions=0";
-}
-#endif
-
 namespace {
 
 void SwallowRemarks(QtMsgType type, const QMessageLogContext&, const QString& strText) {

@@ -5,16 +5,18 @@
 #include "host/plot/pdf_page_box.h"
 #include "host/plot/svg_canvas.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/file_bytes.h"
 
 #include <QtCore/QBuffer>
-#include <QtCore/QSaveFile>
 #include <QtGui/QImage>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPageSize>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
 
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 #include <exception>
 
 namespace {
@@ -40,6 +42,10 @@ std::string Gbk(const QString& strText) {
     return GbkFromWide(strText.toStdWString());
 }
 
+void CheckGoesOn(const CPlotOptions& options, std::size_t nDone) {
+    if (options.m_fnGoesOn && !options.m_fnGoesOn(nDone)) throw CPlotError("the plot is given up");
+}
+
 QSizeF SizeOf(const CPlotPage& page) {
     const QSizeF size(page.m_box.Width(), page.m_box.Height());
     if (!(size.width() > 0.0) || !(size.height() > 0.0) || !IsPaintable(size.width(), size.height()))
@@ -47,18 +53,9 @@ QSizeF SizeOf(const CPlotPage& page) {
     return size;
 }
 
-void PaintPage(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts, CCanvas& canvas) {
-    for (const CPlotPicture& picture : page.m_arPictures) {
-        const CPaintContext context{page.m_box.m_dLeft, page.m_box.m_dTop, options.m_fnLinetype,
-                                    options.m_dLinetypeScale, picture.m_nLayerColor};
-        PaintDisplayList(*picture.m_pList, context, fonts, canvas);
-    }
-}
-
 void Save(const std::filesystem::path& path, const QByteArray& bytes) {
-    QSaveFile file(NameOf(path));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw CPlotError("can't write " + Gbk(NameOf(path)) + ": " + Gbk(file.errorString()));
+    if (!WriteFileWhole(path.string(), {bytes.constData(), static_cast<std::size_t>(bytes.size())}))
+        throw CPlotError("can't write " + Gbk(NameOf(path)) + ": " + std::strerror(errno));
 }
 
 QByteArray MakePdf(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts) {
@@ -72,6 +69,7 @@ QByteArray MakePdf(const std::vector<CPlotPage>& arPages, const CPlotOptions& op
     std::vector<QSizeF> arSizes;
     QPainter painter;
     for (const CPlotPage& page : arPages) {
+        CheckGoesOn(options, arSizes.size());
         const QSizeF size = SizeOf(page);
         const QSize whole = WholePointsOf(size);
         const QPageSize paper(QSizeF(whole), QPageSize::Point, QString(), QPageSize::ExactMatch);
@@ -128,6 +126,14 @@ QByteArray MakePng(const CPlotPage& page, const CPlotOptions& options, CFonts& f
 
 } // namespace
 
+void PaintPage(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts, CCanvas& canvas) {
+    for (const CPlotPicture& picture : page.m_arPictures) {
+        const CPaintContext context{page.m_box.m_dLeft, page.m_box.m_dTop, options.m_fnLinetype,
+                                    options.m_dLinetypeScale, picture.m_nLayerColor};
+        PaintDisplayList(*picture.m_pList, context, fonts, canvas);
+    }
+}
+
 std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t nPage, std::size_t nPages) {
     const bool bAllInOne = NameOf(path.extension()).compare(u".pdf", Qt::CaseInsensitive) == 0;
     if (nPages == 1 || bAllInOne) return path;
@@ -146,9 +152,11 @@ bool Plot(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CF
             throw CPlotError(Gbk(NameOf(path)) + ": a plot's name ends in .pdf, .svg or .png");
         if (arPages.empty()) throw CPlotError("there is no page to plot");
         if (bPdf) Save(path, MakePdf(arPages, options, fonts));
-        for (std::size_t i = 0; !bPdf && i < arPages.size(); ++i)
+        for (std::size_t i = 0; !bPdf && i < arPages.size(); ++i) {
+            CheckGoesOn(options, i);
             Save(PlotFileOf(path, i, arPages.size()),
                  bSvg ? MakeSvg(arPages[i], options, fonts) : MakePng(arPages[i], options, fonts));
+        }
         return true;
     } catch (const std::exception& error) {
         *pError = error.what();

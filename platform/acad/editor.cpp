@@ -23,11 +23,12 @@ int acutPrintf(const ACHAR* format, ...) {
     return RTNORM;
 }
 
-int acedGetPoint(const ads_point, const ACHAR* prompt, ads_point result) {
+int acedGetPoint(const ads_point pBase, const ACHAR* prompt, ads_point result) {
     CEditorHost* const pHost = EditorHost();
     if (!pHost || !result) return RTERROR;
-    AcGePoint3d point;
-    switch (pHost->AskPoint(GbkFromWide(prompt ? prompt : L""), &point)) {
+    AcGePoint3d base, point;
+    if (pBase) base.set(pBase[0], pBase[1], pBase[2]);
+    switch (pHost->AskPoint(GbkFromWide(prompt ? prompt : L""), pBase ? &base : nullptr, &point)) {
     case CPromptResult::Value:
         PutPoint(point, result);
         return RTNORM;

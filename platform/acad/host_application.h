@@ -28,7 +28,9 @@ class CEditorHost {
 public:
     virtual ~CEditorHost() = default;
     virtual void Print(const std::string& strText) = 0;
-    virtual CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) = 0;
+    /// pBase is the point that a rubber band begins at, null for none.
+    virtual CPromptResult AskPoint(const std::string& strPrompt, const AcGePoint3d* pBase,
+                                   AcGePoint3d* pPoint) = 0;
     // The rest is for hosts with a user: where there is none, these are cancelled.
     /// One entity of the working drawing; the point is the origin for a pick without one.
     virtual CPromptResult AskEntity(const std::string& /*strPrompt*/, AcDbObjectId* /*pId*/,

@@ -11,6 +11,19 @@ CMessageBoxHost& Host() {
 }
 } // namespace
 
+std::vector<int> MessageBoxButtons(UINT uStyle) {
+    switch (uStyle & MB_TYPEMASK) {
+    case MB_OKCANCEL:
+        return {IDOK, IDCANCEL};
+    case MB_YESNOCANCEL:
+        return {IDYES, IDNO, IDCANCEL};
+    case MB_YESNO:
+        return {IDYES, IDNO};
+    default:
+        return {IDOK};
+    }
+}
+
 void SetMessageBoxHost(CMessageBoxHost host) {
     Host() = std::move(host);
 }

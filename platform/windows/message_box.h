@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/windows/types.h"
 
@@ -22,6 +23,10 @@ inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 inline constexpr int IDYES = 6;
 inline constexpr int IDNO = 7;
+
+/// The results of a box's buttons in their order, the one for giving up last. A box with one button only
+/// tells.
+std::vector<int> MessageBoxButtons(UINT uStyle);
 
 /// What the host does for boxes and windows. A member left empty stands for its default.
 struct CMessageBoxHost {

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 void AppendLine(AcDbDatabase& database) {
@@ -25,6 +27,17 @@ std::string Refusal(std::string_view bytes) {
     }
     ADD_FAILURE() << "read";
     return {};
+}
+
+/// Gives the reading up when it asks for the time after so many.
+Acad::ErrorStatus StatusOfReadingUpTo(std::string_view bytes, std::size_t nAsked) {
+    try {
+        ReadDrawing(bytes, [&](std::size_t, std::size_t) { return nAsked-- > 0; });
+    } catch (const CDrawingFailure& failure) {
+        EXPECT_STREQ(failure.what(), "it was given up");
+        return failure.Status();
+    }
+    return Acad::eOk;
 }
 
 } // namespace
@@ -48,6 +61,27 @@ TEST(ReadDrawing, GoesByWhatTheBytesAre) {
         EXPECT_TRUE(read.m_losses.empty());
         EXPECT_FALSE(read.m_pDatabase->IsModified());
         EXPECT_EQ(Entities<AcDbLine>(read.m_pDatabase->ModelSpaceId()).size(), 1U);
+    }
+}
+
+TEST(ReadDrawing, TellsHowFarItIsAndCanBeGivenUpBeforeAnyObject) {
+    AcDbDatabase database;
+    for (int i = 0; i < 20; ++i)
+        AppendLine(database);
+    for (const CDrawingFormat format : {CDrawingFormat::Dwg, CDrawingFormat::Dxf}) {
+        const CWrittenDrawing written = WriteDrawing(database, format);
+        std::vector<double> arParts;
+        const auto goesOn = [&](std::size_t nDone, std::size_t nAll) {
+            arParts.push_back(static_cast<double>(nDone) / static_cast<double>(nAll));
+            return true;
+        };
+        EXPECT_NE(ReadDrawing(written.m_strBytes, goesOn).m_pDatabase, nullptr);
+        ASSERT_GT(arParts.size(), 20U);
+        EXPECT_TRUE(std::is_sorted(arParts.begin(), arParts.end()));
+        EXPECT_GT(arParts.back(), 0.8);
+        EXPECT_LE(arParts.back(), 1.0);
+        for (std::size_t nLast = 0; nLast < arParts.size(); ++nLast)
+            EXPECT_EQ(StatusOfReadingUpTo(written.m_strBytes, nLast), Acad::eUserBreak) << nLast;
     }
 }
 

@@ -213,3 +213,19 @@ TEST(PlotFileOf, NumbersPagesOnlyWhereAFileHoldsOne) {
     EXPECT_EQ(PlotFileOf("out/x.y.png", 11, 12), "out/x.y-12.png");
     EXPECT_EQ(PlotFileOf("out/x.pdf", 1, 3), "out/x.pdf");
 }
+
+TEST_F(PlottingTest, IsAskedBeforeEachPageAndCanBeGivenUp) {
+    std::string strAsked;
+    m_options.m_fnGoesOn = [&](std::size_t nDone) {
+        strAsked += std::to_string(nDone) + " ";
+        return nDone < 2;
+    };
+    EXPECT_TRUE(PlotTo("two.pdf", {Sheet(), Sheet()})) << m_strError;
+    EXPECT_EQ(strAsked, "0 1 ");
+    EXPECT_FALSE(PlotTo("three.pdf", {Sheet(), Sheet(), Sheet()}));
+    EXPECT_EQ(m_strError, "the plot is given up");
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "three.pdf"));
+    EXPECT_FALSE(PlotTo("three.svg", {Sheet(), Sheet(), Sheet()}));
+    EXPECT_TRUE(std::filesystem::exists(m_folder / "three-2.svg")) << "the pages done stay";
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "three-3.svg"));
+}

@@ -35,6 +35,16 @@ TEST(AcedGetPoint, TellsAPointAnEmptyAnswerAndACancelApart) {
     EXPECT_EQ(point[2], 3.0);
 }
 
+TEST(AcedGetPoint, TellsTheHostWhereTheRubberBandBegins) {
+    CFakeEditorHost host;
+    const ads_point base = {4, 5, 6};
+    ads_point point = {};
+    acedGetPoint(base, L"x", point);
+    EXPECT_EQ(host.m_ptBase, AcGePoint3d(4, 5, 6));
+    acedGetPoint(nullptr, L"x", point);
+    EXPECT_FALSE(host.m_ptBase);
+}
+
 TEST(AcedFindFile, GivesThePathTheHostFinds) {
     ACHAR path[1024] = L"as it was";
     EXPECT_EQ(acedFindFile(L"acad.lin", path), RTERROR);

@@ -19,7 +19,9 @@ TEST(EditorHost, IsNoneUnlessRegistered) {
 TEST(EditorHost, WithoutAUserCancelsPicksAndRunsNoCommand) {
     class CPrintingHost final : public CEditorHost {
         void Print(const std::string&) override {}
-        CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
+        CPromptResult AskPoint(const std::string&, const AcGePoint3d*, AcGePoint3d*) override {
+            return CPromptResult::Cancel;
+        }
         std::string FindFile(const std::string&) override { return {}; }
     } printing;
     CEditorHost& host = printing;

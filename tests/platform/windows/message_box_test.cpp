@@ -53,3 +53,11 @@ TEST_F(MessageBox, AsksTheHostForParentAndPopup) {
     EXPECT_EQ(GetParent(Window(32)), nullptr);
     EXPECT_EQ(GetLastActivePopup(Window(32)), Window(48));
 }
+
+TEST_F(MessageBox, HasTheButtonsOfItsStyleWithTheOneForGivingUpLast) {
+    using CButtons = std::vector<int>;
+    EXPECT_EQ(MessageBoxButtons(MB_OK | MB_ICONERROR), CButtons{IDOK});
+    EXPECT_EQ(MessageBoxButtons(MB_OKCANCEL), (CButtons{IDOK, IDCANCEL}));
+    EXPECT_EQ(MessageBoxButtons(MB_YESNO | MB_ICONQUESTION), (CButtons{IDYES, IDNO}));
+    EXPECT_EQ(MessageBoxButtons(MB_YESNOCANCEL), (CButtons{IDYES, IDNO, IDCANCEL}));
+}
