@@ -61,7 +61,7 @@ AcDbObjectId Watched(const CJson& json, AcDbDatabase& drawing) {
 } // namespace
 
 void CommandAddEntity(CHost& host) {
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToOpen("File: ", ".json");
     host.m_input.End();
     const CJson json = ReadDescription(path);
     const CJson fields = json.value("fields", CJson::object());

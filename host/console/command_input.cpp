@@ -6,11 +6,22 @@
 
 namespace {
 
-AcGePoint3d PointOrFailure(const std::string& strAnswer, const AcGePoint3d& last) {
+constexpr const char* g_pEmptyAnswer = "an empty answer is none here";
+
+std::string TextRefusal(const std::string& strAnswer) {
+    return strAnswer.empty() ? g_pEmptyAnswer : "";
+}
+
+std::string NumberRefusal(const std::string& strAnswer) {
+    double value = 0.0;
+    if (strAnswer.empty()) return g_pEmptyAnswer;
+    return ParseNumber(strAnswer, &value) ? "" : "not a number: " + strAnswer;
+}
+
+std::string PointRefusal(const std::string& strAnswer) {
     AcGePoint3d point;
-    if (!ParsePoint(strAnswer, last, &point))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a point: " + strAnswer);
-    return point;
+    if (strAnswer.empty()) return g_pEmptyAnswer;
+    return ParsePoint(strAnswer, AcGePoint3d::kOrigin, &point) ? "" : "not a point: " + strAnswer;
 }
 
 } // namespace
@@ -18,6 +29,7 @@ AcGePoint3d PointOrFailure(const std::string& strAnswer, const AcGePoint3d& last
 void CCommandInput::Begin(std::vector<CWord> arWords) {
     m_arWords.assign(std::make_move_iterator(arWords.begin()), std::make_move_iterator(arWords.end()));
     m_bCancelled = false;
+    m_ptGiven.reset();
 }
 
 void CCommandInput::End() const {
@@ -33,22 +45,39 @@ std::optional<std::string> CCommandInput::TakeWord() {
     return word;
 }
 
-std::string CCommandInput::Line(const std::string& strPrompt) {
-    const std::optional<std::string> line = m_answers.Next(strPrompt);
+std::string CCommandInput::Line(const CQuestion& question) {
+    const std::optional<std::string> line = m_answers.Ask(question);
     if (!line) throw CRunFailure(m_answers.Fault()->m_status, m_answers.Fault()->m_strWhat);
     if (WithoutBlanksAround(*line) == g_szEscape) throw CCommandCancelled{};
     return *line;
 }
 
-std::string CCommandInput::WholeText(const std::string& strPrompt) {
+std::string CCommandInput::WordOrLine(const CQuestion& question) {
     std::optional<std::string> word = TakeWord();
-    return word ? std::move(*word) : Line(strPrompt);
+    return word ? std::move(*word) : Line(question);
+}
+
+std::string CCommandInput::GoodAnswer(const CQuestion& question) {
+    std::string answer = WithoutBlanksAround(WordOrLine(question));
+    const std::string strReason = question.m_fnRefusal(answer);
+    if (!strReason.empty()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, strReason);
+    return answer;
+}
+
+std::string CCommandInput::WholeText(const std::string& strPrompt) {
+    return WordOrLine({strPrompt});
 }
 
 std::string CCommandInput::Text(const std::string& strPrompt) {
-    std::string text = WithoutBlanksAround(WholeText(strPrompt));
-    if (text.empty()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "an empty answer is none here");
-    return text;
+    return GoodAnswer({strPrompt, CAnswerKind::Text, TextRefusal});
+}
+
+std::string CCommandInput::FileToOpen(const std::string& strPrompt, const std::string& strEndings) {
+    return GoodAnswer({strPrompt, CAnswerKind::FileToOpen, TextRefusal, {}, strEndings});
+}
+
+std::string CCommandInput::FileToSave(const std::string& strPrompt, const std::string& strEndings) {
+    return GoodAnswer({strPrompt, CAnswerKind::FileToSave, TextRefusal, {}, strEndings});
 }
 
 std::optional<std::string> CCommandInput::WordOnLine() {
@@ -56,68 +85,91 @@ std::optional<std::string> CCommandInput::WordOnLine() {
 }
 
 double CCommandInput::Number(const std::string& strPrompt) {
-    const std::string text = Text(strPrompt);
     double value = 0.0;
-    if (!ParseNumber(text, &value)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not a number: " + text);
+    ParseNumber(GoodAnswer({strPrompt, CAnswerKind::Text, NumberRefusal}), &value);
     return value;
 }
 
+CQuestion CCommandInput::PointQuestion(const std::string& strPrompt) const {
+    return {strPrompt, CAnswerKind::Point, PointRefusal, m_ptGiven};
+}
+
+void CCommandInput::SetLastPoint(const AcGePoint3d& point) {
+    m_ptLast = point;
+    m_ptGiven = point;
+}
+
 AcGePoint3d CCommandInput::ToPoint(const std::string& strAnswer) {
-    return m_ptLast = PointOrFailure(strAnswer, m_ptLast);
+    AcGePoint3d point;
+    ParsePoint(strAnswer, m_ptLast, &point);
+    SetLastPoint(point);
+    return point;
 }
 
 AcGePoint3d CCommandInput::Point(const std::string& strPrompt) {
-    return ToPoint(Text(strPrompt));
+    return ToPoint(GoodAnswer(PointQuestion(strPrompt)));
 }
 
 AcGeVector3d CCommandInput::Offset(const std::string& strPrompt, const AcGePoint3d& base) {
-    const std::string text = Text(strPrompt);
+    CQuestion question = PointQuestion(strPrompt);
+    question.m_ptFrom = base;
+    const std::string text = GoodAnswer(question);
+    AcGePoint3d to;
+    ParsePoint(text, AcGePoint3d::kOrigin, &to);
     // A relative answer is taken as it stands: by way of the point it would lose digits.
-    const AcGePoint3d from = text.starts_with('@') ? AcGePoint3d::kOrigin : base;
-    const AcGeVector3d offset = PointOrFailure(text, AcGePoint3d::kOrigin) - from;
-    m_ptLast = base + offset;
+    const AcGeVector3d offset = to - (text.starts_with('@') ? AcGePoint3d::kOrigin : base);
+    SetLastPoint(base + offset);
     return offset;
 }
 
 std::optional<AcGePoint3d> CCommandInput::PointOrWord(const std::string& strPrompt,
                                                       const std::string& strWord) {
-    const std::string text = Text(strPrompt);
+    CQuestion question = PointQuestion(strPrompt);
+    question.m_fnRefusal = [&strWord](const std::string& strAnswer) {
+        return strAnswer == strWord ? std::string() : PointRefusal(strAnswer);
+    };
+    const std::string text = GoodAnswer(question);
     if (text == strWord) return std::nullopt;
     return ToPoint(text);
 }
 
+CQuestion CCommandInput::EntityQuestion(AcDbDatabase& drawing, const std::string& strPrompt) const {
+    return {strPrompt, CAnswerKind::Entity, [this, &drawing](const std::string& strAnswer) {
+                std::string strReason;
+                if (!strAnswer.empty()) PickEntity(drawing, strAnswer, m_ptLast, &strReason);
+                return strReason;
+            }};
+}
+
 AcDbObjectId CCommandInput::Entity(AcDbDatabase& drawing, const std::string& strPrompt) {
-    const std::string pick = WithoutBlanksAround(WholeText(strPrompt));
-    if (pick.empty()) return AcDbObjectId::kNull;
+    const std::string pick = GoodAnswer(EntityQuestion(drawing, strPrompt));
     std::string reason;
-    const AcDbObjectId id = PickEntity(drawing, pick, m_ptLast, &reason);
-    if (id.isNull()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
-    return id;
+    return pick.empty() ? AcDbObjectId::kNull : PickEntity(drawing, pick, m_ptLast, &reason);
 }
 
 std::vector<AcDbObjectId> CCommandInput::Selection(AcDbDatabase& drawing, const std::string& strPrompt) {
-    std::vector<AcDbObjectId> ids;
+    CPickedEntities picked;
     std::string reason;
     if (const std::optional<std::string> word = TakeWord()) {
-        if (!PickSeveral(drawing, *word, m_ptLast, &ids, &reason))
+        if (!PickSeveral(drawing, *word, m_ptLast, &picked, &reason))
             throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
-        return ids;
+        return picked.Ids();
     }
     while (true) {
         const AcDbObjectId id = Entity(drawing, strPrompt);
-        if (id.isNull()) return ids;
-        AddOnce(id, &ids);
+        if (id.isNull()) return picked.Ids();
+        picked.Add(id);
     }
 }
 
-std::optional<std::string> CCommandInput::AnswerToModule(const std::string& strPrompt) {
+std::optional<std::string> CCommandInput::AnswerToModule(const CQuestion& question) {
     if (m_answers.HasFailed()) return std::nullopt;
     if (std::optional<std::string> word = TakeWord()) {
-        m_answers.ShowAnswered(strPrompt, *word);
+        m_answers.ShowAnswered(question.m_strPrompt, *word);
         return word;
     }
     try {
-        return WithoutBlanksAround(Line(strPrompt));
+        return WithoutBlanksAround(Line(question));
     } catch (const CCommandCancelled&) {
         m_bCancelled = true;
     } catch (const CRunFailure&) {
@@ -131,18 +183,25 @@ CPromptResult CCommandInput::RefuseToModule(const std::string& strReason) {
     return CPromptResult::Cancel;
 }
 
-CPromptResult CCommandInput::AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) {
-    const std::optional<std::string> answer = AnswerToModule(strPrompt);
+CPromptResult CCommandInput::AskPoint(const std::string& strPrompt, const AcGePoint3d* pBase,
+                                      AcGePoint3d* pPoint) {
+    CQuestion question = PointQuestion(strPrompt);
+    question.m_ptFrom = pBase ? std::optional(*pBase) : std::nullopt;
+    question.m_fnRefusal = [](const std::string& strAnswer) { // to answer nothing is left to the user
+        return strAnswer.empty() ? std::string() : PointRefusal(strAnswer);
+    };
+    const std::optional<std::string> answer = AnswerToModule(question);
     if (!answer) return CPromptResult::Cancel;
     if (answer->empty()) return CPromptResult::None;
-    if (!ParsePoint(*answer, m_ptLast, pPoint)) return RefuseToModule("not a point: " + *answer);
-    m_ptLast = *pPoint;
+    const std::string strReason = question.m_fnRefusal(*answer);
+    if (!strReason.empty()) return RefuseToModule(strReason);
+    *pPoint = ToPoint(*answer);
     return CPromptResult::Value;
 }
 
 CPromptResult CCommandInput::AskEntity(AcDbDatabase& drawing, const std::string& strPrompt, AcDbObjectId* pId,
                                        AcGePoint3d* pPoint) {
-    const std::optional<std::string> answer = AnswerToModule(strPrompt);
+    const std::optional<std::string> answer = AnswerToModule(EntityQuestion(drawing, strPrompt));
     if (!answer) return CPromptResult::Cancel;
     if (answer->empty()) return CPromptResult::None;
     std::string reason;
@@ -156,18 +215,20 @@ CPromptResult CCommandInput::AskEntity(AcDbDatabase& drawing, const std::string&
 CPromptResult CCommandInput::AskSelection(AcDbDatabase& drawing, const std::string& strPrompt,
                                           std::vector<AcDbObjectId>* pIds) {
     const bool bOnLine = !m_arWords.empty();
+    CPickedEntities picked;
     std::string reason;
     do {
-        const std::optional<std::string> answer = AnswerToModule(strPrompt);
+        const std::optional<std::string> answer = AnswerToModule(EntityQuestion(drawing, strPrompt));
         if (!answer) return CPromptResult::Cancel;
         if (answer->empty()) break;
         if (bOnLine) {
-            if (!PickSeveral(drawing, *answer, m_ptLast, pIds, &reason)) return RefuseToModule(reason);
+            if (!PickSeveral(drawing, *answer, m_ptLast, &picked, &reason)) return RefuseToModule(reason);
         } else {
             const AcDbObjectId id = PickEntity(drawing, *answer, m_ptLast, &reason);
             if (id.isNull()) return RefuseToModule(reason);
-            AddOnce(id, pIds);
+            picked.Add(id);
         }
     } while (!bOnLine);
+    *pIds = picked.Ids();
     return pIds->empty() ? CPromptResult::None : CPromptResult::Value;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/console/script_answers.h"
+#include "host/console/command_answers.h"
 #include "host/console/words.h"
 #include "platform/acad/db_database.h"
 #include "platform/acad/host_application.h"
@@ -16,7 +16,7 @@ struct CCommandCancelled {};
 /// result.
 class CCommandInput {
 public:
-    explicit CCommandInput(CScriptAnswers& answers)
+    explicit CCommandInput(CCommandAnswers& answers)
         : m_answers(answers) {}
 
     /// Begins a command with the words behind its name.
@@ -28,7 +28,10 @@ public:
     // Prompts of the host's commands.
     std::string Text(const std::string& strPrompt);      ///< without blanks around it, not empty
     std::string WholeText(const std::string& strPrompt); ///< as it stands, may be empty
-    std::string Line(const std::string& strPrompt);      ///< the same, from a line whatever words there are
+    std::string Line(const CQuestion& question);         ///< the same, from a line whatever words there are
+    // Paths, as Text gives them. The endings, each with its dot, are those proposed to a user.
+    std::string FileToOpen(const std::string& strPrompt, const std::string& strEndings);
+    std::string FileToSave(const std::string& strPrompt, const std::string& strEndings);
     std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
     double Number(const std::string& strPrompt);
     AcGePoint3d Point(const std::string& strPrompt);
@@ -40,24 +43,31 @@ public:
     std::vector<AcDbObjectId> Selection(AcDbDatabase& drawing, const std::string& strPrompt);
 
     // Prompts of a module; a bad answer fails the run and cancels the prompt.
-    CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint);
+    CPromptResult AskPoint(const std::string& strPrompt, const AcGePoint3d* pBase, AcGePoint3d* pPoint);
     CPromptResult AskEntity(AcDbDatabase& drawing, const std::string& strPrompt, AcDbObjectId* pId,
                             AcGePoint3d* pPoint);
     CPromptResult AskSelection(AcDbDatabase& drawing, const std::string& strPrompt,
                                std::vector<AcDbObjectId>* pIds);
 
     void ForgetLastPoint() { m_ptLast = AcGePoint3d::kOrigin; }
+    AcGePoint3d LastPoint() const { return m_ptLast; } ///< relative points count from it
 
 private:
     friend class CNestedInput;
     std::optional<std::string> TakeWord();
+    std::string WordOrLine(const CQuestion& question);
+    std::string GoodAnswer(const CQuestion& question);
+    CQuestion PointQuestion(const std::string& strPrompt) const;
+    CQuestion EntityQuestion(AcDbDatabase& drawing, const std::string& strPrompt) const;
     AcGePoint3d ToPoint(const std::string& strAnswer);
-    std::optional<std::string> AnswerToModule(const std::string& strPrompt);
+    void SetLastPoint(const AcGePoint3d& point);
+    std::optional<std::string> AnswerToModule(const CQuestion& question);
     CPromptResult RefuseToModule(const std::string& strReason);
 
-    CScriptAnswers& m_answers;
+    CCommandAnswers& m_answers;
     std::deque<CWord> m_arWords;
-    AcGePoint3d m_ptLast; // relative points count from it
+    AcGePoint3d m_ptLast;
+    std::optional<AcGePoint3d> m_ptGiven; // the last one of this command
     bool m_bCancelled = false;
 };
 

@@ -126,7 +126,7 @@ bool HasTypedLine(const CHost& host) {
 } // namespace
 
 void RunCommands(CHost& host) {
-    while (!host.m_bQuit && !host.m_answers.HasFailed()) {
+    while (!host.m_bQuit && (!host.m_answers.HasFailed() || host.m_answers.GoesOnAfterFailure())) {
         if (acDocManagerPtr()->RunDeferredWork()) DrawWhatChanged(host);
         // A text is typed when the one before it has been read, so that each runs in its own document.
         if (!HasTypedLine(host) && acDocManagerPtr()->TypeNextText()) continue;

@@ -2,8 +2,8 @@
 
 #include "host/console/host.h"
 
-/// Runs the script's command lines until it ends, fails or quits. After each, what it deferred is done first:
-/// work for the application context, then the texts sent to the command line.
+/// Runs command lines until they end, one fails for good, or the user quits. After each, what it deferred is
+/// done first: work for the application context, then the texts sent to the command line.
 void RunCommands(CHost& host);
 
 /// Runs a command from within the one that runs: the words (GBK) are its name and its first answers, the rest

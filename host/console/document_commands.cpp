@@ -12,7 +12,7 @@ void CommandNew(CHost& host) {
 }
 
 void CommandOpen(CHost& host) {
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToOpen("File: ", g_szDrawingEndings);
     host.m_input.End();
     try {
         OpenDrawing(host, FindDrawingFile(path));
@@ -23,7 +23,7 @@ void CommandOpen(CHost& host) {
 
 void CommandSaveAs(CHost& host) {
     AcApDocument& document = host.Document();
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToSave("File: ", g_szDrawingEndings);
     const std::optional<std::string> option = host.m_input.WordOnLine();
     host.m_input.End();
     if (option && *option != "exploded")
@@ -37,7 +37,7 @@ void CommandQSave(CHost& host) {
         host.m_input.End();
         return SaveDrawing(host, document);
     }
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToSave("File: ", g_szDrawingEndings);
     host.m_input.End();
     SaveDrawingAs(host, document, path, false);
 }

@@ -63,6 +63,7 @@ void SaveDrawing(CHost& host, AcApDocument& document) {
         const bool bExploded = host.m_drawings.NotesOf(document).m_bExploded;
         SaveDrawingAs(host, document, CDrawings::NameOf(document), bExploded);
     } else {
-        SaveDrawingAs(host, document, WithoutBlanksAround(host.m_input.Line("File: ")), false);
+        const CQuestion question{"File: ", CAnswerKind::FileToSave, {}, {}, g_szDrawingEndings};
+        SaveDrawingAs(host, document, WithoutBlanksAround(host.m_input.Line(question)), false);
     }
 }

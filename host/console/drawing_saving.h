@@ -4,6 +4,9 @@
 
 #include "host/console/host.h"
 
+/// The endings of drawing files.
+inline constexpr const char* g_szDrawingEndings = ".dwg .dxf";
+
 /// Saves a drawing to its file, as it was saved there last. One without a file is asked for its path, on a
 /// line of its own.
 void SaveDrawing(CHost& host, AcApDocument& document);

@@ -1,6 +1,7 @@
 #include "host/console/drawing_session.h"
 
 #include "host/console/drawing_saving.h"
+#include "host/console/progress.h"
 #include "host/console/redraw.h"
 #include "host/console/texts.h"
 #include "host/files/drawing_storage.h"
@@ -17,8 +18,9 @@ namespace {
 /// True when it was saved. The words on the line of the command that runs stay for that command.
 bool AskToSave(CHost& host, AcApDocument& document) {
     if (!document.database()->IsModified()) return false;
-    const std::string strAnswer =
-        WithoutBlanksAround(host.m_input.Line("Save changes to " + CDrawings::NameOf(document) + "? "));
+    const CQuestion question{"Save changes to " + CDrawings::NameOf(document) + "? ",
+                             CAnswerKind::SaveChanges};
+    const std::string strAnswer = WithoutBlanksAround(host.m_input.Line(question));
     if (strAnswer != "yes" && strAnswer != "no")
         throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither yes, no nor cancel: " + strAnswer);
     if (strAnswer == "yes") SaveDrawing(host, document);
@@ -44,7 +46,14 @@ struct COpenedFile {
 
 COpenedFile ReadFile(const std::string& strPath) {
     const std::string strFullPath = std::filesystem::absolute(strPath).lexically_normal().string();
-    return {strFullPath, WideAnswer(strFullPath), LoadDrawing(strFullPath)};
+    const std::string strWork = "Opening " + strPath;
+    const auto goesOn = [&](std::size_t nDone, std::size_t nAll) {
+        return ShowProgress(strWork, nDone, nAll);
+    };
+    ShowProgress(strWork, 0, 1);
+    COpenedFile file{strFullPath, WideAnswer(strFullPath), LoadDrawing(strFullPath, goesOn)};
+    ShowProgress(strWork, 1, 1);
+    return file;
 }
 
 void TellWhatItHolds(const CHost& host, const COpenedFile& file) {

@@ -1,15 +1,12 @@
 // GRIP and DRAG: an entity's grips are moved, or what it draws on the way is written.
 
 #include "host/console/dump_primitives.h"
+#include "host/console/entity_drag.h"
 #include "host/console/host_commands.h"
 #include "host/console/numbers.h"
 #include "host/console/output_file.h"
 #include "host/console/refusal.h"
 #include "host/console/words.h"
-#include "platform/acad/display_recorder.h"
-#include "platform/acad/field_table.h"
-#include "platform/acad/free_copy.h"
-#include "platform/acad/table_keeper.h"
 
 #include <optional>
 
@@ -18,13 +15,6 @@ namespace {
 [[noreturn]] void Refuse(const std::string& strWhat) {
     throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
 }
-
-/// An entity, the grips of it that are moved, and how far.
-struct CGripMove {
-    AcDbObjectId m_id;
-    AcDbIntArray m_indices;
-    AcGeVector3d m_vecOffset;
-};
 
 AcGePoint3dArray GripsOf(AcDbObjectId id) {
     const CDbOpen<AcDbEntity> entity(id);
@@ -57,16 +47,6 @@ std::optional<CGripMove> AskGripMove(CHost& host) {
     return move;
 }
 
-/// A copy that shows what the entity shows: its record, and the fields that no record holds.
-std::unique_ptr<AcDbEntity> CopyToDrag(const AcDbEntity& entity) {
-    std::unique_ptr<AcDbEntity> pCopy = FreeCopy(entity);
-    const auto* const pFields = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
-    if (!pCopy || !pFields) return pCopy;
-    for (int row = 0; row < pFields->Count(); ++row)
-        if (!pFields->Info(row).m_bFiled) pFields->Set(*pCopy, row, pFields->Get(entity, row));
-    return pCopy;
-}
-
 } // namespace
 
 void CommandGrip(CHost& host) {
@@ -82,13 +62,10 @@ void CommandGrip(CHost& host) {
 void CommandDrag(CHost& host) {
     const std::optional<CGripMove> move = AskGripMove(host);
     if (!move) return;
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToSave("File: ", ".json");
     host.m_input.End();
-    const CTableKeeper keeper(host.Drawing()); // drawing sets up styles and line types
-    const CDbOpen<AcDbEntity> entity(move->m_id);
-    const std::unique_ptr<AcDbEntity> pCopy = entity ? CopyToDrag(*entity.Get()) : nullptr;
-    const Acad::ErrorStatus status =
-        pCopy ? pCopy->moveGripPointsAt(move->m_indices, move->m_vecOffset) : Acad::eNotApplicable;
+    CDisplayList picture;
+    const Acad::ErrorStatus status = DragGrips(host.Drawing(), *move, &picture);
     if (status != Acad::eOk) return TellRefusal(host, "drag", move->m_id, status);
-    WriteOutputFile(path, JsonDisplayList(DrawEntity(*pCopy, true)).dump(1) + "\n");
+    WriteOutputFile(path, JsonDisplayList(picture).dump(1) + "\n");
 }

@@ -3,13 +3,12 @@
 #include "host/console/command_input.h"
 #include "host/console/drawings.h"
 #include "host/console/modules.h"
-#include "host/console/script_answers.h"
 
 class CFonts;
 
-/// What a command of the host works on: one scripted run of the program.
+/// What a command of the host works on: one run of the program.
 struct CHost {
-    CScriptAnswers& m_answers;
+    CCommandAnswers& m_answers;
     CCommandInput& m_input;
     CDrawings& m_drawings;
     CModules& m_modules;

@@ -7,24 +7,17 @@
 
 namespace {
 
-struct CButton {
-    const char* m_name;
-    int m_nResult;
-};
-
-constexpr CButton OK{"ok", IDOK}, CANCEL{"cancel", IDCANCEL}, YES{"yes", IDYES}, NO{"no", IDNO};
-
-// The buttons of a box that asks, the one for giving up last; none for a box that only tells.
-std::vector<CButton> Buttons(UINT nStyle) {
-    switch (nStyle & MB_TYPEMASK) {
-    case MB_OKCANCEL:
-        return {OK, CANCEL};
-    case MB_YESNOCANCEL:
-        return {YES, NO, CANCEL};
-    case MB_YESNO:
-        return {YES, NO};
+// The answer that presses the button.
+const char* NameOf(int nButton) {
+    switch (nButton) {
+    case IDYES:
+        return "yes";
+    case IDNO:
+        return "no";
+    case IDCANCEL:
+        return "cancel";
     default:
-        return {};
+        return "ok";
     }
 }
 
@@ -52,23 +45,23 @@ std::string Utf8FromWide(const std::wstring& strWide) {
 int AnswerMessageBox(CAnswers& answers, const std::string& strCaption, const std::string& strText,
                      UINT nStyle) {
     answers.Print("[" + OnOneLine(strCaption) + "] " + OnOneLine(strText));
-    const std::vector<CButton> buttons = Buttons(nStyle);
-    if (buttons.empty()) return OK.m_nResult;
+    const std::vector<int> buttons = MessageBoxButtons(nStyle);
+    if (buttons.size() == 1) return buttons.front();
     std::string names;
-    for (const CButton& button : buttons)
-        names += (names.empty() ? "" : "/") + std::string(button.m_name);
+    for (const int nButton : buttons)
+        names += (names.empty() ? "" : "/") + std::string(NameOf(nButton));
     const auto answer = answers.Next(names + "> ");
     if (!answer) {
         answers.Fail(EXIT_INPUT_RAN_OUT, "input ran out before an answer to the box " + OnOneLine(strText));
-        return buttons.back().m_nResult;
+        return buttons.back();
     }
     std::vector<CWord> words;
     std::string reason;
     if (SplitWords(*answer, &words, &reason) && words.size() == 1)
-        for (const CButton& button : buttons)
-            if (!words[0].m_bQuoted && words[0].m_strText == button.m_name) return button.m_nResult;
+        for (const int nButton : buttons)
+            if (!words[0].m_bQuoted && words[0].m_strText == NameOf(nButton)) return nButton;
     answers.Fail(EXIT_NO_SUCH_ANSWER, "no answer \"" + *answer + "\" to the box; it takes " + names);
-    return buttons.back().m_nResult;
+    return buttons.back();
 }
 
 CMessageBoxHost ConsoleMessageBoxes(CAnswers& answers) {

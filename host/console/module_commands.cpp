@@ -5,17 +5,17 @@
 #include <cstdio>
 
 void CommandLoadModule(CHost& host) {
-    const std::string path = host.m_input.Text("Module: ");
+    const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
     std::string reason;
     if (host.m_modules.Load(path, &reason)) return;
     // The one failure after which a run goes on.
     host.m_bModuleFailed = true;
-    host.m_answers.ReportHere("module " + path + " did not load: " + reason);
+    host.m_answers.Report("module " + path + " did not load: " + reason);
 }
 
 void CommandUnloadModule(CHost& host) {
-    const std::string path = host.m_input.Text("Module: ");
+    const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
     std::string reason;
     if (!host.m_modules.Unload(path, &reason))

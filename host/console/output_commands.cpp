@@ -2,6 +2,7 @@
 #include "host/console/host_commands.h"
 #include "host/console/output_file.h"
 #include "host/console/plot_drawing.h"
+#include "host/console/progress.h"
 #include "platform/windows/code_page.h"
 
 #include <algorithm>
@@ -21,16 +22,21 @@ bool IsPlotFormat(const std::string& strPath) {
 } // namespace
 
 void CommandDump(CHost& host) {
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToSave("File: ", ".json");
     host.m_input.End();
     WriteOutputFile(path, DumpDrawing(host.Drawing(), CDrawings::NameOf(host.Document())));
 }
 
 void CommandPlot(CHost& host) {
-    const std::string path = host.m_input.Text("File: ");
+    const std::string path = host.m_input.FileToSave("File: ", ".pdf .svg .png");
     host.m_input.End();
     if (!IsPlotFormat(path)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .pdf, .svg or .png: " + path);
+    bool bGoesOn = true;
+    const auto goesOn = [&](std::size_t nDone, std::size_t nPages) {
+        return bGoesOn = ShowProgress("Plotting", nDone, nPages);
+    };
     std::string reason;
-    if (!PlotDrawing(host.Drawing(), host.m_fonts, path, &reason))
-        throw CRunFailure(EXIT_FILE_FAILED, ToUtf8(reason));
+    const bool bPlotted = PlotDrawing(host.Drawing(), host.m_fonts, path, goesOn, &reason);
+    if (!bGoesOn) throw CCommandCancelled{};
+    if (!bPlotted) throw CRunFailure(EXIT_FILE_FAILED, ToUtf8(reason));
 }

@@ -17,8 +17,8 @@ AcDbObjectId ByHandle(AcDbDatabase& drawing, std::string_view hex) {
     if (error != std::errc() || end != hex.data() + hex.size()) return AcDbObjectId::kNull;
     AcDbObjectId id;
     if (drawing.getAcDbObjectId(id, AcDbHandle(value)) != Acad::eOk) return AcDbObjectId::kNull;
-    const std::vector<AcDbObjectId> shown = ModelSpaceEntities(drawing);
-    return std::find(shown.begin(), shown.end(), id) != shown.end() ? id : AcDbObjectId::kNull;
+    const CDbOpen<AcDbEntity> entity(id);
+    return entity && entity->ownerId() == drawing.ModelSpaceId() ? id : AcDbObjectId::kNull;
 }
 
 AcDbObjectId ByPoint(AcDbDatabase& drawing, const AcGePoint3d& point) {
@@ -56,20 +56,16 @@ AcDbObjectId PickEntity(AcDbDatabase& drawing, const std::string& strWord, const
 }
 
 bool PickSeveral(AcDbDatabase& drawing, const std::string& strWord, const AcGePoint3d& last,
-                 std::vector<AcDbObjectId>* pIds, std::string* pReason) {
+                 CPickedEntities* pPicked, std::string* pReason) {
     if (strWord == "all") {
         for (const AcDbObjectId& id : ModelSpaceEntities(drawing))
-            AddOnce(id, pIds);
+            pPicked->Add(id);
         return true;
     }
     for (const std::string& strPick : PiecesOf(strWord, '+')) {
         const AcDbObjectId id = PickEntity(drawing, strPick, last, pReason);
         if (id.isNull()) return false;
-        AddOnce(id, pIds);
+        pPicked->Add(id);
     }
     return true;
-}
-
-void AddOnce(AcDbObjectId id, std::vector<AcDbObjectId>* pIds) {
-    if (std::find(pIds->begin(), pIds->end(), id) == pIds->end()) pIds->push_back(id);
 }

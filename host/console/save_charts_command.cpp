@@ -15,6 +15,8 @@
 #include <array>
 #include <filesystem>
 
+namespace fs = std::filesystem;
+
 namespace {
 
 /// What a chart says of itself, UTF-8.
@@ -95,15 +97,34 @@ std::string TitleOf(const std::vector<CStoredChart>& charts) {
     return strTitle;
 }
 
-/// The folder, made if need be; one that differs by case is it, too.
-std::string FolderOf(const std::string& strProject) {
-    const std::string strWanted = InstallationRoot() + "/Output/" + strProject + "/" + ToUtf8("室内曲线");
+/// The path in the spelling that the file system has.
+std::string Resolved(const std::string& strPath) {
     std::string utf8;
-    ResolvePath({}, GbkAnswer(strWanted), &utf8);
-    std::error_code error;
-    std::filesystem::create_directories(utf8, error);
-    if (error) throw CRunFailure(EXIT_FILE_FAILED, utf8 + " cannot be made: " + error.message());
+    ResolvePath({}, GbkAnswer(strPath), &utf8);
     return utf8;
+}
+
+/// Links may lead to the output tree, but none out of it: who may write in it would have files of others
+/// written for him.
+void CheckWithin(const std::string& strTree, const std::string& strPath) {
+    std::error_code error;
+    const fs::path tree = fs::weakly_canonical(strTree, error), path = fs::weakly_canonical(strPath, error);
+    if (error || std::ranges::mismatch(tree, path).in1 != tree.end())
+        Refuse(strPath + " lies outside of " + strTree);
+}
+
+/// The path of the drawing of that title; its folder is made if need be. A file or folder that differs by
+/// case is it, too.
+std::string FileOf(const std::string& strProject, const std::string& strTitle) {
+    const std::string strTree = Resolved(InstallationRoot() + "/Output");
+    const std::string strFolder = Resolved(strTree + "/" + strProject + "/" + ToUtf8("室内曲线"));
+    CheckWithin(strTree, strFolder);
+    std::error_code error;
+    fs::create_directories(strFolder, error);
+    if (error) throw CRunFailure(EXIT_FILE_FAILED, strFolder + " cannot be made: " + error.message());
+    std::string strFile = Resolved(strFolder + "/" + strTitle + ".dwg");
+    CheckWithin(strTree, strFile);
+    return strFile;
 }
 
 } // namespace
@@ -114,6 +135,6 @@ void CommandSaveCharts(CHost& host) {
     const std::string strProject = RunningProject();
     const std::vector<CStoredChart> charts = ChartsOf(*document.database());
     CheckCharts(charts, strProject);
-    SaveDrawingAs(host, document, FolderOf(strProject) + "/" + TitleOf(charts) + ".dwg", false);
+    SaveDrawingAs(host, document, FileOf(strProject, TitleOf(charts)), false);
     host.Print("saved " + CDrawings::NameOf(document));
 }

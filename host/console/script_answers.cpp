@@ -1,8 +1,5 @@
 #include "host/console/script_answers.h"
 
-#include "host/console/texts.h"
-#include "platform/acad/ap_document_manager.h"
-
 #include <iostream>
 
 namespace {
@@ -19,10 +16,10 @@ CScriptAnswers::CScriptAnswers(std::string strName, std::istream& input, CTextOu
     , m_bAskFirst(bAskFirst)
     , m_bQuiet(bQuiet) {}
 
-std::optional<std::string> CScriptAnswers::Next(const std::string& strPrompt) {
+std::optional<std::string> CScriptAnswers::Ask(const CQuestion& question) {
     if (HasFailed()) return std::nullopt;
-    if (std::optional<std::string> typed = TakeTyped(strPrompt)) return typed;
-    ShowPrompt(strPrompt);
+    if (std::optional<std::string> typed = TakeTyped(question.m_strPrompt)) return typed;
+    ShowPrompt(question.m_strPrompt);
     std::optional<std::string> answer = ReadLine();
     if (answer) {
         ShowAnswer(*answer);
@@ -53,23 +50,9 @@ void CScriptAnswers::ShowAnswered(const std::string& strPrompt, const std::strin
     ShowAnswer(strAnswer);
 }
 
-void CScriptAnswers::Fail(CExitStatus status, const std::string& strWhat) {
-    if (!m_fault) m_fault = CRunFault{status, m_nLine, strWhat};
-}
-
-void CScriptAnswers::Report(int nLine, const std::string& strWhat) const {
+void CScriptAnswers::Report(const std::string& strWhat) {
     m_output.Flush();
-    std::cerr << m_strName << ":" << nLine << ": " << strWhat << std::endl;
-}
-
-std::optional<std::string> CScriptAnswers::TakeTyped(const std::string& strPrompt) {
-    AcApDocument* const pDocument = acDocManagerPtr()->curDocument();
-    if (!pDocument) return std::nullopt;
-    const std::optional<CTypedLine> line = pDocument->TypedText().TakeLine();
-    if (!line) return std::nullopt;
-    std::string strAnswer = line->m_bEscape ? g_szEscape : Utf8FromWide(line->m_strText);
-    if (line->m_bEcho) ShowAnswered(strPrompt, strAnswer);
-    return strAnswer;
+    std::cerr << m_strName << ":" << m_nLine << ": " << strWhat << std::endl;
 }
 
 std::optional<std::string> CScriptAnswers::ReadLine() {

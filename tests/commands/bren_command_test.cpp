@@ -37,7 +37,7 @@ protected:
         });
         BrenCommand();
     }
-    CPromptResult AskPoint(const std::string& strPrompt, AcGePoint3d*) override {
+    CPromptResult AskPoint(const std::string& strPrompt, const AcGePoint3d*, AcGePoint3d*) override {
         m_arPrompts.push_back(strPrompt);
         return CPromptResult::Cancel;
     }

@@ -1,5 +1,7 @@
 #include "host/console/command_input.h"
 
+#include "host/console/script_answers.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -30,9 +32,9 @@ TEST_F(CommandInput, WordsComeBeforeLinesAndOptionalOnesAreNeverAskedFor) {
 
 TEST_F(CommandInput, ALineIsReadWhateverWordsThereAre) {
     m_input.Begin({{"word", false}});
-    EXPECT_EQ(m_input.Line(""), "  raw text ");
+    EXPECT_EQ(m_input.Line({""}), "  raw text ");
     EXPECT_EQ(m_input.Text(""), "word");
-    EXPECT_THROW(m_input.Line(""), CCommandCancelled);
+    EXPECT_THROW(m_input.Line({""}), CCommandCancelled);
 }
 
 TEST_F(CommandInput, AnotherCommandsWordsAndItsCancelLeaveTheOuterOnesAlone) {
@@ -44,7 +46,7 @@ TEST_F(CommandInput, AnotherCommandsWordsAndItsCancelLeaveTheOuterOnesAlone) {
         m_answers.Next(""); // the raw text
         m_input.Begin({});
         AcGePoint3d point;
-        EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+        EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Cancel);
         EXPECT_TRUE(m_input.WasCancelled());
     }
     EXPECT_FALSE(m_input.WasCancelled());
@@ -80,16 +82,16 @@ TEST_F(CommandInput, AnOffsetIsCountedFromItsBaseOrStandsForItself) {
 TEST_F(CommandInput, AModulesPromptGivesResultsInsteadOfExceptions) {
     m_input.Begin({{"1,1", false}});
     AcGePoint3d point;
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Value);
     m_answers.Next(""); // the raw text
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Cancel);
     EXPECT_TRUE(m_input.WasCancelled());
     m_answers.Next("");
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::None);
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Value);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::None);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Value);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Value);
     EXPECT_EQ(point, AcGePoint3d(3.0, 4.0, 0.0));
     EXPECT_FALSE(m_answers.HasFailed());
-    EXPECT_EQ(m_input.AskPoint("", &point), CPromptResult::Cancel);
+    EXPECT_EQ(m_input.AskPoint("", nullptr, &point), CPromptResult::Cancel);
     EXPECT_TRUE(m_answers.HasFailed());
 }

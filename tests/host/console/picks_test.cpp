@@ -52,12 +52,12 @@ TEST_F(Picks, AnEntityNotDrawnYetIsNoPickByPoint) {
 }
 
 TEST_F(Picks, SeveralAreEachTakenOnceInTheOrderPicked) {
-    std::vector<AcDbObjectId> ids;
-    EXPECT_TRUE(PickSeveral(m_drawing, "L+50,0+L", AcGePoint3d(), &ids, &m_strReason));
-    EXPECT_EQ(ids, (std::vector{m_idSecond, m_idFirst}));
-    ids.clear();
-    EXPECT_TRUE(PickSeveral(m_drawing, "all", AcGePoint3d(), &ids, &m_strReason));
-    EXPECT_EQ(ids, (std::vector{m_idFirst, m_idSecond}));
-    EXPECT_FALSE(PickSeveral(m_drawing, "L+", AcGePoint3d(), &ids, &m_strReason));
-    EXPECT_FALSE(PickSeveral(m_drawing, "", AcGePoint3d(), &ids, &m_strReason));
+    CPickedEntities picked;
+    EXPECT_TRUE(PickSeveral(m_drawing, "L+50,0+L", AcGePoint3d(), &picked, &m_strReason));
+    EXPECT_EQ(picked.Ids(), (std::vector{m_idSecond, m_idFirst}));
+    picked.Clear();
+    EXPECT_TRUE(PickSeveral(m_drawing, "all", AcGePoint3d(), &picked, &m_strReason));
+    EXPECT_EQ(picked.Ids(), (std::vector{m_idFirst, m_idSecond}));
+    EXPECT_FALSE(PickSeveral(m_drawing, "L+", AcGePoint3d(), &picked, &m_strReason));
+    EXPECT_FALSE(PickSeveral(m_drawing, "", AcGePoint3d(), &picked, &m_strReason));
 }

@@ -34,7 +34,7 @@ protected:
     void PlotSvg() {
         CFonts fonts({});
         std::string reason;
-        EXPECT_TRUE(PlotDrawing(m_drawing, fonts, m_folder / "a.svg", &reason)) << reason;
+        EXPECT_TRUE(PlotDrawing(m_drawing, fonts, m_folder / "a.svg", {}, &reason)) << reason;
     }
     std::string TextOf(const std::string& strName) const {
         std::ostringstream text;
@@ -146,6 +146,28 @@ TEST_F(PlotDrawingTest, AllOfADrawingIsOnOnePageWhereNoSheetHasExtents) {
     AddSheet(AddFrame(L"FRAME"), 0.0);
     Svg();
     EXPECT_FALSE(IsThere("a-1.svg"));
+}
+
+TEST_F(PlotDrawingTest, GivenUpItLeavesNoHalfFileAndWhatStoodThereStays) {
+    const AcDbObjectId idFrame = AddFrame(L"BRMB");
+    AddSheet(idFrame, 0.0);
+    AddSheet(idFrame, 220.0);
+    std::ofstream(m_folder / "old.pdf") << "before";
+    CFonts fonts({});
+    std::string reason, strAsked;
+    const auto oneOnly = [&](std::size_t nDone, std::size_t nPages) {
+        strAsked += std::to_string(nDone) + "/" + std::to_string(nPages) + " ";
+        return nDone < 1;
+    };
+    for (const char* const szName : {"new.pdf", "old.pdf", "a.svg"}) {
+        EXPECT_FALSE(PlotDrawing(m_drawing, fonts, m_folder / szName, oneOnly, &reason)) << szName;
+        EXPECT_EQ(reason, "the plot is given up");
+    }
+    EXPECT_EQ(strAsked, "0/2 1/2 0/2 1/2 0/2 1/2 ");
+    EXPECT_FALSE(IsThere("new.pdf"));
+    EXPECT_EQ(TextOf("old.pdf"), "before");
+    EXPECT_NE(TextOf("a-1.svg").find("</svg>"), std::string::npos) << "whole";
+    EXPECT_FALSE(IsThere("a-2.svg"));
 }
 
 TEST_F(PlotDrawingTest, ASheetErasedHasNoPage) {

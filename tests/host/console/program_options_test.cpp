@@ -25,7 +25,8 @@ TEST_F(ProgramOptions, BadUsageEndsWithTwoOnStandardError) {
 }
 
 TEST_F(ProgramOptions, WithoutAScriptItSaysThatThereIsNoWindow) {
-    const CProgramResult result = RunProgram("");
+    const CProgramResult result = RunProgram("", "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM");
     EXPECT_EQ(result.m_nStatus, 2);
-    EXPECT_EQ(result.m_strErr, "tvcad: there is no window yet; give a script with --script FILE\n");
+    EXPECT_EQ(result.m_strErr,
+              "tvcad: there is no display for its window; give a script with --script FILE\n");
 }

@@ -35,7 +35,7 @@ TEST_F(ScriptAnswers, AnAnswerBeyondTheEndFailsAtTheLineReadLast) {
     EXPECT_EQ(answers.Next(""), std::nullopt);
     ASSERT_TRUE(answers.HasFailed());
     EXPECT_EQ(answers.Fault()->m_status, EXIT_INPUT_RAN_OUT);
-    EXPECT_EQ(answers.Fault()->m_nLine, 3);
+    EXPECT_EQ(answers.LinesRead(), 3);
 }
 
 TEST_F(ScriptAnswers, TheFirstFailureStaysAndNothingMoreIsGiven) {
@@ -47,5 +47,5 @@ TEST_F(ScriptAnswers, TheFirstFailureStaysAndNothingMoreIsGiven) {
     EXPECT_EQ(answers.NextCommandLine(), std::nullopt);
     EXPECT_EQ(answers.Fault()->m_strWhat, "first");
     EXPECT_EQ(answers.Fault()->m_status, EXIT_NO_SUCH_ANSWER);
-    EXPECT_EQ(answers.Fault()->m_nLine, 1);
+    EXPECT_EQ(answers.LinesRead(), 1);
 }

@@ -1,4 +1,4 @@
-#include "host/console/script_documents.h"
+#include "host/console/host_documents.h"
 
 #include "host/console/drawing_session.h"
 #include "host/files/drawing_failure.h"
@@ -24,18 +24,18 @@ Acad::ErrorStatus StatusOf(CHost& host, const Change& change) {
 
 } // namespace
 
-void CScriptDocuments::Activate(AcApDocument& document) {
+void CHostDocuments::Activate(AcApDocument& document) {
     ActivateDrawing(m_host, document);
 }
 
-Acad::ErrorStatus CScriptDocuments::NewDocument() {
+Acad::ErrorStatus CHostDocuments::NewDocument() {
     return StatusOf(m_host, [this] {
         NewDrawing(m_host);
         return Acad::eOk;
     });
 }
 
-Acad::ErrorStatus CScriptDocuments::OpenDocument(const std::wstring& strPath) {
+Acad::ErrorStatus CHostDocuments::OpenDocument(const std::wstring& strPath) {
     return StatusOf(m_host, [&] {
         std::string utf8;
         if (!ResolvePath({}, GbkFromWide(strPath), &utf8)) return Acad::eFileNotFound;
@@ -44,7 +44,7 @@ Acad::ErrorStatus CScriptDocuments::OpenDocument(const std::wstring& strPath) {
     });
 }
 
-Acad::ErrorStatus CScriptDocuments::CloseDocument(AcApDocument& document) {
+Acad::ErrorStatus CHostDocuments::CloseDocument(AcApDocument& document) {
     return StatusOf(m_host, [&] {
         CloseDrawing(m_host, document);
         return Acad::eOk;

@@ -3,16 +3,16 @@
 #include "host/console/host.h"
 #include "platform/acad/ap_document_manager.h"
 
-/// The document manager's side of a scripted run, registered while it lives.
-class CScriptDocuments final : public CDocumentHost {
+/// The program's side of the document manager, registered while it lives.
+class CHostDocuments final : public CDocumentHost {
 public:
-    explicit CScriptDocuments(CHost& host)
+    explicit CHostDocuments(CHost& host)
         : m_host(host) {
         acDocManagerPtr()->SetHost(this);
     }
-    ~CScriptDocuments() override { acDocManagerPtr()->SetHost(nullptr); }
-    CScriptDocuments(const CScriptDocuments&) = delete;
-    CScriptDocuments& operator=(const CScriptDocuments&) = delete;
+    ~CHostDocuments() override { acDocManagerPtr()->SetHost(nullptr); }
+    CHostDocuments(const CHostDocuments&) = delete;
+    CHostDocuments& operator=(const CHostDocuments&) = delete;
 
     std::vector<AcApDocument*> Documents() const override { return m_host.m_drawings.Documents(); }
     AcApDocument* Current() const override { return m_host.m_drawings.CurrentDocument(); }

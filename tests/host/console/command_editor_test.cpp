@@ -1,5 +1,6 @@
-#include "host/console/script_editor.h"
+#include "host/console/command_editor.h"
 
+#include "host/console/script_answers.h"
 #include "host/plot/fonts.h"
 #include "host/plot/headless.h"
 #include "tests/host/console/program_run.h"
@@ -72,7 +73,7 @@ TEST_F(ScriptPicks, ASelectionIsAPickALineOrOneWord) {
     EXPECT_EQ(RunDocuments(lines + "PICKSET\nall\n").m_nStatus, 5); // a line is one pick
 }
 
-TEST(ScriptEditor, SeeksBesideTheDrawingBeforeTheRoot) {
+TEST(CommandEditor, SeeksBesideTheDrawingBeforeTheRoot) {
     std::string folder = (std::filesystem::temp_directory_path() / "tvcad-test-XXXXXX").string();
     const std::filesystem::path base = mkdtemp(folder.data());
     std::filesystem::create_directories(base / "root");
@@ -90,7 +91,7 @@ TEST(ScriptEditor, SeeksBesideTheDrawingBeforeTheRoot) {
     StartHeadlessQt();
     CFonts fonts([](const std::string&) {});
     CHost host{answers, commandInput, drawings, modules, fonts};
-    CScriptEditor editor(output, host, (base / "root").string());
+    CCommandEditor editor(host, (base / "root").string());
     EXPECT_EQ(editor.FindFile("A.TXT"), (base / "drawings/a.txt").string());
     EXPECT_EQ(editor.FindFile("b.txt"), (base / "root/b.txt").string());
     EXPECT_EQ(editor.FindFile("c.txt"), "");

@@ -1,10 +1,10 @@
-#include "host/console/script_documents.h"
+#include "host/console/host_documents.h"
 
 #include "tests/host/console/program_run.h"
 
-using ScriptDocuments = CProgramRun;
+using HostDocuments = CProgramRun;
 
-TEST_F(ScriptDocuments, FilesAreOpenedInTheApplicationsContextOnly) {
+TEST_F(HostDocuments, FilesAreOpenedInTheApplicationsContextOnly) {
     WriteFile("present.dwg", "AC1015");
     EXPECT_EQ(RunDocuments("OPENFILES\nDOCUMENTS\n").m_strOut,
               "\nmissing eInvalidContext\npresent eInvalidContext"
@@ -12,17 +12,17 @@ TEST_F(ScriptDocuments, FilesAreOpenedInTheApplicationsContextOnly) {
               "1 * Drawing1\n");
 }
 
-TEST_F(ScriptDocuments, ADrawingIsOpenedInPlaceInSingleDocumentModeOnly) {
+TEST_F(HostDocuments, ADrawingIsOpenedInPlaceInSingleDocumentModeOnly) {
     EXPECT_EQ(RunDocuments("SYNCOPEN\nSETVAR SDI 1\nSYNCOPEN\nDOCUMENTS\n").m_strOut,
               "\nsync eNotApplicable\n\nsync eFileNotFound\n1 * Drawing1\n");
 }
 
-TEST_F(ScriptDocuments, ANewDocumentBecomesCurrentBeforeTheNextLine) {
+TEST_F(HostDocuments, ANewDocumentBecomesCurrentBeforeTheNextLine) {
     EXPECT_EQ(RunDocuments("ADDDOCUMENT\nDOCUMENTS\n").m_strOut, "\nnew eOk\n1   Drawing1\n2 * Drawing2\n");
     EXPECT_EQ(RunDocuments("SETVAR SDI 1\nADDDOCUMENT\nDOCUMENTS\n").m_strOut, "\nnew eOk\n1 * Drawing2\n");
 }
 
-TEST_F(ScriptDocuments, ADocumentThatAModuleClosesIsAskedForWhenItIsChanged) {
+TEST_F(HostDocuments, ADocumentThatAModuleClosesIsAskedForWhenItIsChanged) {
     EXPECT_EQ(RunDocuments("CLOSEDOCUMENT\nDOCUMENTS\n").m_strOut, "\nlocked eLockViolation\nclose eOk\n");
     const std::string change = "LINE 0,0 1,1\n";
     EXPECT_EQ(RunDocuments(change + "CLOSEDOCUMENT\nno\nDOCUMENTS\n").m_strOut,

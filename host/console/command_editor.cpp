@@ -1,4 +1,4 @@
-#include "host/console/script_editor.h"
+#include "host/console/command_editor.h"
 
 #include "host/console/command_runner.h"
 #include "platform/windows/code_page.h"
@@ -20,36 +20,37 @@ std::string FullPath(const std::string& strFolder, const std::string& strName) {
 
 } // namespace
 
-CScriptEditor::CScriptEditor(CTextOutput& output, CHost& host, std::string strRootGbk)
-    : m_output(output)
-    , m_host(host)
+CCommandEditor::CCommandEditor(CHost& host, std::string strRootGbk)
+    : m_host(host)
     , m_strRootGbk(std::move(strRootGbk)) {
     SetEditorHost(this);
 }
 
-void CScriptEditor::Print(const std::string& strText) {
-    m_output.Write(ToUtf8(strText));
+void CCommandEditor::Print(const std::string& strText) {
+    m_host.m_answers.Write(ToUtf8(strText));
 }
 
-CPromptResult CScriptEditor::AskPoint(const std::string& strPrompt, AcGePoint3d* pPoint) {
-    return m_host.m_input.AskPoint(ToUtf8(strPrompt), pPoint);
+CPromptResult CCommandEditor::AskPoint(const std::string& strPrompt, const AcGePoint3d* pBase,
+                                       AcGePoint3d* pPoint) {
+    return m_host.m_input.AskPoint(ToUtf8(strPrompt), pBase, pPoint);
 }
 
-CPromptResult CScriptEditor::AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) {
+CPromptResult CCommandEditor::AskEntity(const std::string& strPrompt, AcDbObjectId* pId,
+                                        AcGePoint3d* pPoint) {
     if (!m_host.m_drawings.CurrentDocument()) return CPromptResult::None;
     return m_host.m_input.AskEntity(m_host.Drawing(), ToUtf8(strPrompt), pId, pPoint);
 }
 
-CPromptResult CScriptEditor::AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) {
+CPromptResult CCommandEditor::AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) {
     if (!m_host.m_drawings.CurrentDocument()) return CPromptResult::None;
     return m_host.m_input.AskSelection(m_host.Drawing(), ToUtf8(strPrompt), pIds);
 }
 
-CCommandResult CScriptEditor::RunCommand(const std::vector<std::string>& arWords) {
+CCommandResult CCommandEditor::RunCommand(const std::vector<std::string>& arWords) {
     return RunNestedCommand(m_host, arWords);
 }
 
-std::string CScriptEditor::FindFile(const std::string& strName) {
+std::string CCommandEditor::FindFile(const std::string& strName) {
     std::string found = FullPath({}, strName);
     if (!found.empty() || IsAbsolutePath(strName)) return found;
     const std::string strBeside = m_host.m_drawings.FolderGbk();
