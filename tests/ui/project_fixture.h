@@ -54,7 +54,8 @@ protected:
     }
 
     void Print(const std::string& strText) override { m_strPrinted += strText; }
-    CPromptResult AskPoint(const std::string& /*strPrompt*/, AcGePoint3d* /*pPoint*/) override {
+    CPromptResult AskPoint(const std::string& /*strPrompt*/, const AcGePoint3d* /*pBase*/,
+                           AcGePoint3d* /*pPoint*/) override {
         return CPromptResult::Cancel;
     }
     std::string FindFile(const std::string& /*strName*/) override { return ""; }

@@ -1,0 +1,49 @@
+#include "host/desktop/desktop_run.h"
+
+#include "host/console/answers.h"
+#include "host/desktop/desktop.h"
+#include "host/interface_font.h"
+
+#include <QtWidgets/QApplication>
+
+#include <algorithm>
+#include <array>
+#include <clocale>
+
+namespace {
+
+/// Qt takes the user's locale over, with its decimal comma; numbers are read and written with a point here.
+class CKeptLocale {
+public:
+    ~CKeptLocale() { std::setlocale(LC_ALL, m_strLocale.c_str()); }
+
+private:
+    std::string m_strLocale = std::setlocale(LC_ALL, nullptr);
+};
+
+/// Never deleted: fonts held by other statics need it to the last.
+void StartWindowedQt() {
+    const CKeptLocale locale;
+    static int s_nArguments = 1;
+    static std::array<char, 6> s_szProgram = {"tvcad"};
+    static std::array<char*, 2> s_arArguments = {s_szProgram.data(), nullptr};
+    [[maybe_unused]] static QApplication& s_application =
+        *new QApplication(s_nArguments, s_arArguments.data());
+    QApplication::setQuitOnLastWindowClosed(false); // QUIT ends the run
+    QApplication::setStyle(u"Fusion"_qs);
+    UseInterfaceFont();
+}
+
+} // namespace
+
+bool HasDisplay() {
+    constexpr std::array arNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(arNames.begin(), arNames.end(),
+                       [](const char* szName) { return !qEnvironmentVariableIsEmpty(szName); });
+}
+
+int RunDesktop(const CProgramOptions& options, const std::string& strRootGbk) {
+    StartWindowedQt();
+    CDesktop(strRootGbk, CAutosave::UserFolder()).Run(options);
+    return EXIT_DONE;
+}

@@ -1,0 +1,20 @@
+#include "host/desktop/dialogs/gbk_text.h"
+
+#include "platform/windows/code_page.h"
+
+QString FromGbk(std::string_view strText) {
+    return QString::fromStdWString(WideFromGbk(strText));
+}
+
+QString CaptionFromGbk(std::string_view strCaption) {
+    return FromGbk(strCaption).remove(u'\r');
+}
+
+bool IsInCodePage(const QString& strText) {
+    std::string strGbk;
+    return Utf8ToGbk(strText.toStdString(), &strGbk);
+}
+
+CString ToGbk(const QString& strText) {
+    return {GbkFromWide(strText.toStdWString())};
+}

@@ -1,0 +1,79 @@
+#include "host/desktop/printing.h"
+
+#include "host/console/plot_drawing.h"
+#include "host/console/progress.h"
+#include "host/console/sheet_pages.h"
+#include "host/plot/painter_canvas.h"
+
+#include <QtCore/QFile>
+#include <QtGui/QPainter>
+#include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrintPreviewDialog>
+#include <QtPrintSupport/QPrinter>
+
+namespace {
+
+constexpr double g_dMmPerInch = 25.4;
+
+/// The printer's paper for a page: a standard one where the page is that.
+void SetPaper(QPrinter& printer, const CPageBox& box) {
+    const QSizeF size(box.Width(), box.Height());
+    const bool bLying = size.width() > size.height();
+    const QSizeF upright = bLying ? size.transposed() : size;
+    printer.setPageSize(QPageSize(upright, QPageSize::Millimeter, QString(), QPageSize::FuzzyMatch));
+    printer.setPageOrientation(bLying ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setFullPage(true);
+}
+
+bool IsSameSize(const CPageBox& one, const CPageBox& other) {
+    return one.Width() == other.Width() && one.Height() == other.Height();
+}
+
+/// Ends a print without its pages, as far as they are not on paper.
+void GiveUp(QPainter& painter, QPrinter& printer) {
+    if (!painter.isActive()) return; // not begun
+    printer.abort();
+    painter.end();
+    if (!printer.outputFileName().isEmpty()) QFile::remove(printer.outputFileName());
+}
+
+void PrintPages(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts,
+                QPrinter& printer) {
+    QPainter painter;
+    std::size_t nDone = 0;
+    for (const CPlotPage& page : arPages) {
+        if (options.m_fnGoesOn && !options.m_fnGoesOn(nDone)) return GiveUp(painter, printer);
+        if (nDone == 0 || !IsSameSize(page.m_box, arPages[nDone - 1].m_box)) SetPaper(printer, page.m_box);
+        ++nDone;
+        if (!painter.isActive() ? !painter.begin(&printer) : !printer.newPage()) return;
+        painter.resetTransform();
+        painter.scale(printer.resolution() / g_dMmPerInch, printer.resolution() / g_dMmPerInch);
+        CPainterCanvas canvas(painter);
+        PaintPage(page, options, fonts, canvas);
+    }
+}
+
+} // namespace
+
+void PrintDrawing(AcDbDatabase& drawing, CFonts& fonts, QWidget* pParent) {
+    QPrinter printer(QPrinter::HighResolution);
+    if (QPrintDialog(&printer, pParent).exec() != QDialog::Accepted) return;
+    const CPlottedDrawing plotted(drawing);
+    const std::vector<CPlotPage> arPages = plotted.Pages();
+    CPlotOptions options = PlotOptionsOf(drawing);
+    options.m_fnGoesOn = [&](std::size_t nDone) { return ShowProgress("Printing", nDone, arPages.size()); };
+    PrintPages(arPages, options, fonts, printer);
+    ShowProgress("Printing", arPages.size(), arPages.size());
+}
+
+void PreviewPrint(AcDbDatabase& drawing, CFonts& fonts, QWidget* pParent) {
+    const CPlottedDrawing plotted(drawing);
+    const std::vector<CPlotPage> arPages = plotted.Pages();
+    const CPlotOptions options = PlotOptionsOf(drawing);
+    QPrinter printer(QPrinter::HighResolution);
+    SetPaper(printer, arPages.front().m_box);
+    QPrintPreviewDialog dialog(&printer, pParent);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&](QPrinter* pPrinter) { PrintPages(arPages, options, fonts, *pPrinter); });
+    dialog.exec();
+}
