@@ -3,11 +3,10 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
-#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "host/datamanager/database_failure.h"
+#include "host/datamanager/current_failure.h"
 #include "host/datamanager/failure.h"
 #include "host/datamanager/frame_choice.h"
 #include "host/datamanager/import.h"
@@ -15,11 +14,10 @@
 #include "host/datamanager/listing.h"
 #include "host/datamanager/new_installation.h"
 #include "host/datamanager/new_project.h"
-#include "host/datamanager/project.h"
+#include "host/datamanager/project_database.h"
 #include "host/datamanager/resident_calls.h"
 #include "host/datamanager/results.h"
 #include "host/datamanager/terminal_text.h"
-#include "platform/ado/error.h"
 #include "platform/ado/report.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/installation_root.h"
@@ -65,14 +63,15 @@ ExitStatus New(const COptions& options) {
 ExitStatus Import(const COptions& options) {
     const CInstallation installation = OpenInstallation(options);
     const CProject project = FindProject(installation, FromTerminal(options.m_strNumber));
-    const auto pDatabase = OpenProjectDatabase(installation, project);
-    CImportReport report(stderr);
-    const CImportCounts counts = AtDatabase(ProjectConnection(installation, project), [&] {
-        return ImportFiles(*pDatabase, project.m_nGCSY, options.m_arFiles, options.m_bReplace, &report);
+    CImportReport report([](const CImportRemark& remark) {
+        const std::string strLine = RemarkLine(remark) + "\n"; // may hold a zero byte of the file
+        std::fwrite(strLine.data(), 1, strLine.size(), stderr);
+    });
+    const CImportCounts counts = AtProjectDatabase(installation, project, [&](CDbConnection& database) {
+        return ImportFiles(database, project.m_nGCSY, options.m_arFiles, options.m_bReplace, &report);
     });
     if (report.Refusals() > 0) return ExitStatus::Refused;
-    Print("readings: " + std::to_string(counts.m_nReadings) + "\nsamples: " +
-          std::to_string(counts.m_nSamples) + "\nlayers: " + std::to_string(counts.m_nLayers) + "\n");
+    Print(CountsText(counts));
     return ExitStatus::Done;
 }
 
@@ -112,16 +111,11 @@ ExitStatus Results(const COptions& options) {
     const auto form = options.m_bCsv    ? ResultForm::Csv
                       : options.m_bJson ? ResultForm::Json
                                         : ResultForm::Aligned;
-    const auto pDatabase = OpenProjectDatabase(installation, project);
-    Print(AtDatabase(ProjectConnection(installation, project),
-                     [&] { return ResultsText(*pDatabase, project.m_nGCSY, form); }));
+    const auto arRows = AtProjectDatabase(installation, project, [&](CDbConnection& database) {
+        return ReadResults(database, project.m_nGCSY);
+    });
+    Print(ResultsText(arRows, form));
     return ExitStatus::Done;
-}
-
-/// Tells a failure on standard error.
-int Tell(ExitStatus status, const std::string& strWhat) {
-    std::fprintf(stderr, "tvdata: %s\n", strWhat.c_str());
-    return static_cast<int>(status);
 }
 
 int Run(ExitStatus (*pfnCall)(const COptions&), const COptions& options) {
@@ -129,16 +123,29 @@ int Run(ExitStatus (*pfnCall)(const COptions&), const COptions& options) {
         SetReportSink(
             [](const std::string& strLine) { std::fprintf(stderr, "%s\n", ToUtf8(strLine).c_str()); });
         return static_cast<int>(pfnCall(options));
-    } catch (const CFailure& failure) {
-        return Tell(failure.Status(), failure.what());
-    } catch (const CDbError& error) {
-        return Tell(ExitStatus::NoAccess, ToUtf8(error.what()));
-    } catch (const std::filesystem::filesystem_error& error) {
-        return Tell(ExitStatus::NoAccess, error.path1().string() + ": " + error.code().message());
-    } catch (const std::exception& error) {
-        return Tell(ExitStatus::NoAccess, error.what());
+    } catch (const std::exception&) {
+        const CFailure failure = CurrentFailure();
+        std::fprintf(stderr, "tvdata: %s\n", failure.what());
+        return static_cast<int>(failure.Status());
     }
 }
+
+constexpr const char* g_pSurroundings =
+    R"(Without a subcommand it opens its window; where there is no display it prints this.
+
+Exit status:
+  0  done
+  1  refused: what was asked for cannot be done with these data
+  2  bad usage
+  4  a file or database cannot be read or written
+
+Environment:
+  TERVO_ROOT                                 the installation, unless --root names it
+  XDG_DATA_HOME (~/.local/share)             without either: the installation is its folder tervo
+  XDG_RUNTIME_DIR                            holds the socket of the resident data manager
+  TMPDIR (/tmp)                              holds it in a folder of the user's own where that is unset
+  DISPLAY, WAYLAND_DISPLAY, QT_QPA_PLATFORM  where the window opens
+)";
 
 using CCall = ExitStatus (*)(const COptions&);
 
@@ -152,6 +159,7 @@ public:
         AddMaking();
         AddUsing();
         AddShowing();
+        m_app.footer(g_pSurroundings); // last: subcommands made later would end with it too
     }
 
     int Run(int nArguments, char** ppArguments) {
@@ -173,37 +181,50 @@ private:
         return pCommand;
     }
     void AddRoot(CLI::App* pCommand) {
-        pCommand->add_option("--root", m_options.m_strRoot, "The installation's folder (else TERVO_ROOT)");
+        pCommand->add_option("--root", m_options.m_strRoot, "The installation's folder (else TERVO_ROOT)")
+            ->type_name("DIR");
     }
     void AddNumber(CLI::App* pCommand) {
-        pCommand->add_option("--number", m_options.m_strNumber, "The project's number")->required();
+        pCommand->add_option("--number", m_options.m_strNumber, "The project's number")
+            ->required()
+            ->type_name("GCBH");
     }
 
     void AddMaking() {
-        CLI::App* pInit = Add("init", "Makes an installation", Init);
-        pInit->add_option("ROOT", m_options.m_strRoot, "The installation's folder")->required();
+        CLI::App* pInit = Add("init", "Makes an installation: ini files, databases, frame templates", Init);
+        pInit->add_option("ROOT", m_options.m_strRoot, "The installation's folder")
+            ->required()
+            ->type_name("");
         CLI::App* pNew = Add("new", "Makes a project and prints its index", New);
         AddRoot(pNew);
         AddNumber(pNew);
-        pNew->add_option("--name", m_options.m_strName, "The project's name")->required();
-        pNew->add_option("--standard", m_options.m_nStandard, "The code of the standard, 0 unless given");
-        pNew->add_option("--connect", m_options.m_strConnect, "Connection text of the project's database");
+        pNew->add_option("--name", m_options.m_strName, "The project's name")->required()->type_name("GCMC");
+        pNew->add_option("--standard", m_options.m_nStandard, "The code of the standard, 0 unless given")
+            ->type_name("N");
+        pNew->add_option("--connect", m_options.m_strConnect,
+                         "Connection text of the project's database, SQLite's own unless given")
+            ->type_name("TEXT");
         CLI::App* pImport = Add("import", "Brings in readings, samples and layers", Import);
         AddRoot(pImport);
         AddNumber(pImport);
         pImport->add_flag("--replace", m_options.m_bReplace, "Overwrite rows that are stored already");
-        pImport->add_option("FILE", m_options.m_arFiles, "CSV files")->required();
+        pImport->add_option("FILE", m_options.m_arFiles, "CSV files; their columns tell what they hold")
+            ->required()
+            ->type_name("");
     }
 
     void AddUsing() {
-        CLI::App* pOpen = Add("open", "Opens a project and stays as its data manager", Open);
+        CLI::App* pOpen =
+            Add("open", "Makes a project the running one and stays resident as data manager", Open);
         AddRoot(pOpen);
         AddNumber(pOpen);
-        pOpen->add_flag("--foreground", m_options.m_bForeground, "Do not go to the background");
-        AddRoot(Add("close", "Ends the resident data manager", Close));
-        CLI::App* pTemplate = Add("template", "Makes a file the frame template", Template);
+        pOpen->add_flag("--foreground", m_options.m_bForeground, "Stay in the foreground until close");
+        AddRoot(Add("close", "Ends the resident data manager; no project runs then", Close));
+        CLI::App* pTemplate = Add("template", "Makes a drawing the frame of the sheets", Template);
         AddRoot(pTemplate);
-        pTemplate->add_option("FILE", m_options.m_strTemplate, "A name in the folder Templates")->required();
+        pTemplate->add_option("FILE", m_options.m_strTemplate, "A name in the folder Templates")
+            ->required()
+            ->type_name("");
     }
 
     void AddShowing() {

@@ -50,8 +50,8 @@ public:
     void Put(const std::string& strKey, const std::vector<CDbValue>& arRow) {
         for (const auto& pStore : m_arStores)
             pStore->Put(strKey, arRow);
-        ++m_nRows;
     }
+    void Count() { ++m_nRows; }
     void Flush() {
         for (const auto& pStore : m_arStores)
             pStore->Flush();
@@ -64,27 +64,43 @@ private:
     std::size_t m_nRows = 0;
 };
 
+constexpr std::size_t g_nRecordsBetweenTellings = 256;
+
+/// How many bytes of the file have been read; 0 for a pipe.
+std::uintmax_t Position(std::ifstream& stream) {
+    const std::streamoff nAt = stream.tellg();
+    return nAt > 0 ? static_cast<std::uintmax_t>(nAt) : 0;
+}
+
 class CImport {
 public:
     CImport(CDbConnection& database, std::int64_t nGCSY, const std::vector<std::string>& arFiles,
-            bool bReplace, CImportReport* pReport)
+            bool bReplace, bool bWrite, CImportReport* pReport)
         : m_database(database)
         , m_nGCSY(nGCSY)
         , m_arFiles(arFiles)
         , m_bReplace(bReplace)
+        , m_bWrite(bWrite)
         , m_pReport(pReport) {}
 
-    void ReadFile(std::size_t nFile);
+    /// Reads all files; rows that are sound are counted, and with bWrite on their way into the tables.
+    CImportCounts ReadFiles() {
+        for (std::size_t i = 0; i < m_arFiles.size(); ++i)
+            ReadFile(i);
+        if (m_pReport->Refusals() > 0) return {};
+        return {Rows(0), Rows(1), Rows(2)};
+    }
     void Flush() {
         for (auto& [pKind, rows] : m_mapKinds)
             rows.Flush();
     }
+
+private:
     [[nodiscard]] std::size_t Rows(std::size_t nKind) const {
         const auto it = m_mapKinds.find(&ImportKinds()[nKind]);
         return it == m_mapKinds.end() ? 0 : it->second.Rows();
     }
-
-private:
+    void ReadFile(std::size_t nFile);
     void TakeRow(std::size_t nFile, const CImportKind& kind, const CCsvRecord& record,
                  const std::vector<CDbValue>& arRow);
 
@@ -92,7 +108,9 @@ private:
     std::int64_t m_nGCSY;
     const std::vector<std::string>& m_arFiles;
     bool m_bReplace;
+    bool m_bWrite;
     CImportReport* m_pReport;
+    std::uintmax_t m_nReadBefore = 0; ///< bytes of the files before the current one
     std::unordered_map<const CImportKind*, CKindImport> m_mapKinds;
 };
 
@@ -101,6 +119,7 @@ void CImport::ReadFile(std::size_t nFile) {
     std::ifstream stream(strFile, std::ios::binary);
     if (!stream || std::filesystem::is_directory(strFile))
         throw CFailure(ExitStatus::NoAccess, strFile + ": the file cannot be read");
+    m_pReport->TellProgress(m_nReadBefore);
     CCsvReader reader(stream);
     CCsvRecord record;
     if (!reader.Next(&record)) {
@@ -111,9 +130,13 @@ void CImport::ReadFile(std::size_t nFile) {
     if (!ReadImportHeader(strFile, record, m_pReport, &header)) return;
     m_mapKinds.try_emplace(header.m_pKind, m_database, m_nGCSY, *header.m_pKind, m_bReplace);
     std::vector<CDbValue> arRow;
-    while (reader.Next(&record))
+    for (std::size_t nRecord = 1; reader.Next(&record); ++nRecord) {
         if (ReadImportRow(strFile, header, record, m_pReport, &arRow))
             TakeRow(nFile, *header.m_pKind, record, arRow);
+        if (nRecord % g_nRecordsBetweenTellings == 0)
+            m_pReport->TellProgress(m_nReadBefore + Position(stream));
+    }
+    m_nReadBefore += Position(stream);
 }
 
 void CImport::TakeRow(std::size_t nFile, const CImportKind& kind, const CCsvRecord& record,
@@ -128,20 +151,31 @@ void CImport::TakeRow(std::size_t nFile, const CImportKind& kind, const CCsvReco
                std::to_string(earlier->m_nLine));
     else if (!m_bReplace && rows.Holds(strKey))
         refuse("a row of this key is stored already");
-    else if (m_pReport->Refusals() == 0) // after a refusal the rest is only checked
+    else if (m_bWrite && m_pReport->Refusals() == 0) // after a refusal the rest is only checked
         rows.Put(strKey, arRow);
+    rows.Count();
 }
 
 } // namespace
 
+std::string CountsText(const CImportCounts& counts) {
+    return "readings: " + std::to_string(counts.m_nReadings) +
+           "\nsamples: " + std::to_string(counts.m_nSamples) +
+           "\nlayers: " + std::to_string(counts.m_nLayers) + "\n";
+}
+
 CImportCounts ImportFiles(CDbConnection& database, std::int64_t nGCSY,
                           const std::vector<std::string>& arFiles, bool bReplace, CImportReport* pReport) {
     CDbTransaction transaction(database);
-    CImport import(database, nGCSY, arFiles, bReplace, pReport);
-    for (std::size_t i = 0; i < arFiles.size(); ++i)
-        import.ReadFile(i);
+    CImport import(database, nGCSY, arFiles, bReplace, true, pReport);
+    const CImportCounts counts = import.ReadFiles();
     if (pReport->Refusals() > 0) return {};
     import.Flush();
     transaction.Commit();
-    return {import.Rows(0), import.Rows(1), import.Rows(2)};
+    return counts;
+}
+
+CImportCounts CheckFiles(CDbConnection& database, std::int64_t nGCSY, const std::vector<std::string>& arFiles,
+                         bool bReplace, CImportReport* pReport) {
+    return CImport(database, nGCSY, arFiles, bReplace, false, pReport).ReadFiles();
 }

@@ -5,9 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/datamanager/database_failure.h"
 #include "host/datamanager/natural_order.h"
 #include "host/datamanager/numbers.h"
+#include "host/datamanager/project_database.h"
 #include "host/datamanager/terminal_text.h"
 #include "platform/windows/code_page.h"
 
@@ -74,9 +74,9 @@ std::vector<CListedProject> ListProjects(const CInstallation& installation) {
         listed.m_project = project;
         listed.m_bRunning = nRunning >= 0 && project.m_nGCSY == nRunning;
         try {
-            const auto pDatabase = OpenProjectDatabase(installation, project);
-            listed.m_arSamples = AtDatabase(ProjectConnection(installation, project),
-                                            [&] { return ReadSamples(*pDatabase, project.m_nGCSY); });
+            listed.m_arSamples = AtProjectDatabase(installation, project, [&](CDbConnection& database) {
+                return ReadSamples(database, project.m_nGCSY);
+            });
         } catch (const CFailure& failure) {
             listed.m_strFault = failure.what();
         }

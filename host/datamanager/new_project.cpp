@@ -27,16 +27,10 @@ bool IsControl(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
-/// The number becomes a folder's name and a value in ini files; on any system of the suite.
 void CheckNumber(const std::string& strGCBH) {
-    const std::string strUtf8 = ToUtf8(strGCBH);
-    const bool bBadCharacter = std::ranges::any_of(strUtf8, [](char c) {
-        return IsControl(c) || std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
-    });
-    if (strGCBH.empty() || bBadCharacter || IsBlank(strGCBH.front()) || IsBlank(strGCBH.back()) ||
-        strUtf8.back() == '.' || strUtf8.size() > g_nLongestText)
+    if (!CanBeProjectNumber(strGCBH))
         throw CFailure(ExitStatus::Refused,
-                       "\"" + strUtf8 + "\" cannot be a project number: it names a folder");
+                       "\"" + ToUtf8(strGCBH) + "\" cannot be a project number: it names a folder");
 }
 
 void CheckName(const std::string& strGCMC) {

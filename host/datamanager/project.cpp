@@ -6,6 +6,7 @@
 #include "host/datamanager/database_failure.h"
 #include "host/datamanager/layout_check.h"
 #include "host/datamanager/terminal_text.h"
+#include "platform/ado/text.h"
 #include "platform/tvtool/tvtool.h"
 #include "platform/windows/code_page.h"
 
@@ -14,6 +15,12 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* g_pSection = "Project";
+constexpr std::size_t g_nLongestName = 255; // bytes of a folder's
+
+bool CannotStandInName(char c) {
+    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
+           std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
+}
 
 CIniFile ProjectFile(const CInstallation& installation, const std::string& strGCBH) {
     return CIniFile(installation.Below("Projects/" + strGCBH + "/project.ini"));
@@ -24,6 +31,7 @@ CProject ReadProject(const CInstallation& installation, const std::string& strFo
     CProject project;
     project.m_nGCSY = file.Number(g_pSection, "GCSY", -1);
     project.m_strGCBH = file.Text(g_pSection, "GCBH", strFolder);
+    if (!CanBeProjectNumber(project.m_strGCBH)) project.m_strGCBH = strFolder;
     project.m_strGCMC = file.Text(g_pSection, "GCMC");
     project.m_nGCBZ = file.Number(g_pSection, "GCBZ", 0);
     project.m_strConnect = file.Text(g_pSection, "Connect");
@@ -31,6 +39,13 @@ CProject ReadProject(const CInstallation& installation, const std::string& strFo
 }
 
 } // namespace
+
+bool CanBeProjectNumber(const std::string& strGCBH) {
+    const std::string strUtf8 = ToUtf8(strGCBH);
+    return !strGCBH.empty() && std::ranges::none_of(strUtf8, CannotStandInName) &&
+           !IsBlank(strGCBH.front()) && !IsBlank(strGCBH.back()) && strUtf8.back() != '.' &&
+           strUtf8.size() <= g_nLongestName;
+}
 
 std::vector<CProject> ReadProjects(const CInstallation& installation) {
     std::vector<CProject> arProjects;
@@ -52,7 +67,7 @@ bool IsProject(const CInstallation& installation, const std::string& strGCBH) {
 }
 
 CProject FindProject(const CInstallation& installation, const std::string& strGCBH) {
-    if (strGCBH.empty() || strGCBH.find('/') != std::string::npos || !IsProject(installation, strGCBH))
+    if (!CanBeProjectNumber(strGCBH) || !IsProject(installation, strGCBH))
         throw CFailure(ExitStatus::Refused,
                        "there is no project " + ToUtf8(strGCBH) + " in " + installation.Root().string());
     return ReadProject(installation, strGCBH);

@@ -18,7 +18,12 @@ struct CProject {
         m_strConnect; ///< its own connection text; empty where the installation says where the database is
 };
 
-/// All projects by their index.
+/// Whether a text can be a project's number, which is a folder's name and a value in ini files; on any system
+/// of the suite.
+bool CanBeProjectNumber(const std::string& strGCBH);
+
+/// All projects by their index. One whose file has a number that cannot be one has its folder's name for it,
+/// so that no file leads out of the projects' folder.
 std::vector<CProject> ReadProjects(const CInstallation& installation);
 
 /// The project of that number; CFailure (refused) where there is none.

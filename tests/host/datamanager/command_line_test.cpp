@@ -4,9 +4,9 @@
 
 #include "tests/support/programs.h"
 
-TEST(CommandLine, PrintsItsUsageWithoutArguments) {
+TEST(CommandLine, PrintsItsUsageWithoutArgumentsAndDisplay) {
     const CProgram program;
-    const CRun run = program.Tvdata("");
+    const CRun run = program.Shell("env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM $T");
     EXPECT_NE(run.m_strOut.find("Usage: tvdata"), std::string::npos);
     EXPECT_NE(run.m_strOut.find("import"), std::string::npos);
 }

@@ -30,21 +30,11 @@ protected:
         arFiles.reserve(arTexts.size());
         for (const std::string& strText : arTexts)
             arFiles.push_back(m_folder.Write(std::to_string(arFiles.size() + 1) + ".csv", strText));
-        char* pBuffer = nullptr;
-        std::size_t nSize = 0;
-        std::FILE* pOut = open_memstream(&pBuffer, &nSize);
-        CImportReport report(pOut);
-        CImportCounts counts;
-        try {
-            counts = ImportFiles(*m_pDatabase, 7, arFiles, bReplace, &report);
-        } catch (...) {
-            std::fclose(pOut);
-            std::free(pBuffer);
-            throw;
-        }
-        std::fclose(pOut);
-        m_strReport.assign(pBuffer, nSize);
-        std::free(pBuffer);
+        m_strReport.clear();
+        CImportReport report(
+            [this](const CImportRemark& remark) { m_strReport += RemarkLine(remark) + "\n"; });
+        const CImportCounts counts = m_bCheck ? CheckFiles(*m_pDatabase, 7, arFiles, bReplace, &report)
+                                              : ImportFiles(*m_pDatabase, 7, arFiles, bReplace, &report);
         for (std::size_t nAt = 0; (nAt = m_strReport.find(m_folder.Path() + "/")) != std::string::npos;)
             m_strReport.erase(nAt, m_folder.Path().size() + 1);
         return counts;
@@ -57,6 +47,7 @@ protected:
     CTestDatabase m_database{GetParam()};
     std::shared_ptr<CDbConnection> m_pDatabase = m_database.Connect();
     std::string m_strReport;
+    bool m_bCheck = false; ///< only checks, and imports nothing
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, Import, TestEngines(), TestEngineName);
@@ -197,7 +188,7 @@ TEST_P(Import, KeepsWhatWasStoredWhenAReplacingImportIsRefused) {
 }
 
 TEST_P(Import, FailsForAFileThatCannotBeRead) {
-    CImportReport report(stderr);
+    CImportReport report([](const CImportRemark&) {});
     try {
         ImportFiles(*m_pDatabase, 7, {m_folder.Path("none.csv")}, false, &report);
         FAIL() << "no failure";
@@ -205,6 +196,48 @@ TEST_P(Import, FailsForAFileThatCannotBeRead) {
         EXPECT_EQ(failure.Status(), ExitStatus::NoAccess);
     }
     EXPECT_THROW(ImportFiles(*m_pDatabase, 7, {m_folder.Path()}, false, &report), CFailure);
+}
+
+TEST_P(Import, ChecksWithoutWriting) {
+    m_bCheck = true;
+    const std::string strSound = "ZKBH,TCCDSD,TCHD,TCMC\nZK1,4,4,clay\nZK1,8,4,sand\n";
+    EXPECT_EQ(CountsText(Run({strSound})), "readings: 0\nsamples: 0\nlayers: 2\n");
+    EXPECT_EQ(m_strReport, "");
+    EXPECT_EQ(Rows("SELECT * FROM z_g_TuCeng"), "");
+    m_bCheck = false;
+    Run({strSound});
+    m_bCheck = true;
+    Run({"ZKBH,TCCDSD,TCHD,TCMC\nZK1,8,4,sand\nZK1,x,4,sand\nZK2,1,1,sand\n"});
+    EXPECT_EQ(m_strReport,
+              "1.csv:2: TCCDSD: a row of this key is stored already\n"
+              "1.csv:3: TCCDSD: \"x\" is no decimal number within the range of a 4-byte float\n");
+    EXPECT_EQ(CountsText(Run({strSound}, true)), "readings: 0\nsamples: 0\nlayers: 2\n");
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM z_g_TuCeng"), "2\n");
+}
+
+TEST_P(Import, IsUndoneWhenItIsGivenUp) {
+    std::string strText = "ZKBH,TCCDSD,TCHD,TCMC\n";
+    for (int i = 1; i <= 1000; ++i)
+        strText += "ZK1," + std::to_string(i) + ",4,clay\n";
+    const std::string strFile = m_folder.Write("many.csv", strText);
+    std::vector<std::uintmax_t> arHeard;
+    CImportReport report([](const CImportRemark&) {},
+                         [&](std::uintmax_t nRead) {
+                             arHeard.push_back(nRead);
+                             return arHeard.size() < 4;
+                         });
+    try {
+        ImportFiles(*m_pDatabase, 7, {strFile}, false, &report);
+        FAIL() << "no failure";
+    } catch (const CFailure& failure) {
+        EXPECT_EQ(failure.Status(), ExitStatus::Refused);
+        EXPECT_STREQ(failure.what(), "the import was cancelled, nothing came in");
+    }
+    ASSERT_EQ(arHeard.size(), 4U);
+    EXPECT_EQ(arHeard[0], 0U);
+    EXPECT_LT(arHeard[1], arHeard[2]);
+    EXPECT_LE(arHeard[3], strText.size());
+    EXPECT_EQ(Rows("SELECT * FROM z_g_TuCeng"), "");
 }
 
 TEST_P(Import, TakesManyRowsAndReplacesThem) {

@@ -32,16 +32,24 @@ INSTANTIATE_TEST_SUITE_P(Engines, Results, TestEngines(), TestEngineName);
 } // namespace
 
 TEST_P(Results, AreCsvWithTheShortestNumbersInNaturalOrder) {
-    EXPECT_EQ(ResultsText(*m_pDatabase, 3, ResultForm::Csv),
+    EXPECT_EQ(ResultsText(ReadResults(*m_pDatabase, 3), ResultForm::Csv),
               Utf8(u8"ZKBH,QYBH,SYFF,SYRQ,UUC,UUF,CUC,CUF,CUCE,CUFE,CDC,CDF\n"
                    u8"ZK9,2,,,,,,,,,,\n"
                    u8"ZK9,\"b,\"\"c\",固结排水剪,,,,,,,,1e+05,33.5\n"
                    u8"ZK10,1,固结不排水剪,2024.3.9,,,12.35,20,0.1,-1.5,,\n"));
 }
 
+TEST_P(Results, AreTheSameWithTabsBetweenTheFields) {
+    m_pDatabase->Execute("INSERT INTO z_c_SanZhou VALUES "
+                         "(5,'ZK,9','a\tb','x','y \"z\"',1.5,NULL,NULL,NULL,NULL,NULL,NULL,2)");
+    EXPECT_EQ(ResultsText(ReadResults(*m_pDatabase, 5), ResultForm::Tabs),
+              "ZKBH\tQYBH\tSYFF\tSYRQ\tUUC\tUUF\tCUC\tCUF\tCUCE\tCUFE\tCDC\tCDF\n"
+              "ZK,9\t\"a\tb\"\tx\t\"y \"\"z\"\"\"\t1.5\t\t\t\t\t\t\t2\n");
+}
+
 TEST_P(Results, AreAListOfObjectsInJson) {
     EXPECT_EQ(
-        ResultsText(*m_pDatabase, 3, ResultForm::Json),
+        ResultsText(ReadResults(*m_pDatabase, 3), ResultForm::Json),
         Utf8(u8"[\n"
              u8"{\"ZKBH\":\"ZK9\",\"QYBH\":\"2\",\"SYFF\":null,\"SYRQ\":\"\",\"UUC\":null,\"UUF\":null,"
              u8"\"CUC\":null,"
@@ -53,11 +61,11 @@ TEST_P(Results, AreAListOfObjectsInJson) {
              u8"null,"
              u8"\"UUF\":null,\"CUC\":12.35,\"CUF\":20,\"CUCE\":0.1,\"CUFE\":-1.5,\"CDC\":null,\"CDF\":null}\n"
              u8"]\n"));
-    EXPECT_EQ(ResultsText(*m_pDatabase, 99, ResultForm::Json), "[\n]\n");
+    EXPECT_EQ(ResultsText(ReadResults(*m_pDatabase, 99), ResultForm::Json), "[\n]\n");
 }
 
 TEST_P(Results, AreAlignedForPeople) {
-    EXPECT_EQ(ResultsText(*m_pDatabase, 3, ResultForm::Aligned),
+    EXPECT_EQ(ResultsText(ReadResults(*m_pDatabase, 3), ResultForm::Aligned),
               Utf8(u8"ZKBH  QYBH  SYFF          SYRQ      UUC  UUF  CUC    CUF  CUCE  CUFE  CDC    CDF\n"
                    u8"ZK9   2\n"
                    u8"ZK9   b,\"c  固结排水剪                                                1e+05  33.5\n"
