@@ -3,6 +3,7 @@
 #include "host/files/dwg_drawing_reader.h"
 #include "tests/fuzz/dwg_input.h"
 #include "tests/fuzz/record_input.h"
+#include "tests/road/bren_project.h"
 
 #include <gtest/gtest.h>
 
@@ -61,6 +62,38 @@ TEST(FuzzCorpus, IsOfObjectsOfADrawingOfEveryKind) {
         ++nFiles;
     }
     EXPECT_GE(nFiles, 30);
+}
+
+TEST(FuzzCorpus, IsOfScriptsThatRunToTheirEnd) {
+    const CBrenProject project(g_arOneSample);
+    const std::string strStart =
+        "cd \"$ROOT/..\" && " TERVO_BIN "/tvcad --root \"$ROOT\" -q -s " FUZZ_CORPUS "/script/";
+    for (const auto& entry : std::filesystem::directory_iterator(FUZZ_CORPUS "/script")) {
+        const CRun run = project.m_program.Shell(strStart + entry.path().filename().string());
+        EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;
+    }
+}
+
+TEST(FuzzCorpus, IsOfFilesThatAreImportedAndOneThatIsRefused) {
+    const CBrenProject project(g_arOneSample);
+    const auto import = [&](const std::string& strFile) {
+        return project.m_program.Tvdata("import --root \"$ROOT\" --number GC1 " FUZZ_CORPUS "/csv/" + strFile)
+            .m_nStatus;
+    };
+    for (const char* pFile : {"readings", "samples", "layers"})
+        EXPECT_EQ(import(pFile), 0) << pFile;
+    EXPECT_EQ(import("refused"), 1);
+}
+
+TEST(FuzzCorpus, IsOfADatabaseOfASample) {
+    const CBrenProject project(g_arOneSample);
+    std::filesystem::copy_file(FUZZ_CORPUS "/database/project.db", project.DatabasePath(),
+                               std::filesystem::copy_options::overwrite_existing);
+    const CJson rows = project.Results();
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_EQ(rows[0]["QYBH"], "1-1");
+    project.Run("BREN\n" + Selection("1", "1-1") + "0,0\n" + project.Dump());
+    EXPECT_EQ(project.Charts().size(), 1U);
 }
 
 TEST(FuzzRecordInput, IsMadeOfWhateverBytes) {

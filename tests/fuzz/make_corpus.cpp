@@ -1,11 +1,13 @@
-// Writes the corpus of the record targets and of drawing files anew: fuzz_make_corpus FOLDER. It is
-// committed; a record that has changed needs new ones.
+// Writes the corpus of the record targets, of drawing files and of the database anew: fuzz_make_corpus
+// FOLDER. It is committed; a record that has changed needs new ones.
 
 #include "chart/chart_entity.h"
 #include "frame/frame_entity.h"
+#include "host/datamanager/layout.h"
 #include "host/files/dwg_record.h"
 #include "platform/acad/host_application.h"
 #include "platform/acad/result_buffer.h"
+#include "platform/ado/sqlite_provider.h"
 #include "tests/fuzz/dwg_input.h"
 #include "tests/fuzz/record_input.h"
 #include "tests/support/readings.h"
@@ -102,6 +104,25 @@ void AddDrawingObjects(const std::filesystem::path& folder) {
     }
 }
 
+/// A project's database of one sample. Small pages leave few bytes without a meaning.
+void AddDatabase(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    const std::string strFile = folder / "project.db";
+    std::filesystem::remove(strFile);
+    const auto pDatabase = CreateSqliteDatabase(strFile);
+    pDatabase->Execute("PRAGMA page_size = 512");
+    pDatabase->Execute("VACUUM");
+    LayOutTables(*pDatabase, ProjectTables());
+    pDatabase->Execute("INSERT INTO x_GongCheng VALUES (1, 'GC1', '地铁三号线', 0, 0)");
+    pDatabase->Execute(
+        "INSERT INTO z_c_SanZhou (GCSY, ZKBH, QYBH, SYFF) VALUES (1, '1', '1-1', '不固结不排水剪')");
+    pDatabase->Execute("INSERT INTO z_c_QuYang VALUES (1, '1', '1-1', 1, 0.2, 24, 0, 12, 28)");
+    pDatabase->Execute("INSERT INTO z_g_TuCeng VALUES (1, '1', 15, 15, '粘土')");
+    for (const char* pReading : {"1, 1, 100, 80, 39.1, 1, 0, 200", "2, 1, 200, 80, 39.1, 1, 0, 300"})
+        pDatabase->Execute("INSERT INTO z_c_SanZhouCSXM VALUES (1, '1', '1-1', " + std::string(pReading) +
+                           ", 500, 0, 0, 0, 2)");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -118,5 +139,6 @@ int main(int argc, char** argv) {
     const CModuleClasses classes;
     AddDrawings(folder / "dwg");
     AddDrawingObjects(folder / "dwg-object");
+    AddDatabase(folder / "database");
     return 0;
 }
