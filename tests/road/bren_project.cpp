@@ -48,13 +48,17 @@ CImportRows RowsOf(const CMeasuredSamples& samples) {
     return rows;
 }
 
-CBrenProject::CBrenProject(const CImportRows& rows, int nStandard, const std::string& strConnect) {
-    const CTempFolder& folder = m_program.Folder();
+void WriteImportFiles(const CTempFolder& folder, const CImportRows& rows) {
     folder.Write("samples.csv", "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
     folder.Write("layers.csv", "ZKBH,TCCDSD,TCHD,TCMC\n" + rows.m_strLayers);
     folder.Write("readings.csv",
                  "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
                      rows.m_strReadings);
+}
+
+CBrenProject::CBrenProject(const CImportRows& rows, int nStandard, const std::string& strConnect) {
+    const CTempFolder& folder = m_program.Folder();
+    WriteImportFiles(folder, rows);
     m_program.Do("init \"$ROOT\"");
     m_program.Do("new --root \"$ROOT\" --number GC1 --name test --standard " + std::to_string(nStandard) +
                  " --connect \"" + strConnect + "\"");

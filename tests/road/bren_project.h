@@ -41,6 +41,8 @@ struct CImportRows {
 /// The rows of samples, each borehole in one layer.
 CImportRows RowsOf(const CSamples& samples);
 CImportRows RowsOf(const CMeasuredSamples& samples);
+/// Writes samples.csv, layers.csv and readings.csv of the rows.
+void WriteImportFiles(const CTempFolder& folder, const CImportRows& rows);
 
 /// Project GC1, GCSY 1, running.
 class CBrenProject {

@@ -34,7 +34,9 @@ public:
     std::vector<std::string> m_arCommands; ///< run from within a command
 
     void Print(const std::string& strText) override { m_strPrinted += strText; }
-    CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
+    CPromptResult AskPoint(const std::string&, const AcGePoint3d*, AcGePoint3d*) override {
+        return CPromptResult::Cancel;
+    }
     CPromptResult AskEntity(const std::string& strPrompt, AcDbObjectId* pId, AcGePoint3d* pPoint) override;
     CPromptResult AskSelection(const std::string& strPrompt, std::vector<AcDbObjectId>* pIds) override;
     CCommandResult RunCommand(const std::vector<std::string>& arWords) override;

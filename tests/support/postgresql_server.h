@@ -1,8 +1,9 @@
 #pragma once
 
-#include <sys/types.h>
-
+#include <memory>
 #include <string>
+
+class CGuard;
 
 /// A PostgreSQL server of the test program's own: on loopback, on a free port, its files in a temporary
 /// folder, run as another user where the tests are root's, whom it refuses. It is started when first asked
@@ -33,6 +34,5 @@ private:
 
     int m_nPort = 0;
     int m_nDatabases = 0;
-    int m_nLifeline = -1; ///< closed with this process; the guard waits for that
-    pid_t m_nGuard = -1;
+    std::unique_ptr<CGuard> m_pGuard;
 };

@@ -31,7 +31,9 @@ double Single(const std::string& strText) {
 class CPrintHost final : public CEditorHost {
 public:
     void Print(const std::string& strText) override { m_strText += strText; }
-    CPromptResult AskPoint(const std::string&, AcGePoint3d*) override { return CPromptResult::Cancel; }
+    CPromptResult AskPoint(const std::string&, const AcGePoint3d*, AcGePoint3d*) override {
+        return CPromptResult::Cancel;
+    }
     std::string FindFile(const std::string&) override { return {}; }
     std::string m_strText;
 };

@@ -2,7 +2,7 @@
 // ROOT stands for the installation's folder, and the chart that it leaves against tests/data/golden.
 // tests/data/golden/renew makes both anew.
 
-#include "tests/road/bren_project.h"
+#include "tests/examples/demo_project.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -39,17 +39,10 @@ void ExpectSame(const CJson& one, const CJson& other) {
         }
 }
 
-/// The demo project, running, and the session in it, which dumps the drawing that it opened and the one that
-/// it stored.
-class AdoptionStory : public testing::Test {
+/// The session in the demo project, which dumps the drawing that it opened and the one that it stored.
+class AdoptionStory : public testing::Test, protected CDemoProject {
 protected:
     AdoptionStory() {
-        m_program.Do("init \"$ROOT\"");
-        m_program.Do("new --root \"$ROOT\" --number DEMO-01 --name " + Utf8(u8"三轴试验示例工程"));
-        m_program.Do("import --root \"$ROOT\" --number DEMO-01 " TERVO_EXAMPLES
-                     "/demo/samples.csv " TERVO_EXAMPLES "/demo/layers.csv " TERVO_EXAMPLES
-                     "/demo/readings.csv");
-        m_program.Do("open --root \"$ROOT\" --number DEMO-01");
         m_run = m_program.Shell("{ cat " TERVO_EXAMPLES "/adopt.scr; printf 'DUMP \"" +
                                 Folder().Path("opened.json") + "\"\\nACTIVATE 1\\nDUMP \"" +
                                 Folder().Path("stored.json") +
@@ -57,7 +50,6 @@ protected:
         m_opened = CJson::parse(Folder().Read("opened.json"));
         m_stored = CJson::parse(Folder().Read("stored.json"));
     }
-    const CTempFolder& Folder() const { return m_program.Folder(); }
     /// What the session printed, before the dumps.
     std::string Transcript() const {
         std::string strOut = m_run.m_strOut.substr(0, m_run.m_strOut.find("Command: DUMP"));
@@ -66,7 +58,6 @@ protected:
         return strOut;
     }
 
-    const CProgram m_program;
     CRun m_run;
     CJson m_opened, m_stored;
 };
@@ -99,9 +90,7 @@ TEST_F(AdoptionStory, OpensTheDrawingAsItWasStored) {
 }
 
 TEST_F(AdoptionStory, StoresTheValuesThatChartAndLineShow) {
-    CJson row;
-    for (const CJson& result : CJson::parse(m_program.Do("results --root \"$ROOT\" --number DEMO-01 --json")))
-        if (result["ZKBH"] == "ZK1" && result["QYBH"] == "1-2") row = result;
+    const CJson row = Values("ZK1", "1-2");
     const CJson chart = ChartOf(m_opened);
     for (const auto& [pColumn, pAdopted, pRead] : {std::tuple{"CUC", "m_dAdoptC", "m_dGraphC"},
                                                    {"CUF", "m_dAdoptPhi", "m_dGraphPhi"},
