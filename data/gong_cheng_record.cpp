@@ -2,9 +2,10 @@
 
 namespace {
 
-constexpr const char* g_pQuery = "SELECT GCSY,GCBH,GCMC,GCBZ,GCSJ FROM x_GongCheng WHERE GCSY > -1 and %s;";
+constexpr const char* g_pGongChengQuery =
+    "SELECT GCSY,GCBH,GCMC,GCBZ,GCSJ FROM x_GongCheng WHERE GCSY > -1 and %s;";
 
-std::vector<CColumnBinding> Columns() {
+std::vector<CColumnBinding> GongChengColumns() {
     using Row = CGongChengRow;
     return {
         RecordColumn(1, &Row::m_nGCSY), RecordColumn(2, &Row::m_szGCBH), RecordColumn(3, &Row::m_szGCMC),
@@ -16,4 +17,5 @@ std::vector<CColumnBinding> Columns() {
 
 CGongChengRecord::CGongChengRecord()
     : CGongChengRow{}
-    , CRecordAccessor(g_pQuery, Columns(), static_cast<CGongChengRow*>(this), sizeof(CGongChengRow)) {}
+    , CRecordAccessor(g_pGongChengQuery, GongChengColumns(), static_cast<CGongChengRow*>(this),
+                      sizeof(CGongChengRow)) {}

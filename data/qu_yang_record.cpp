@@ -2,10 +2,10 @@
 
 namespace {
 
-constexpr const char* g_pQuery =
+constexpr const char* g_pQuYangQuery =
     "SELECT GCSY,ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX FROM z_c_QuYang WHERE GCSY > -1 and %s;";
 
-std::vector<CColumnBinding> Columns() {
+std::vector<CColumnBinding> QuYangColumns() {
     using Row = CQuYangRow;
     return {
         RecordColumn(1, &Row::m_nGCSY),
@@ -24,4 +24,4 @@ std::vector<CColumnBinding> Columns() {
 
 CQuYangRecord::CQuYangRecord()
     : CQuYangRow{}
-    , CRecordAccessor(g_pQuery, Columns(), static_cast<CQuYangRow*>(this), sizeof(CQuYangRow)) {}
+    , CRecordAccessor(g_pQuYangQuery, QuYangColumns(), static_cast<CQuYangRow*>(this), sizeof(CQuYangRow)) {}

@@ -2,9 +2,9 @@
 
 namespace {
 
-constexpr const char* g_pQuery = "SELECT * FROM z_c_SanZhouCSXM WHERE GCSY > -1 and %s;";
+constexpr const char* g_pSanZhouCsxmQuery = "SELECT * FROM z_c_SanZhouCSXM WHERE GCSY > -1 and %s;";
 
-std::vector<CColumnBinding> Columns() {
+std::vector<CColumnBinding> SanZhouCsxmColumns() {
     using Row = CSanZhouCSXMRow;
     return {
         RecordColumn(1, &Row::m_nGCSY),    RecordColumn(2, &Row::m_szZKBH),  RecordColumn(3, &Row::m_szQYBH),
@@ -20,4 +20,5 @@ std::vector<CColumnBinding> Columns() {
 
 CSanZhouCSXMRecord::CSanZhouCSXMRecord()
     : CSanZhouCSXMRow{}
-    , CRecordAccessor(g_pQuery, Columns(), static_cast<CSanZhouCSXMRow*>(this), sizeof(CSanZhouCSXMRow)) {}
+    , CRecordAccessor(g_pSanZhouCsxmQuery, SanZhouCsxmColumns(), static_cast<CSanZhouCSXMRow*>(this),
+                      sizeof(CSanZhouCSXMRow)) {}

@@ -2,9 +2,9 @@
 
 namespace {
 
-constexpr const char* g_pQuery = "SELECT * FROM z_c_SanZhou WHERE GCSY > -1 and %s;";
+constexpr const char* g_pSanZhouQuery = "SELECT * FROM z_c_SanZhou WHERE GCSY > -1 and %s;";
 
-std::vector<CColumnBinding> Columns() {
+std::vector<CColumnBinding> SanZhouColumns() {
     using Row = CSanZhouRow;
     return {
         RecordColumn(1, &Row::m_nGCSY),
@@ -27,4 +27,5 @@ std::vector<CColumnBinding> Columns() {
 
 CSanZhouRecord::CSanZhouRecord()
     : CSanZhouRow{}
-    , CRecordAccessor(g_pQuery, Columns(), static_cast<CSanZhouRow*>(this), sizeof(CSanZhouRow)) {}
+    , CRecordAccessor(g_pSanZhouQuery, SanZhouColumns(), static_cast<CSanZhouRow*>(this),
+                      sizeof(CSanZhouRow)) {}

@@ -9,7 +9,7 @@ struct CSuiteConnection {
     int m_bOpen = 0;
 };
 
-std::array<CSuiteConnection, 3> s_arConnections;
+std::array<CSuiteConnection, 3> s_arSuiteConnections;
 
 /// The connection text that SuiteDb_Project was opened with last.
 CString s_strProjectConnection;
@@ -17,7 +17,7 @@ CString s_strProjectConnection;
 } // namespace
 
 int EnsureConnection(SuiteDb db) {
-    CSuiteConnection& connection = s_arConnections.at(db);
+    CSuiteConnection& connection = s_arSuiteConnections.at(db);
     if (db == SuiteDb_Project && ConnectionChanged(s_strProjectConnection)) connection.m_bOpen = 0;
     if (connection.m_bOpen) return 1;
     CString strConnection;
@@ -29,12 +29,12 @@ int EnsureConnection(SuiteDb db) {
 }
 
 CADODatabase& SuiteConnection(SuiteDb db) {
-    return s_arConnections.at(db).m_database;
+    return s_arSuiteConnections.at(db).m_database;
 }
 
 void CloseSuiteConnections() {
     for (const SuiteDb db : {SuiteDb_Config, SuiteDb_Common, SuiteDb_Project}) {
-        s_arConnections.at(db).m_bOpen = 0;
-        s_arConnections.at(db).m_database.Close();
+        s_arSuiteConnections.at(db).m_bOpen = 0;
+        s_arSuiteConnections.at(db).m_database.Close();
     }
 }

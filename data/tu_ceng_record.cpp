@@ -2,9 +2,10 @@
 
 namespace {
 
-constexpr const char* g_pQuery = "SELECT GCSY,ZKBH,TCCDSD,TCHD,TCMC FROM z_g_TuCeng WHERE GCSY > -1 and %s;";
+constexpr const char* g_pTuCengQuery =
+    "SELECT GCSY,ZKBH,TCCDSD,TCHD,TCMC FROM z_g_TuCeng WHERE GCSY > -1 and %s;";
 
-std::vector<CColumnBinding> Columns() {
+std::vector<CColumnBinding> TuCengColumns() {
     using Row = CTuCengRow;
     return {
         RecordColumn(1, &Row::m_nGCSY), RecordColumn(2, &Row::m_szZKBH), RecordColumn(3, &Row::m_fTCCDSD),
@@ -16,4 +17,4 @@ std::vector<CColumnBinding> Columns() {
 
 CTuCengRecord::CTuCengRecord()
     : CTuCengRow{}
-    , CRecordAccessor(g_pQuery, Columns(), static_cast<CTuCengRow*>(this), sizeof(CTuCengRow)) {}
+    , CRecordAccessor(g_pTuCengQuery, TuCengColumns(), static_cast<CTuCengRow*>(this), sizeof(CTuCengRow)) {}

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t g_nTextSize = 255;
+constexpr std::size_t g_nLongestValue = 255;
 
 const CString& FileOf(int bProjectFile) {
     return bProjectFile ? g_strProjectIni : g_strSettingsIni;
@@ -44,7 +44,7 @@ int CQMPara::ExchangeString(const CString& strSection, const CString& strKey, co
         WritePrivateProfileStringA(strSection, strKey, *pText, FileOf(bProjectFile));
         return 1;
     }
-    std::array<char, g_nTextSize> szText{};
+    std::array<char, g_nLongestValue> szText{};
     GetPrivateProfileStringA(strSection, strKey, strDefault, szText.data(), szText.size(),
                              FileOf(bProjectFile));
     *pText = szText.data();

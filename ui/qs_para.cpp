@@ -7,15 +7,15 @@
 
 namespace {
 
-constexpr const char* g_pSection = "QSSet";
+constexpr const char* g_pStampSection = "QSSet";
 constexpr const char* g_pDateRole = "日期";
 
 } // namespace
 
 int CQSPara::Exchange(int bLoad) {
     m_bLoad = bLoad;
-    ExchangeInt(g_pSection, "bLB", 0, &m_bLB, 0);
-    ExchangeInt(g_pSection, "bRQNow", 0, &m_bRQNow, 0);
+    ExchangeInt(g_pStampSection, "bLB", 0, &m_bLB, 0);
+    ExchangeInt(g_pStampSection, "bRQNow", 0, &m_bRQNow, 0);
     return 1;
 }
 

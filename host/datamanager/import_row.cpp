@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t g_nLongestText = 255; // bytes, the buffers of the suite
+constexpr std::size_t g_nLongestTextCell = 255; // bytes, the buffers of the suite
 
 /// A character for a message: `"𠀀" (U+20000)`; broken bytes have no form of their own.
 std::string CharacterName(const std::string& strCharacter) {
@@ -31,7 +31,7 @@ std::string TakeText(const std::string& strField, CDbValue* pValue) {
     std::string strRefused;
     if (!Utf8ToGbk(strField, &strText, &strRefused)) return CharacterName(strRefused);
     if (strText.find('\0') != std::string::npos) return "the text holds a zero byte";
-    if (strText.size() > g_nLongestText)
+    if (strText.size() > g_nLongestTextCell)
         return "the text has " + std::to_string(strText.size()) + " bytes in code page 936, more than 255";
     *pValue = std::move(strText);
     return {};

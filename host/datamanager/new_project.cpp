@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t g_nLongestText = 255; // bytes of a text column
+constexpr std::size_t g_nLongestColumn = 255; // bytes of a text column
 
 bool IsControl(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
@@ -36,7 +36,7 @@ void CheckNumber(const std::string& strGCBH) {
 void CheckName(const std::string& strGCMC) {
     if (std::ranges::any_of(strGCMC, IsControl))
         throw CFailure(ExitStatus::Refused, "the name has a control character");
-    if (strGCMC.size() > g_nLongestText)
+    if (strGCMC.size() > g_nLongestColumn)
         throw CFailure(ExitStatus::Refused, "the name has more than 255 bytes in code page 936");
 }
 

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr wchar_t g_chUnknown = 0xFFFD;
 constexpr unsigned g_nCodes = 0x10000;
 
 /// The C library's conversion of single characters.

@@ -6,6 +6,9 @@
 #include <string_view>
 #include <vector>
 
+/// What stands for bytes that are no character.
+constexpr wchar_t g_chUnknown = 0xFFFD;
+
 /// A code page as a table: characters of the basic plane in one or two bytes. Its lower half is ASCII.
 class CCodeTable {
 public:

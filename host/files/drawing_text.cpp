@@ -1,5 +1,6 @@
 #include "host/files/drawing_text.h"
 
+#include "host/files/code_table.h"
 #include "platform/windows/code_page.h"
 
 #include <array>
@@ -7,7 +8,6 @@
 
 namespace {
 
-constexpr wchar_t g_chUnknown = 0xFFFD;
 constexpr int g_nControlOffset = 64;                              // ^A is character 1
 constexpr std::array g_arAsianPages = {932, 950, 949, 1361, 936}; // of \M+1 to \M+5
 constexpr std::size_t g_nUnitLength = 7, g_nPageLength = 8;       // of the two long escapes

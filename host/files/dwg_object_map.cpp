@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t g_nSizeField = 2, g_nSumField = 2;
+constexpr std::size_t g_nMapSizeField = 2, g_nMapSumField = 2;
 constexpr std::size_t g_nFullPage = 2032;   ///< bytes of size and data that no page exceeds
 constexpr std::size_t g_nLongestEntry = 20; ///< of two modular numbers
 
@@ -43,7 +43,7 @@ void ReadPage(CByteView data, CDwgObjectMap& map) {
 /// A page around its entries.
 void WritePage(CBitWriter& section, const CBytes& data) {
     CBitWriter page;
-    page.RSBig(static_cast<std::uint16_t>(g_nSizeField + data.size()));
+    page.RSBig(static_cast<std::uint16_t>(g_nMapSizeField + data.size()));
     page.Raw(data, data.size());
     page.RSBig(DwgCrc(page.Bytes()));
     section.Raw(page.Bytes(), page.Bytes().size());
@@ -57,14 +57,14 @@ CDwgObjectMap ReadDwgObjectMap(CByteView section) {
         CBitReader bits(section);
         std::uint16_t nSize = 0, nSum = 0;
         bits.RSBig(nSize);
-        if (nSize < g_nSizeField || nSize + g_nSumField > section.size())
+        if (nSize < g_nMapSizeField || nSize + g_nMapSumField > section.size())
             Refuse("the section ends within a page.");
         CBitReader end(section.subspan(nSize));
         end.RSBig(nSum);
         if (nSum != DwgCrc(section.first(nSize))) Refuse("the check sum of a page is wrong.");
-        if (nSize == g_nSizeField) return map;
-        ReadPage(section.subspan(g_nSizeField, nSize - g_nSizeField), map);
-        section = section.subspan(nSize + g_nSumField);
+        if (nSize == g_nMapSizeField) return map;
+        ReadPage(section.subspan(g_nMapSizeField, nSize - g_nMapSizeField), map);
+        section = section.subspan(nSize + g_nMapSumField);
     }
 }
 
@@ -73,7 +73,7 @@ CBytes WriteDwgObjectMap(const CDwgObjectMap& map) {
     std::uint64_t nHandle = 0;
     std::int64_t nAddress = 0;
     for (const auto& [nNextHandle, nNextAddress] : map) {
-        if (page.Bytes().size() > g_nFullPage - g_nSizeField - g_nLongestEntry) {
+        if (page.Bytes().size() > g_nFullPage - g_nMapSizeField - g_nLongestEntry) {
             WritePage(section, std::exchange(page, {}).Take());
             nHandle = 0;
             nAddress = 0;

@@ -9,14 +9,14 @@
 
 namespace {
 
-constexpr std::size_t g_nSumField = 2;
+constexpr std::size_t g_nObjectSumField = 2;
 
 /// The object at an address with its size and its check sum, and how many of these bytes the size takes.
 struct CPacked {
     CByteView m_bytes;
     std::size_t m_nSizeField = 0;
     CByteView Content() const {
-        return m_bytes.subspan(m_nSizeField, m_bytes.size() - m_nSizeField - g_nSumField);
+        return m_bytes.subspan(m_nSizeField, m_bytes.size() - m_nSizeField - g_nObjectSumField);
     }
 };
 
@@ -27,10 +27,10 @@ CPacked PackedAt(CByteView file, std::uint64_t nHandle, std::uint32_t nAddress) 
     std::uint16_t nSum = 0;
     bits.MS(nSize);
     const std::size_t nSizeField = bits.At() / 8;
-    if (bits.Failed() || bits.Left() / 8 < nSize + g_nSumField)
+    if (bits.Failed() || bits.Left() / 8 < nSize + g_nObjectSumField)
         RefuseDwgObject(nHandle, "it reaches beyond the end of the file.");
-    const CByteView packed = file.subspan(nAddress, nSizeField + nSize + g_nSumField);
-    CBitReader(packed.last(g_nSumField)).RS(nSum);
+    const CByteView packed = file.subspan(nAddress, nSizeField + nSize + g_nObjectSumField);
+    CBitReader(packed.last(g_nObjectSumField)).RS(nSum);
     if (nSum != DwgCrc(packed.first(nSizeField + nSize))) RefuseDwgObject(nHandle, "the check sum is wrong.");
     return {packed, nSizeField};
 }

@@ -5,11 +5,11 @@
 
 namespace {
 
-constexpr std::array<std::uint8_t, 16> g_startMark = {0xD4, 0x7B, 0x21, 0xCE, 0x28, 0x93, 0x9F, 0xBF,
+constexpr std::array<std::uint8_t, 16> g_secondStartMark = {0xD4, 0x7B, 0x21, 0xCE, 0x28, 0x93, 0x9F, 0xBF,
                                                       0x53, 0x24, 0x40, 0x09, 0x12, 0x3C, 0xAA, 0x01};
-constexpr std::array<std::uint8_t, 16> g_endMark = {0x2B, 0x84, 0xDE, 0x31, 0xD7, 0x6C, 0x60, 0x40,
+constexpr std::array<std::uint8_t, 16> g_secondEndMark = {0x2B, 0x84, 0xDE, 0x31, 0xD7, 0x6C, 0x60, 0x40,
                                                     0xAC, 0xDB, 0xBF, 0xF6, 0xED, 0xC3, 0x55, 0xFE};
-constexpr std::size_t g_nSizeField = 4, g_nSumField = 2;
+constexpr std::size_t g_nSecondSizeField = 4, g_nSecondSumField = 2;
 constexpr std::size_t g_nFiller = 8; ///< bytes of any value behind the sum
 
 void WriteLocators(CBitWriter& bits, const CDwgLocators& locators) {
@@ -72,11 +72,11 @@ CBytes WriteDwgSecondHeader(const CDwgFileHeader& header, const CDwgVariables& v
                             std::uint32_t nAddress) {
     const CBytes content = Content(header, variables, nAddress);
     CBitWriter bits;
-    bits.Raw(g_startMark, g_startMark.size());
-    bits.RL(static_cast<std::uint32_t>(g_nSizeField + content.size() + g_nSumField + g_nFiller));
+    bits.Raw(g_secondStartMark, g_secondStartMark.size());
+    bits.RL(static_cast<std::uint32_t>(g_nSecondSizeField + content.size() + g_nSecondSumField + g_nFiller));
     bits.Raw(content, content.size());
-    bits.RS(DwgCrc(CByteView(bits.Bytes()).subspan(g_startMark.size())));
+    bits.RS(DwgCrc(CByteView(bits.Bytes()).subspan(g_secondStartMark.size())));
     bits.Raw(CBytes(g_nFiller), g_nFiller);
-    bits.Raw(g_endMark, g_endMark.size());
+    bits.Raw(g_secondEndMark, g_secondEndMark.size());
     return bits.Take();
 }

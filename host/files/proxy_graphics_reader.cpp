@@ -6,11 +6,9 @@
 #include "platform/windows/code_page.h"
 
 #include <algorithm>
-#include <numbers>
 
 namespace {
 
-constexpr double g_dFullTurn = 2.0 * std::numbers::pi;
 constexpr double g_dUsualTracking = 100.0;
 constexpr std::string_view g_szUsualFont = "txt";
 

@@ -1,16 +1,14 @@
 #include "host/files/pline_pieces.h"
 #include "host/files/proxy_chunks.h"
 #include "host/files/proxy_graphics.h"
+#include "host/files/three_point_arc.h"
 #include "platform/acad/wide_names.h"
 #include "platform/windows/code_page.h"
 
 #include <algorithm>
 #include <limits>
-#include <numbers>
 
 namespace {
-
-constexpr double g_dFullTurn = 2.0 * std::numbers::pi;
 
 /// How many chords stand for a cubic piece, by how fast its direction can change.
 int ChordsOf(const CBezier& piece) {

@@ -1,7 +1,5 @@
 #include "host/files/three_point_arc.h"
 
-#include <numbers>
-
 std::optional<CArcPrimitive> ArcThrough(const AcGePoint3d& first, const AcGePoint3d& second,
                                         const AcGePoint3d& third) {
     const AcGeVector3d toSecond = second - first, toThird = third - first;
@@ -17,7 +15,7 @@ std::optional<CArcPrimitive> ArcThrough(const AcGePoint3d& first, const AcGePoin
     arc.m_vecStart = (-toCenter).normal();
     const AcGeVector3d side = arc.m_vecNormal.crossProduct(arc.m_vecStart), end = third - arc.m_ptCenter;
     arc.m_dSweep = std::atan2(end.dotProduct(side), end.dotProduct(arc.m_vecStart));
-    if (arc.m_dSweep <= 0.0) arc.m_dSweep += 2.0 * std::numbers::pi;
+    if (arc.m_dSweep <= 0.0) arc.m_dSweep += g_dFullTurn;
     if (!std::isfinite(arc.m_dRadius) || !std::isfinite(arc.m_dSweep)) return {};
     return arc;
 }

@@ -2,7 +2,11 @@
 
 #include "platform/acad/display_list.h"
 
+#include <numbers>
 #include <optional>
+
+/// The sweep of an arc that is a circle, radians.
+constexpr double g_dFullTurn = 2.0 * std::numbers::pi;
 
 /// The arc from the first point through the second one to the third; nothing for points in a line, and for
 /// points so far off that there is no finite circle.

@@ -10,16 +10,11 @@ namespace {
 
 constexpr double g_dQuarter = std::numbers::pi / 2.0;
 
-/// Half of a width; one that is not set or no number draws a thin line.
-double Half(double width) {
-    return width > 0.0 ? width / 2.0 : 0.0;
-}
-
 void AddStraight(AcDbExtents& box, const CPolylineVertex& from, const CPolylineVertex& to) {
     const double dx = to.m_pt.x - from.m_pt.x, dy = to.m_pt.y - from.m_pt.y, length = std::hypot(dx, dy);
     const double nx = length > 0.0 ? -dy / length : 0.0, ny = length > 0.0 ? dx / length : 0.0;
     for (const double side : {-1.0, 1.0}) {
-        const double start = side * Half(from.m_dStartWidth), end = side * Half(from.m_dEndWidth);
+        const double start = side * HalfWidth(from.m_dStartWidth), end = side * HalfWidth(from.m_dEndWidth);
         box.addPoint({from.m_pt.x + nx * start, from.m_pt.y + ny * start, 0.0});
         box.addPoint({to.m_pt.x + nx * end, to.m_pt.y + ny * end, 0.0});
     }
@@ -28,7 +23,7 @@ void AddStraight(AcDbExtents& box, const CPolylineVertex& from, const CPolylineV
 /// Both edges of the band at a place (0 to 1) of the arc.
 void AddBandAt(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& from, double place) {
     const double angle = arc.m_dStart + arc.m_dSweep * place;
-    const double start = Half(from.m_dStartWidth), end = Half(from.m_dEndWidth);
+    const double start = HalfWidth(from.m_dStartWidth), end = HalfWidth(from.m_dEndWidth);
     const double half = start + (end - start) * place;
     for (const double radius : {arc.m_dRadius - half, arc.m_dRadius + half})
         box.addPoint(
@@ -41,7 +36,7 @@ void AddBulged(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& fr
     for (int quarter = 0; quarter < 4; ++quarter)
         if (const auto place = PlaceInSweep(quarter * g_dQuarter, arc.m_dStart, arc.m_dSweep))
             AddBandAt(box, arc, from, *place);
-    if (Half(from.m_dStartWidth) == Half(from.m_dEndWidth)) return;
+    if (HalfWidth(from.m_dStartWidth) == HalfWidth(from.m_dEndWidth)) return;
     constexpr int steps = 64; // a tapering band bulges beside the quarters
     for (int step = 1; step < steps; ++step)
         AddBandAt(box, arc, from, static_cast<double>(step) / steps);
@@ -115,6 +110,10 @@ void Add(AcDbExtents& box, const CSplinePrimitive& shape) {
 }
 
 } // namespace
+
+double HalfWidth(double width) {
+    return width > 0.0 ? width / 2.0 : 0.0;
+}
 
 CArcFrame::CArcFrame(const CArcPrimitive& arc)
     : m_ptCenter(arc.m_ptCenter)

@@ -70,6 +70,9 @@ struct CPrimitive {
 
 using CDisplayList = std::vector<CPrimitive>;
 
+/// Half of a line's width; 0, a thin line, for one that is not set or no number.
+double HalfWidth(double width);
+
 /// The box of all primitives; line widths count, coordinates that are no finite number don't.
 AcDbExtents ExtentsOf(const CDisplayList& list);
 

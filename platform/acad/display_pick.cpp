@@ -40,10 +40,6 @@ private:
     }
 };
 
-double Half(double width) {
-    return width > 0.0 ? width / 2.0 : 0.0;
-}
-
 bool IsNear(const CPick& pick, const std::vector<CSegment>& segments) {
     return std::any_of(segments.begin(), segments.end(), [&pick](const CSegment& segment) {
         return pick.Near(segment.m_ptFrom, segment.m_ptTo);
@@ -61,7 +57,7 @@ bool IsNear(const CPick& pick, const CPlinePrimitive& shape) {
     if (count == 1) return pick.Near(shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt);
     for (std::size_t i = 0; i < (shape.m_bClosed ? count : std::max<std::size_t>(count, 1) - 1); ++i) {
         const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.m_arVertices[(i + 1) % count];
-        const double start = Half(from.m_dStartWidth), end = Half(from.m_dEndWidth);
+        const double start = HalfWidth(from.m_dStartWidth), end = HalfWidth(from.m_dEndWidth);
         const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge);
         if (arc ? pick.NearArc(*arc, start, end) : pick.Near(from.m_pt, to.m_pt, start, end)) return true;
     }

@@ -165,6 +165,11 @@ std::string GbkFromWide(std::wstring_view wide) {
     return result;
 }
 
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 int GbkCharLength(const char* text) {
     return IsLead(static_cast<unsigned char>(text[0])) && IsTrail(static_cast<unsigned char>(text[1])) ? 2
                                                                                                        : 1;

@@ -30,6 +30,9 @@ std::wstring WideFromGbk(std::string_view gbk);
 /// Wide text in the code page; a character that is not in it becomes '?'.
 std::string GbkFromWide(std::wstring_view wide);
 
+/// True for text of one-byte characters alone, the same bytes in either code.
+bool IsAscii(std::string_view text);
+
 /// Bytes of the character at text (a zero ends the text): 2 for a lead byte with its trail byte, else 1.
 int GbkCharLength(const char* text);
 

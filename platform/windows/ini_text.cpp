@@ -23,11 +23,6 @@ std::string_view WithoutQuotes(std::string_view text) {
     return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
 /// True for text beyond ASCII that is UTF-8 with no two-byte character (those are how GBK text comes to look
 /// so).
 bool LooksLikeUtf8(std::string_view bytes) {

@@ -64,11 +64,6 @@ bool StepInto(const std::string& name, const std::string& utf8Name, std::string*
     return false;
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
 } // namespace
 
 bool ResolvePath(std::string_view base, std::string_view path, std::string* utf8) {

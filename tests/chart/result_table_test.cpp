@@ -9,7 +9,7 @@
 #include <algorithm>
 
 namespace {
-void Prepare(CBRENChart& chart, const char* pMethod) {
+void PrepareResults(CBRENChart& chart, const char* pMethod) {
     chart.m_strSYFF = pMethod;
     chart.m_strWater = "20.9";
     chart.m_strPlasticity = "17";
@@ -49,7 +49,7 @@ using CTexts = std::vector<std::string>;
 TEST(ResultTable, ListsIndexValuesAndStrengthsAtEachDrawing) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
+    PrepareResults(chart, g_pMethodUU);
     chart.m_saCells.Add("of an earlier drawing");
     DrawEntity(chart);
     EXPECT_EQ(Cells(chart), (CTexts{"20.9", "17", "0.3", "25.0", "45.0"}));
@@ -61,7 +61,7 @@ TEST(ResultTable, ListsIndexValuesAndStrengthsAtEachDrawing) {
 TEST(ResultTable, ListsTheEffectiveStrengthsOfAnUndrainedTest) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodCU);
+    PrepareResults(chart, g_pMethodCU);
     DrawEntity(chart);
     EXPECT_EQ(Cells(chart), (CTexts{"20.9", "17", "0.3", "25.0", "45.0", "10.0", "0.0"}));
 }
@@ -69,7 +69,7 @@ TEST(ResultTable, ListsTheEffectiveStrengthsOfAnUndrainedTest) {
 TEST(ResultTable, LeavesItsLastFourCellsEmptyWithoutAnEnvelope) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodCU);
+    PrepareResults(chart, g_pMethodCU);
     chart.m_bNoEnvelope = 1;
     const auto texts = Shapes<CTextPrimitive>(DrawEntity(chart));
     EXPECT_EQ(Cells(chart), (CTexts{"20.9", "17", "0.3"}));
@@ -82,7 +82,7 @@ TEST(ResultTable, LeavesItsLastFourCellsEmptyWithoutAnEnvelope) {
 TEST(ResultTable, ShowsTheStoredValuesOfAChartExplodedBeforeItWasDrawn) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
+    PrepareResults(chart, g_pMethodUU);
     chart.m_saCells.Add("as stored");
     CBRENChart loaded;
     Reload(chart, loaded);
@@ -95,7 +95,7 @@ TEST(ResultTable, ShowsTheStoredValuesOfAChartExplodedBeforeItWasDrawn) {
 TEST(ResultTable, OfAReloadedChartShowsTheValuesOfItsLineAgain) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
+    PrepareResults(chart, g_pMethodUU);
     chart.m_bNoEnvelope = 1;
     chart.m_ptEnvStart.y = chart.m_ptEnvEnd.y = 0.0; // where the line of too few circles lies
     DrawEntity(chart);
@@ -109,7 +109,7 @@ TEST(ResultTable, OfAReloadedChartShowsTheValuesOfItsLineAgain) {
 TEST(ResultTable, IsRebuiltByADrawingOnly) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
+    PrepareResults(chart, g_pMethodUU);
     DrawEntity(chart, true);
     Exploded(chart);
     EXPECT_TRUE(Cells(chart).empty());

@@ -7,27 +7,27 @@
 #include <limits>
 
 namespace {
-constexpr double g_x = 300.0, g_y = 100.0;
+constexpr double g_xSummary = 300.0, g_ySummary = 100.0;
 
-void Prepare(CBRENChart& chart, const char* pMethod) {
+void PrepareSummary(CBRENChart& chart, const char* pMethod) {
     chart.m_strSYFF = pMethod;
     chart.m_strSoilName = "粘土";
-    chart.m_ptSummaryOrigin.set(g_x, g_y, 0.0);
+    chart.m_ptSummaryOrigin.set(g_xSummary, g_ySummary, 0.0);
     for (const char* pCell : {"20.9", "17", "0.3"})
         chart.m_saCells.Add(pCell);
 }
 
-CSeenTable World(const CBRENChart& chart) {
+CSeenTable SummaryInWorld(const CBRENChart& chart) {
     return SeenInWorldForm(&DescribeSummaryTable, chart);
 }
-CSeenTable Explode(const CBRENChart& chart) {
+CSeenTable SummaryExploded(const CBRENChart& chart) {
     return SeenInExplodeForm(&DescribeSummaryTable, chart);
 }
 
 /// A text of the table's row in a cell that begins at x.
 CSeenText Cell(const char* pText, int nRow, double x, double dTextHeight, double dSize, double dMeasured) {
-    return {pText, CentredAt(g_x + x, 15.0, pText, dMeasured), g_y - 8.0 * nRow - 4.0 - dTextHeight / 2.0,
-            dSize};
+    return {pText, CentredAt(g_xSummary + x, 15.0, pText, dMeasured),
+            g_ySummary - 8.0 * nRow - 4.0 - dTextHeight / 2.0, dSize};
 }
 
 const char* const g_arTitles[] = {"土的名称", "含水量(%)", "塑性指数", "液性指数", "c(kPa)", "φ(°)"};
@@ -36,16 +36,17 @@ const char* const g_arTitles[] = {"土的名称", "含水量(%)", "塑性指数"
 TEST(SummaryTable, HasSixRowsOfTwoColumns) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
-    for (const CSeenTable& seen : {World(chart), Explode(chart)}) {
+    PrepareSummary(chart, g_pMethodUU);
+    for (const CSeenTable& seen : {SummaryInWorld(chart), SummaryExploded(chart)}) {
         std::vector<CSeenLine> expected;
         for (int i = 0; i <= 6; i++) {
-            const double dOverrun = i == 0 || i == 6 ? 0.25 : 0.0, y = g_y - 8.0 * i;
-            expected.push_back({g_x - 5.0 - dOverrun, y, g_x + 30.0 + dOverrun, y, 2.0 * dOverrun});
+            const double dOverrun = i == 0 || i == 6 ? 0.25 : 0.0, y = g_ySummary - 8.0 * i;
+            expected.push_back(
+                {g_xSummary - 5.0 - dOverrun, y, g_xSummary + 30.0 + dOverrun, y, 2.0 * dOverrun});
         }
-        expected.push_back({g_x - 5.0, g_y, g_x - 5.0, g_y - 48.0, 0.5});
-        expected.push_back({g_x + 15.0, g_y, g_x + 15.0, g_y - 48.0, 0.0});
-        expected.push_back({g_x + 30.0, g_y, g_x + 30.0, g_y - 48.0, 0.5});
+        expected.push_back({g_xSummary - 5.0, g_ySummary, g_xSummary - 5.0, g_ySummary - 48.0, 0.5});
+        expected.push_back({g_xSummary + 15.0, g_ySummary, g_xSummary + 15.0, g_ySummary - 48.0, 0.0});
+        expected.push_back({g_xSummary + 30.0, g_ySummary, g_xSummary + 30.0, g_ySummary - 48.0, 0.5});
         EXPECT_EQ(seen.m_arLines, expected);
     }
 }
@@ -53,20 +54,22 @@ TEST(SummaryTable, HasSixRowsOfTwoColumns) {
 TEST(SummaryTable, ListsItsValuesFromTheSecondRowOn) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
-    EXPECT_EQ(Texts(World(chart), 0, 3), (std::vector<CSeenText>{Cell("20.9", 1, 13.0, 2.5, 2.5, 2.5),
-                                                                 Cell("17", 2, 13.0, 2.5, 2.5, 2.5),
-                                                                 Cell("0.3", 3, 13.0, 2.5, 2.5, 2.5)}));
-    EXPECT_EQ(Texts(Explode(chart), 0, 3), (std::vector<CSeenText>{Cell("20.9", 1, 13.0, 3.0, 3.0, 3.0),
-                                                                   Cell("17", 2, 13.0, 3.0, 3.0, 3.0),
-                                                                   Cell("0.3", 3, 13.0, 3.0, 3.0, 3.0)}));
+    PrepareSummary(chart, g_pMethodUU);
+    EXPECT_EQ(
+        Texts(SummaryInWorld(chart), 0, 3),
+        (std::vector<CSeenText>{Cell("20.9", 1, 13.0, 2.5, 2.5, 2.5), Cell("17", 2, 13.0, 2.5, 2.5, 2.5),
+                                Cell("0.3", 3, 13.0, 2.5, 2.5, 2.5)}));
+    EXPECT_EQ(
+        Texts(SummaryExploded(chart), 0, 3),
+        (std::vector<CSeenText>{Cell("20.9", 1, 13.0, 3.0, 3.0, 3.0), Cell("17", 2, 13.0, 3.0, 3.0, 3.0),
+                                Cell("0.3", 3, 13.0, 3.0, 3.0, 3.0)}));
 }
 
 TEST(SummaryTable, TitlesItsRowsAndNamesTheSoilLast) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodCD);
-    const CSeenTable world = World(chart), exploded = Explode(chart);
+    PrepareSummary(chart, g_pMethodCD);
+    const CSeenTable world = SummaryInWorld(chart), exploded = SummaryExploded(chart);
     ASSERT_EQ(world.m_arTexts.size(), 3U + 6U + 1U) << "ends at φ";
     ASSERT_EQ(exploded.m_arTexts.size(), 10U);
     for (int i = 0; i < 6; i++) {
@@ -81,10 +84,10 @@ TEST(SummaryTable, TitlesItsRowsAndNamesTheSoilLast) {
 TEST(SummaryTable, OfAnUndrainedTestHasTwoMoreRows) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodCU);
-    const CSeenTable world = World(chart), exploded = Explode(chart);
+    PrepareSummary(chart, g_pMethodCU);
+    const CSeenTable world = SummaryInWorld(chart), exploded = SummaryExploded(chart);
     EXPECT_EQ(world.m_arLines.size(), 9U + 3U);
-    EXPECT_EQ(world.m_arLines.back().y2, g_y - 64.0);
+    EXPECT_EQ(world.m_arLines.back().y2, g_ySummary - 64.0);
     // Their texts are 2.5 high; in the world form they are set as if they were 3.8.
     EXPECT_EQ(Texts(world, 9, 2), (std::vector<CSeenText>{Cell("c'(kPa)", 6, -5.0, 3.8, 2.5, 2.5),
                                                           Cell("φ'(°)", 7, -5.0, 3.8, 2.5, 2.5)}));
@@ -95,8 +98,8 @@ TEST(SummaryTable, OfAnUndrainedTestHasTwoMoreRows) {
 TEST(SummaryTable, WithoutAPlaceIsLeftOut) {
     const CTestDrawing drawing;
     CBRENChart chart;
-    Prepare(chart, g_pMethodUU);
+    PrepareSummary(chart, g_pMethodUU);
     chart.m_ptSummaryOrigin.y = std::numeric_limits<double>::infinity();
-    EXPECT_TRUE(World(chart).m_arTexts.empty());
-    EXPECT_TRUE(Explode(chart).m_arLines.empty());
+    EXPECT_TRUE(SummaryInWorld(chart).m_arTexts.empty());
+    EXPECT_TRUE(SummaryExploded(chart).m_arLines.empty());
 }

@@ -23,7 +23,7 @@ protected:
     AcDbObjectId m_idStyle;
 };
 
-std::vector<double> Widths(const AcDbPolyline& line) {
+std::vector<double> WidthsOfVertices(const AcDbPolyline& line) {
     std::vector<double> widths;
     for (const CPolylineVertex& vertex : line.Vertices()) {
         widths.push_back(vertex.m_dStartWidth);
@@ -42,10 +42,10 @@ TEST_F(ExplodeSink, MakesLinesOfEachKind) {
     });
     const auto lines = Parts<AcDbPolyline>(entities);
     ASSERT_EQ(lines.size(), 4U);
-    EXPECT_EQ(Widths(*lines[0]), (std::vector<double>{-1, -1, -1, -1}));
-    EXPECT_EQ(Widths(*lines[1]), (std::vector<double>{-1, -1, -1, -1}));
-    EXPECT_EQ(Widths(*lines[2]), (std::vector<double>{0, 0, 0, 0}));
-    EXPECT_EQ(Widths(*lines[3]), (std::vector<double>{1, 0, -1, -1}));
+    EXPECT_EQ(WidthsOfVertices(*lines[0]), (std::vector<double>{-1, -1, -1, -1}));
+    EXPECT_EQ(WidthsOfVertices(*lines[1]), (std::vector<double>{-1, -1, -1, -1}));
+    EXPECT_EQ(WidthsOfVertices(*lines[2]), (std::vector<double>{0, 0, 0, 0}));
+    EXPECT_EQ(WidthsOfVertices(*lines[3]), (std::vector<double>{1, 0, -1, -1}));
     for (const AcDbPolyline* pLine : lines)
         EXPECT_EQ(pLine->colorIndex(), 256) << "none of its own";
 }

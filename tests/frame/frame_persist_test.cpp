@@ -7,7 +7,7 @@
 namespace {
 
 /// A frame whose every field differs from its default, numbered in the order of the record.
-void Fill(CBRENFrame& frame) {
+void FillWithNumbers(CBRENFrame& frame) {
     frame.m_ptBase.set(1, -1, 0.5);
     frame.m_vecGripOffset.set(9, 9, 9);
     frame.m_dTextHeight = 2;
@@ -54,7 +54,7 @@ void Read(CBRENFrame& frame, const CDbRecord& record) {
 
 TEST(FrameRecord, HoldsItsValuesInThisOrder) {
     CBRENFrame frame;
-    Fill(frame);
+    FillWithNumbers(frame);
     const std::vector<std::string> expected = {
         "Point3d 1",  "Double 2",   "Double 3",   "Int16 4",    "Int16 5",     "Int16 6",     "Int16 7",
         "Int32 8",    "Int16 9",    "String 10",  "String 11",  "String 十二", "String 13",   "String 14",
@@ -65,7 +65,7 @@ TEST(FrameRecord, HoldsItsValuesInThisOrder) {
 
 TEST(FrameRecord, BringsEveryFieldBackButTheGripOffset) {
     CBRENFrame frame;
-    Fill(frame);
+    FillWithNumbers(frame);
     CBRENFrame copy;
     Read(copy, RecordOf(frame, AcDb::kCopyFiler));
     EXPECT_EQ(Words(copy), Words(frame));
@@ -76,11 +76,11 @@ TEST(FrameRecord, BringsEveryFieldBackButTheGripOffset) {
 TEST(FrameRecord, OfAStandardThatDrawsLittleKeepsEveryFieldAsItIs) {
     CBRENFrame untouched, copy;
     untouched.m_nGCBZ = 2;
-    Fill(copy);
+    FillWithNumbers(copy);
     Read(copy, RecordOf(untouched, AcDb::kCopyFiler));
     EXPECT_EQ(Words(copy), Words(untouched)) << "fields that nobody set too";
     CBRENFrame filled;
-    Fill(filled);
+    FillWithNumbers(filled);
     filled.m_nGCBZ = 2;
     Read(copy, RecordOf(filled, AcDb::kCopyFiler));
     EXPECT_EQ(Words(copy), Words(filled));
@@ -101,7 +101,7 @@ TEST(FrameRecord, TakesATextOfNinetyNineBytesAndCutsALongerOneAtACharacter) {
 
 TEST(FrameRecord, EndsWithTheStatusOfTheEntitysPart) {
     CBRENFrame frame;
-    Fill(frame);
+    FillWithNumbers(frame);
     CDbRecord part = RecordOf(frame, AcDb::kCopyFiler);
     part.m_arBytes.resize(3);
     CRecordReader reader(AcDb::kCopyFiler, part);
@@ -113,7 +113,7 @@ TEST(FrameRecord, EndsWithTheStatusOfTheEntitysPart) {
 
 TEST(FrameRecord, ThatIsCutOffLaterLeavesItsTraceWithTheFiler) {
     CBRENFrame frame;
-    Fill(frame);
+    FillWithNumbers(frame);
     CDbRecord part = RecordOf(frame, AcDb::kCopyFiler);
     part.m_arBytes.resize(part.m_arBytes.size() - 1);
     CRecordReader reader(AcDb::kCopyFiler, part);

@@ -55,7 +55,7 @@ Notes TextsOf(const CBRENFrame& frame, const CFrameForm& form = g_frameWorldForm
     return notes.m_arNotes;
 }
 
-void Fill(CBRENFrame& frame) {
+void FillForPicture(CBRENFrame& frame) {
     frame.m_ptBase.set(1000.0, 2000.0, 0.0);
     frame.m_strGCBH = "GC-1";
     frame.m_strGCMC = "地铁";
@@ -88,7 +88,7 @@ TEST(FramePicture, HasTheSheetsRectangleAndARuleBelowItsTop) {
 
 TEST(FramePicture, HasHeadingProjectLinesAndSignatureLine) {
     CBRENFrame frame;
-    Fill(frame);
+    FillForPicture(frame);
     EXPECT_EQ(TextsOf(frame), (Notes{"cell 三轴剪切试验成果图表 2.5 at 1000,2010 176x10 for 8",
                                      "工程编号 3.8 at 1002,1994.3",
                                      ": 3.8 at 1013,1994.3",
@@ -128,7 +128,7 @@ TEST(FramePicture, HasHeadingProjectLinesAndSignatureLine) {
 
 TEST(FramePicture, OfTheStandardWithAStripIsTheThreeRowsBesideIt) {
     CBRENFrame frame;
-    Fill(frame);
+    FillForPicture(frame);
     frame.m_nGCBZ = 2;
     EXPECT_TRUE(LinesOf(frame).empty());
     const Notes notes = TextsOf(frame);
@@ -141,7 +141,7 @@ TEST(FramePicture, OfTheStandardWithAStripIsTheThreeRowsBesideIt) {
 
 TEST(FramePicture, LosesANameButNotItsLabelAndRuleWithItsFlag) {
     CBRENFrame frame;
-    Fill(frame);
+    FillForPicture(frame);
     frame.m_bWCDW = frame.m_bSYZ = frame.m_bJCZ = frame.m_bRQ = 0;
     const Notes notes = TextsOf(frame);
     for (const char* pGone : {"勘察院", "张三", "李四", "2024"})
@@ -156,7 +156,7 @@ TEST(FramePicture, LosesANameButNotItsLabelAndRuleWithItsFlag) {
 
 TEST(FramePicture, WritesADateOfZeroInTheExplodedFormOnly) {
     CBRENFrame frame;
-    Fill(frame);
+    FillForPicture(frame);
     const Notes dated = TextsOf(frame);
     EXPECT_EQ(TextsOf(frame, g_frameExplodeForm), dated);
     frame.m_nYear = frame.m_nMonth = frame.m_nDay = 0;

@@ -132,3 +132,10 @@ std::string Classes(const CJson& entities) {
     }
     return strClasses;
 }
+
+CSamples SamplesOfBorehole(int nCount) {
+    CSamples samples;
+    for (int i = 1; i <= nCount; ++i)
+        samples.push_back({"1", "1-" + std::to_string(i)});
+    return samples;
+}

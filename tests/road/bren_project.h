@@ -40,6 +40,9 @@ struct CImportRows {
 };
 /// The rows of samples, each borehole in one layer.
 CImportRows RowsOf(const CSamples& samples);
+
+/// So many samples of borehole 1, numbered 1-1, 1-2, ...
+CSamples SamplesOfBorehole(int nCount);
 CImportRows RowsOf(const CMeasuredSamples& samples);
 /// Writes samples.csv, layers.csv and readings.csv of the rows.
 void WriteImportFiles(const CTempFolder& folder, const CImportRows& rows);

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 namespace {
-const std::string g_strQuestion =
+const std::string g_strDocumentsQuestion =
     Utf8(u8"[Tervo] 现在AutoCAD已经打开了多个文档,\\n\\n本命令只允许在打开一个文档的条件下使用.\\n\\n "
          u8"点击\"是\"程序自动关闭打开的文档,继续执行命令。\\n\\n点击\"否\"取消本命令\n");
 const std::string g_strStillOpen = Utf8(u8"\n文档无法自动关闭,请使用sdi命令设置成单位档模式来执行本命令.\n");
@@ -56,15 +56,15 @@ TEST_F(DocumentSessionRoad, TakesTheModeOfTheSettings) {
 
 TEST_F(DocumentSessionRoad, GoesOverToASingleDocument) {
     EXPECT_EQ(Run("ENSURESINGLE\nSETVAR SDI\n"), "\nresult 1\n1\n");
-    EXPECT_EQ(Run("NEW\nENSURESINGLE\nno\nSETVAR SDI\n"), g_strQuestion + "\nresult 0\n0\n");
+    EXPECT_EQ(Run("NEW\nENSURESINGLE\nno\nSETVAR SDI\n"), g_strDocumentsQuestion + "\nresult 0\n0\n");
 }
 
 TEST_F(DocumentSessionRoad, ClosesTheOtherDocumentsAndAsksForAChangedOne) {
     const std::string strChanged = "LINE 0,0 1,1\nNEW\nNEW\nACTIVATE 2\nENSURESINGLE\nyes\n";
     EXPECT_EQ(Run(strChanged + "no\nDOCUMENTS\nENSURESINGLE\nSETVAR SDI\n"),
-              g_strQuestion + g_strStillOpen + "\nresult 0\n1 * Drawing2\n\nresult 1\n1\n");
+              g_strDocumentsQuestion + g_strStillOpen + "\nresult 0\n1 * Drawing2\n\nresult 1\n1\n");
     EXPECT_EQ(Run(strChanged + "cancel\nDOCUMENTS\n"),
-              g_strQuestion + g_strStillOpen + "\nresult 0\n1 * Drawing1 (changed)\n2   Drawing2\n");
+              g_strDocumentsQuestion + g_strStillOpen + "\nresult 0\n1 * Drawing1 (changed)\n2   Drawing2\n");
 }
 
 TEST_F(DocumentSessionRoad, TypesACommandBehindAnEscape) {

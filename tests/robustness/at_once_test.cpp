@@ -5,16 +5,9 @@
 #include <gtest/gtest.h>
 
 namespace {
-constexpr int g_nSamples = 20;
+constexpr int g_nSamplesAtOnce = 20;
 constexpr int g_nImports = 15;
-constexpr int g_nSaves = 15;
-
-CSamples ManySamples() {
-    CSamples samples;
-    for (int i = 1; i <= g_nSamples; ++i)
-        samples.push_back({"1", "1-" + std::to_string(i)});
-    return samples;
-}
+constexpr int g_nSavesAtOnce = 15;
 
 class AtOnce : public testing::Test {
 protected:
@@ -24,7 +17,7 @@ protected:
     }
     const CTempFolder& Folder() const { return m_project.m_program.Folder(); }
 
-    const CBrenProject m_project{ManySamples()};
+    const CBrenProject m_project{SamplesOfBorehole(g_nSamplesAtOnce)};
 };
 } // namespace
 
@@ -43,7 +36,7 @@ TEST_F(AtOnce, ImportsAndStoresLoseNothingOfEachOther) {
     EXPECT_EQ(run.m_strOut.find("not stored"), std::string::npos) << run.m_strOut;
     EXPECT_EQ(Folder().Read("imports").find("failed"), std::string::npos) << Folder().Read("imports");
     EXPECT_EQ(m_project.Sql("SELECT COUNT(*) FROM z_c_SanZhou WHERE UUC IS NOT NULL"),
-              std::to_string(g_nSamples) + "\n");
+              std::to_string(g_nSamplesAtOnce) + "\n");
     EXPECT_EQ(m_project.Sql("SELECT COUNT(*) FROM z_g_TuCeng WHERE ZKBH LIKE 'L%'"),
               std::to_string(g_nImports) + "\n");
 }
@@ -53,7 +46,7 @@ TEST_F(AtOnce, SavesOfOnePathLeaveADrawingOfOneOfThem) {
         const std::string strFile = Folder().Path("shared") + pEnding;
         const auto script = [&](const std::string& strText) {
             std::string strLines = "TEXT 0,0 5 " + strText + "\n";
-            for (int i = 0; i < g_nSaves; ++i)
+            for (int i = 0; i < g_nSavesAtOnce; ++i)
                 strLines += "SAVEAS " + strFile + "\n";
             return Tvcad(strText + ".scr", strLines);
         };

@@ -37,13 +37,6 @@ CImportRows LargeRows() {
     return rows;
 }
 
-CSamples ManySamples() {
-    CSamples samples;
-    for (int i = 1; i <= g_nSamples; ++i)
-        samples.push_back({"1", "1-" + std::to_string(i)});
-    return samples;
-}
-
 class Kill : public testing::Test {
 protected:
     const CBrenProject& Project() const { return *m_pProject; }
@@ -94,7 +87,7 @@ TEST_F(Kill, DuringAnImportLeavesAllOfItOrNothing) {
 }
 
 TEST_F(Kill, DuringStoresLeavesEachRowAsItWasOrAsStored) {
-    MakeProject(ManySamples());
+    MakeProject(SamplesOfBorehole(g_nSamples));
     const std::string strScript =
         Project().m_program.Folder().Write("store.scr", "BREN\ncheck 1063\nok\n0,0\n");
     const std::string strRows =

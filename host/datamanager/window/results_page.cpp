@@ -17,7 +17,7 @@
 namespace {
 
 /// What the columns hold, in the order of ResultColumns().
-constexpr std::array<const char16_t*, 12> g_arMeanings = {
+constexpr std::array<const char16_t*, 12> g_arResultMeanings = {
     u"Borehole",
     u"Sample",
     u"Test method",
@@ -37,8 +37,8 @@ constexpr std::size_t g_nTexts = 4; // columns before the first number
 
 CResultsPage::CResultsPage(CWorker& worker)
     : m_worker(worker)
-    , m_pTable(
-          new CTextTableView(u"Results"_qs, FieldColumns(ResultColumns(), g_arMeanings, g_nTexts), true)) {
+    , m_pTable(new CTextTableView(u"Results"_qs, FieldColumns(ResultColumns(), g_arResultMeanings, g_nTexts),
+                                  true)) {
     auto* pButtons = new QHBoxLayout;
     pButtons->addStretch();
     pButtons->addWidget(m_pCopy);

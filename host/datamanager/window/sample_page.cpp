@@ -10,19 +10,20 @@
 namespace {
 
 /// What the columns hold, in the order of ReadingColumns().
-constexpr std::array<const char16_t*, 13> g_arMeanings = {u"Specimen",
-                                                          u"Running number of the reading",
-                                                          u"Cell pressure, kPa",
-                                                          u"Height of the specimen, mm",
-                                                          u"Diameter of the specimen, mm",
-                                                          u"Coefficient of the proving ring, N a dial unit",
-                                                          u"Pore pressure under the cell pressure, kPa",
-                                                          u"Reading of the proving ring, dial units",
-                                                          u"Axial deformation, 0.01 mm",
-                                                          u"Water drained during shear, cm³",
-                                                          u"Pore pressure during shear, kPa",
-                                                          u"Water drained in consolidation, cm³",
-                                                          u"0 point of the curve, 1 failure state, 2 both"};
+constexpr std::array<const char16_t*, 13> g_arReadingMeanings = {
+    u"Specimen",
+    u"Running number of the reading",
+    u"Cell pressure, kPa",
+    u"Height of the specimen, mm",
+    u"Diameter of the specimen, mm",
+    u"Coefficient of the proving ring, N a dial unit",
+    u"Pore pressure under the cell pressure, kPa",
+    u"Reading of the proving ring, dial units",
+    u"Axial deformation, 0.01 mm",
+    u"Water drained during shear, cm³",
+    u"Pore pressure during shear, kPa",
+    u"Water drained in consolidation, cm³",
+    u"0 point of the curve, 1 failure state, 2 both"};
 
 /// Why there is nothing to plot.
 QString WithoutText(const CSampleReadings& readings, CTestMethod method) {
@@ -35,7 +36,8 @@ QString WithoutText(const CSampleReadings& readings, CTestMethod method) {
 } // namespace
 
 CSamplePage::CSamplePage()
-    : m_pTable(new CTextTableView(u"Readings"_qs, FieldColumns(ReadingColumns(), g_arMeanings, 0), true)) {
+    : m_pTable(
+          new CTextTableView(u"Readings"_qs, FieldColumns(ReadingColumns(), g_arReadingMeanings, 0), true)) {
     auto* pSplitter = new QSplitter(Qt::Vertical);
     pSplitter->setChildrenCollapsible(false);
     pSplitter->addWidget(m_pPlot);

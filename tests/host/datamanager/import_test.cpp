@@ -13,7 +13,7 @@
 
 namespace {
 
-const std::string g_strReadingHeader =
+const std::string g_strReadingColumns =
     "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n";
 
 class Import : public testing::TestWithParam<TestEngine> {
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Engines, Import, TestEngines(), TestEngineName);
 
 TEST_P(Import, BringsInReadingsWithTheProjectsIndex) {
     const CImportCounts counts =
-        Run({g_strReadingHeader + "ZK1,1-1,1,1,50,75,37.492,1,0,-0.01,1e-05,0,0,0,2\r\n" +
+        Run({g_strReadingColumns + "ZK1,1-1,1,1,50,75,37.492,1,0,-0.01,1e-05,0,0,0,2\r\n" +
              "ZK1,1-1,1,2,50,75,37.492,1,0,21.9305,19.3625,0,0,0,-128\n"});
     EXPECT_EQ(m_strReport, "");
     EXPECT_EQ(counts.m_nReadings, 2U);
@@ -153,9 +153,9 @@ TEST_P(Import, RefusesAKeyThatStandsTwice) {
 
 TEST_P(Import, RefusesAKeyThatIsStoredUnlessItShallBeReplaced) {
     const std::string strFirst =
-        g_strReadingHeader + "ZK1,1-1,1,1,50,75,37,1,0,1,1,0,0,0,0\nZK1,1-1,1,2,50,75,37,1,0,2,2,0,0,0,0\n";
+        g_strReadingColumns + "ZK1,1-1,1,1,50,75,37,1,0,1,1,0,0,0,0\nZK1,1-1,1,2,50,75,37,1,0,2,2,0,0,0,0\n";
     const std::string strSecond =
-        g_strReadingHeader + "ZK1,1-1,1,2,60,75,37,1,0,3,3,0,0,0,1\nZK1,1-1,1,3,60,75,37,1,0,4,4,0,0,0,1\n";
+        g_strReadingColumns + "ZK1,1-1,1,2,60,75,37,1,0,3,3,0,0,0,1\nZK1,1-1,1,3,60,75,37,1,0,4,4,0,0,0,1\n";
     Run({strFirst});
     Run({strSecond});
     EXPECT_EQ(m_strReport, "1.csv:2: SHJHXH: a row of this key is stored already\n");
@@ -243,7 +243,7 @@ TEST_P(Import, IsUndoneWhenItIsGivenUp) {
 TEST_P(Import, TakesManyRowsAndReplacesThem) {
     constexpr int nRows = 1234;
     const auto text = [](const char* pszValues) {
-        std::string strText = g_strReadingHeader;
+        std::string strText = g_strReadingColumns;
         for (int i = 1; i <= nRows; ++i)
             strText += "ZK1,1-1,1," + std::to_string(i) + pszValues;
         return strText;
@@ -261,7 +261,7 @@ TEST_P(Import, FindsKeysInColumnsOfAnyNumberType) {
         "CREATE TABLE z_c_SanZhouCSXM (GCSY numeric(10), ZKBH varchar(9), QYBH varchar(9), "
         "SJBH double precision, SHJHXH numeric(10), WY real, SYGD real, SYZJ real, CLHXS real, "
         "GJKXYL real, CLHDS real, ZXBX real, JQPS real, KXYL real, GJPS real, JLLX smallint)");
-    const std::string strText = g_strReadingHeader + "ZK1,1-1,1,2,50,75,37,1,0,1,1,0,0,0,0\n";
+    const std::string strText = g_strReadingColumns + "ZK1,1-1,1,2,50,75,37,1,0,1,1,0,0,0,0\n";
     EXPECT_EQ(Run({strText}).m_nReadings, 1U);
     Run({strText});
     EXPECT_EQ(m_strReport, "1.csv:2: SHJHXH: a row of this key is stored already\n");

@@ -56,6 +56,10 @@ struct CDesktopStart {
     std::string m_strKept = {}; ///< folder of copies; empty for one of its own
 };
 
+inline CDesktopStart NoInstallation() {
+    return {"/nowhere"};
+}
+
 /// Runs the program's window while the user does something, and quits; nothing is saved that the user did not
 /// save.
 void AtDesktop(const CDesktopStart& start, const std::function<void(const CDesktopUser&)>& does);

@@ -9,10 +9,6 @@
 
 namespace {
 
-CDesktopStart NoInstallation() {
-    return {"/nowhere"};
-}
-
 /// The ends of the lines of the current drawing, in database order.
 std::string Lines(const CDesktopUser& user) {
     std::string strLines;

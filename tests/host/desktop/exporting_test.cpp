@@ -11,7 +11,7 @@
 
 namespace {
 
-void AddLine(AcDbDatabase& drawing) {
+void AddExportedLine(AcDbDatabase& drawing) {
     auto* const pLine = new AcDbLine({0.0, 0.0, 0.0}, {10.0, 10.0, 0.0});
     CDbOpen<AcDbBlockTableRecord>(drawing.ModelSpaceId(), AcDb::kForWrite)->appendAcDbEntity(pLine);
     pLine->close();
@@ -22,7 +22,7 @@ void AddLine(AcDbDatabase& drawing) {
 TEST(Exporting, ADxfCopyLeavesTheDrawingChangedAndItsFileNameAlone) {
     const CTempFolder folder;
     AcDbDatabase drawing;
-    AddLine(drawing);
+    AddExportedLine(drawing);
     drawing.SetFilename(L"/drawings/one.dwg");
     const std::string strPath = folder.Path("copy.dxf");
     EXPECT_EQ(ExportDxf(drawing, strPath), "exported to " + strPath);

@@ -17,10 +17,6 @@ namespace {
 
 const std::string g_strChartModule = TERVO_BIN "/tervo-bren.so";
 
-CDesktopStart NoInstallation() {
-    return {"/nowhere"};
-}
-
 std::string Tabs(const CDesktopUser& user) {
     std::string strTabs;
     user.Do([&] {

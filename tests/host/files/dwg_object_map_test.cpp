@@ -19,7 +19,7 @@ CBytes SectionOf(const CBytes& entries) {
     return section.Take();
 }
 
-std::string RefusalOfSection(const CBytes& section) {
+std::string RefusalOfMap(const CBytes& section) {
     return RefusalOf([&] { ReadDwgObjectMap(section); });
 }
 
@@ -56,23 +56,23 @@ TEST(DwgObjectMap, TakesHandlesAndAddressesOfAnySize) {
 }
 
 TEST(DwgObjectMap, RefusesHandlesThatDoNotRise) {
-    EXPECT_EQ(RefusalOfSection(SectionOf(HexBytes("01 05 00 05"))), "Object map: the handles do not rise.");
-    EXPECT_EQ(RefusalOfSection(SectionOf(HexBytes("00 05"))), "Object map: the handles do not rise.");
+    EXPECT_EQ(RefusalOfMap(SectionOf(HexBytes("01 05 00 05"))), "Object map: the handles do not rise.");
+    EXPECT_EQ(RefusalOfMap(SectionOf(HexBytes("00 05"))), "Object map: the handles do not rise.");
 }
 
 TEST(DwgObjectMap, RefusesAddressesBeyondAnyFile) {
-    EXPECT_EQ(RefusalOfSection(SectionOf(HexBytes("01 41"))), "Object map: an address lies beyond any file.");
-    EXPECT_EQ(RefusalOfSection(SectionOf(HexBytes("01 FF FF FF FF FF FF FF FF 3F"))),
+    EXPECT_EQ(RefusalOfMap(SectionOf(HexBytes("01 41"))), "Object map: an address lies beyond any file.");
+    EXPECT_EQ(RefusalOfMap(SectionOf(HexBytes("01 FF FF FF FF FF FF FF FF 3F"))),
               "Object map: an address lies beyond any file.");
 }
 
 TEST(DwgObjectMap, RefusesWhatEndsTooEarly) {
-    EXPECT_EQ(RefusalOfSection({}), "Object map: the section ends within a page.");
-    EXPECT_EQ(RefusalOfSection(HexBytes("00 01 00 00")), "Object map: the section ends within a page.");
-    EXPECT_EQ(RefusalOfSection(SectionOf(HexBytes("01"))), "Object map: a page ends within an entry.");
+    EXPECT_EQ(RefusalOfMap({}), "Object map: the section ends within a page.");
+    EXPECT_EQ(RefusalOfMap(HexBytes("00 01 00 00")), "Object map: the section ends within a page.");
+    EXPECT_EQ(RefusalOfMap(SectionOf(HexBytes("01"))), "Object map: a page ends within an entry.");
     CBytes section = SectionOf(HexBytes("01 05"));
     section.resize(6);
-    EXPECT_EQ(RefusalOfSection(section), "Object map: the section ends within a page.");
+    EXPECT_EQ(RefusalOfMap(section), "Object map: the section ends within a page.");
     section[2] ^= 1;
-    EXPECT_EQ(RefusalOfSection(section), "Object map: the check sum of a page is wrong.");
+    EXPECT_EQ(RefusalOfMap(section), "Object map: the check sum of a page is wrong.");
 }

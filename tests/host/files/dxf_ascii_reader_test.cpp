@@ -12,7 +12,7 @@ CDxfTag First(std::string_view bytes) {
 }
 
 /// What the reader says of the bytes.
-std::string Failure(std::string_view bytes) {
+std::string AsciiFailure(std::string_view bytes) {
     CDxfAsciiReader reader(bytes);
     CDxfTag tag;
     try {
@@ -53,12 +53,12 @@ TEST(DxfAsciiReader, PassesAByteOrderMarkAndAnEmptyLastLine) {
 }
 
 TEST(DxfAsciiReader, NamesTheLineOfWhatIsWrong) {
-    EXPECT_EQ(Failure("0\nEOF\nfive\nx\n"), "line 3: no number, or one out of range");
-    EXPECT_EQ(Failure("85\nx\n"), "line 1: no group code: 85");
-    EXPECT_EQ(Failure("10\n1,5\n"), "line 2: no number, or one out of range");
-    EXPECT_EQ(Failure("10\n\n"), "line 2: no number, or one out of range");
-    EXPECT_EQ(Failure("10\nnan\n"), "line 2: a number that is not finite");
-    EXPECT_EQ(Failure("10\n1e999\n"), "line 2: no number, or one out of range");
-    EXPECT_EQ(Failure("70\n99999999999999999999\n"), "line 2: no number, or one out of range");
-    EXPECT_EQ(Failure("0\nEOF\n0"), "line 3: the file ends within a group");
+    EXPECT_EQ(AsciiFailure("0\nEOF\nfive\nx\n"), "line 3: no number, or one out of range");
+    EXPECT_EQ(AsciiFailure("85\nx\n"), "line 1: no group code: 85");
+    EXPECT_EQ(AsciiFailure("10\n1,5\n"), "line 2: no number, or one out of range");
+    EXPECT_EQ(AsciiFailure("10\n\n"), "line 2: no number, or one out of range");
+    EXPECT_EQ(AsciiFailure("10\nnan\n"), "line 2: a number that is not finite");
+    EXPECT_EQ(AsciiFailure("10\n1e999\n"), "line 2: no number, or one out of range");
+    EXPECT_EQ(AsciiFailure("70\n99999999999999999999\n"), "line 2: no number, or one out of range");
+    EXPECT_EQ(AsciiFailure("0\nEOF\n0"), "line 3: the file ends within a group");
 }

@@ -18,7 +18,7 @@ std::vector<CDxfTag> Tags(const std::string& strFile) {
     return tags;
 }
 
-std::string Failure(std::string_view groups) {
+std::string BinaryFailure(std::string_view groups) {
     try {
         Tags(File(groups));
     } catch (const CDxfFailure& failure) {
@@ -61,11 +61,12 @@ TEST(DxfBinaryReader, ReadsCodesOfOneByteAndTheLongOnesAmongThem) {
 }
 
 TEST(DxfBinaryReader, NamesTheOffsetOfWhatIsWrong) {
-    EXPECT_EQ(Failure("\0\0EOF"sv), "offset 24: the file ends within a text");
-    EXPECT_EQ(Failure("\0\0EOF\0\x0A\0\0\0"sv), "offset 30: the file ends within a group");
-    EXPECT_EQ(Failure("\0\0EOF\0\x55\0"sv), "offset 28: no group code: 85");
-    EXPECT_EQ(Failure("\0\0EOF\0\x0A\0\0\0\0\0\0\0\xF0\x7F"sv), "offset 28: a number that is not finite");
-    EXPECT_EQ(Failure("\0\0EOF\0\x36\1\x05"
-                      "ab"sv),
+    EXPECT_EQ(BinaryFailure("\0\0EOF"sv), "offset 24: the file ends within a text");
+    EXPECT_EQ(BinaryFailure("\0\0EOF\0\x0A\0\0\0"sv), "offset 30: the file ends within a group");
+    EXPECT_EQ(BinaryFailure("\0\0EOF\0\x55\0"sv), "offset 28: no group code: 85");
+    EXPECT_EQ(BinaryFailure("\0\0EOF\0\x0A\0\0\0\0\0\0\0\xF0\x7F"sv),
+              "offset 28: a number that is not finite");
+    EXPECT_EQ(BinaryFailure("\0\0EOF\0\x36\1\x05"
+                            "ab"sv),
               "offset 31: the file ends within a group");
 }

@@ -9,18 +9,18 @@
 
 namespace {
 
-constexpr UINT LIST = 100, CHECK = 101, EDIT = 102, BUTTON = 103;
+constexpr UINT DIALOG_LIST = 100, DIALOG_CHECK = 101, DIALOG_EDIT = 102, DIALOG_BUTTON = 103;
 
-const CModuleResources& Resources() {
+const CModuleResources& DialogResources() {
     static const CModuleResources resources{{{7,
                                               "ASK",
                                               "caption",
                                               100,
                                               80,
-                                              {{LIST, CControlKind::List, "", {}, 0},
-                                               {CHECK, CControlKind::Check, "c", {}, 0},
-                                               {EDIT, CControlKind::Edit, "", {}, CONTROL_DISABLED},
-                                               {BUTTON, CControlKind::Button, "b", {}, CONTROL_HIDDEN},
+                                              {{DIALOG_LIST, CControlKind::List, "", {}, 0},
+                                               {DIALOG_CHECK, CControlKind::Check, "c", {}, 0},
+                                               {DIALOG_EDIT, CControlKind::Edit, "", {}, CONTROL_DISABLED},
+                                               {DIALOG_BUTTON, CControlKind::Button, "b", {}, CONTROL_HIDDEN},
                                                {ID_OK, CControlKind::Button, "ok", {}, CONTROL_DEFAULT},
                                                {ID_CANCEL, CControlKind::Button, "cancel", {}, 0}}}}};
     return resources;
@@ -43,12 +43,12 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
-        DDX_Control(pDX, LIST, m_list);
-        DDX_Check(pDX, CHECK, m_bCheck);
-        DDX_Text(pDX, EDIT, m_strEdit);
+        DDX_Control(pDX, DIALOG_LIST, m_list);
+        DDX_Check(pDX, DIALOG_CHECK, m_bCheck);
+        DDX_Text(pDX, DIALOG_EDIT, m_strEdit);
     }
     std::span<const CMessageEntry> GetMessageMap() const override {
-        static const CMessageEntry map[] = {{BUTTON, BN_CLICKED, &CAskDialog::OnButton}};
+        static const CMessageEntry map[] = {{DIALOG_BUTTON, BN_CLICKED, &CAskDialog::OnButton}};
         return map;
     }
 };
@@ -56,7 +56,7 @@ protected:
 } // namespace
 
 TEST(Dialog, RunsWithTheTemplateOfTheResourcesInForce) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     CString caption;
     bool bShown = false;
@@ -66,8 +66,8 @@ TEST(Dialog, RunsWithTheTemplateOfTheResourcesInForce) {
         EXPECT_EQ(window.GetNumber(), 7U);
         window.GetWindowText(caption);
         EXPECT_EQ(window.GetItems().size(), 6U);
-        EXPECT_FALSE(window.GetDlgItem(EDIT)->IsWindowEnabled());
-        EXPECT_FALSE(window.GetDlgItem(BUTTON)->IsWindowVisible());
+        EXPECT_FALSE(window.GetDlgItem(DIALOG_EDIT)->IsWindowEnabled());
+        EXPECT_FALSE(window.GetDlgItem(DIALOG_BUTTON)->IsWindowVisible());
         EXPECT_EQ(window.GetDlgItem(999), nullptr);
         window.OnCommand(ID_OK, BN_CLICKED);
     });
@@ -77,7 +77,7 @@ TEST(Dialog, RunsWithTheTemplateOfTheResourcesInForce) {
 }
 
 TEST(Dialog, IsFoundByName) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog("ASK");
     const CDialogScript script([](CModalWindow& window) { window.OnCommand(ID_CANCEL, BN_CLICKED); });
     EXPECT_EQ(dialog.DoModal(), static_cast<int>(ID_CANCEL));
@@ -87,19 +87,19 @@ TEST(Dialog, GivesMinusOneWithoutItsResource) {
     const CDialogScript script([](CModalWindow&) { FAIL() << "shown"; });
     CAskDialog inForce(7);
     EXPECT_EQ(inForce.DoModal(), -1); // no resources in force
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog other(8);
     EXPECT_EQ(other.DoModal(), -1);
 }
 
 TEST(Dialog, GivesMinusOneWhenNothingShowsDialogs) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     EXPECT_EQ(dialog.DoModal(), -1);
 }
 
 TEST(Dialog, TakesATemplateInMemory) {
-    CDialogTemplate block = Resources().m_arDialogs[0];
+    CDialogTemplate block = DialogResources().m_arDialogs[0];
     block.m_nId = 70;
     CAskDialog dialog;
     EXPECT_EQ(dialog.InitModalIndirect(nullptr), FALSE);
@@ -109,17 +109,17 @@ TEST(Dialog, TakesATemplateInMemory) {
 }
 
 TEST(Dialog, ExchangesValuesBothWays) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     const CDialogScript script([&](CModalWindow& window) {
-        EXPECT_EQ(window.GetDlgItem(LIST), &dialog.m_list);
+        EXPECT_EQ(window.GetDlgItem(DIALOG_LIST), &dialog.m_list);
         EXPECT_EQ(dialog.m_list.GetCount(), 1);
-        EXPECT_EQ(window.GetDlgItem(CHECK)->GetControl()->m_nCheck, 1);
+        EXPECT_EQ(window.GetDlgItem(DIALOG_CHECK)->GetControl()->m_nCheck, 1);
         CString text;
-        window.GetDlgItem(EDIT)->GetWindowText(text);
+        window.GetDlgItem(DIALOG_EDIT)->GetWindowText(text);
         EXPECT_STREQ(text, "text");
-        window.GetDlgItem(CHECK)->GetControl()->m_nCheck = 0;
-        window.GetDlgItem(EDIT)->SetWindowText("new");
+        window.GetDlgItem(DIALOG_CHECK)->GetControl()->m_nCheck = 0;
+        window.GetDlgItem(DIALOG_EDIT)->SetWindowText("new");
         EXPECT_EQ(dialog.m_bCheck, 1); // until the values are taken
         window.OnCommand(ID_OK, BN_CLICKED);
     });
@@ -129,10 +129,10 @@ TEST(Dialog, ExchangesValuesBothWays) {
 }
 
 TEST(Dialog, CancelTakesNoValues) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     const CDialogScript script([&](CModalWindow& window) {
-        window.GetDlgItem(EDIT)->SetWindowText("new");
+        window.GetDlgItem(DIALOG_EDIT)->SetWindowText("new");
         window.OnCommand(ID_CANCEL, BN_CLICKED);
     });
     dialog.DoModal();
@@ -140,32 +140,32 @@ TEST(Dialog, CancelTakesNoValues) {
 }
 
 TEST(Dialog, ControlsAreGoneAfterwardsAndTheDialogCanRunAgain) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     int nEntries = 0;
     const CDialogScript script([&](CModalWindow&) { nEntries += dialog.m_list.GetCount(); });
     dialog.DoModal();
     EXPECT_EQ(dialog.m_list.GetCount(), 0);
-    EXPECT_EQ(dialog.GetDlgItem(LIST), nullptr);
+    EXPECT_EQ(dialog.GetDlgItem(DIALOG_LIST), nullptr);
     EXPECT_EQ(dialog.UpdateData(TRUE), FALSE);
     dialog.DoModal();
     EXPECT_EQ(nEntries, 2);
 }
 
 TEST(Dialog, HandsANotificationToTheHandlerOfItsMessageMap) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     const CDialogScript script([&](CModalWindow& window) {
-        window.OnCommand(BUTTON, BN_CLICKED);
-        window.OnCommand(BUTTON, BN_CLICKED + 1);
-        window.OnCommand(CHECK, BN_CLICKED);
+        window.OnCommand(DIALOG_BUTTON, BN_CLICKED);
+        window.OnCommand(DIALOG_BUTTON, BN_CLICKED + 1);
+        window.OnCommand(DIALOG_CHECK, BN_CLICKED);
     });
     dialog.DoModal();
     EXPECT_EQ(dialog.m_nClicks, 1);
 }
 
 TEST(Dialog, EndDialogGivesItsNumber) {
-    const CTemporaryResourceOverride resources(&Resources());
+    const CTemporaryResourceOverride resources(&DialogResources());
     CAskDialog dialog(7);
     const CDialogScript script([](CModalWindow& window) {
         EXPECT_NE(window.ContinueModal(), FALSE);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr UINT EDIT = 100;
 
-const CModuleResources& Resources() {
+const CModuleResources& SheetResources() {
     static const CModuleResources resources{
         {{21, "", "first", 10, 10, {{EDIT, CControlKind::Edit, "", {}, 0}}},
          {22,
@@ -58,7 +58,7 @@ protected:
         return m_sheet.DoModal();
     }
 
-    CTemporaryResourceOverride m_resources{&Resources()};
+    CTemporaryResourceOverride m_resources{&SheetResources()};
     std::string m_strLog;
     CTestPage m_first{21, &m_strLog};
     CTestPage m_second{22, &m_strLog};
@@ -160,7 +160,7 @@ TEST_F(PropertySheet, GivesMinusOneWhenItsFirstPageHasNoResource) {
 }
 
 TEST_F(PropertySheet, APageCanBringItsTemplateWithIt) {
-    CDialogTemplate block = Resources().m_arDialogs[1];
+    CDialogTemplate block = SheetResources().m_arDialogs[1];
     block.m_nId = 50;
     m_first.m_psp.dwFlags |= PSP_DLGINDIRECT;
     m_first.m_psp.pResource = &block;
