@@ -6,7 +6,6 @@
 #include "drawing/title_fields.h"
 #include "platform/acad/editor.h"
 #include "platform/mfc/file_find.h"
-#include "platform/windows/profile.h"
 #include "ui/bren_dlg.h"
 #include "ui/qs_para.h"
 
@@ -51,7 +50,7 @@ int CTemplatePass::Load() {
 
 void CTemplatePass::ReadFields() {
     CString strGCSY;
-    strGCSY.Format("%d", static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, g_strProjectIni)));
+    strGCSY.Format("%d", ReadProjectNumber("GCSY"));
     BuildSheetFields(strGCSY, m_dialog.m_strZKBH, m_saKeys, m_saValues, 1, 1);
     CQSPara().GetPeople(g_pPeopleClass, &m_saKeys, &m_saValues);
 }

@@ -23,6 +23,9 @@ int GetProjectIndex();
 /// none.
 CString ReadProjectText(const char* pszKey);
 
+/// A number of the running project; -1 when there is none.
+int ReadProjectNumber(const char* pszKey);
+
 /// The window class of the data manager by the installed edition (LOCALVER 0 to 4); empty for any other
 /// value.
 CString GetDataManagerClass();
