@@ -5,6 +5,7 @@
 #include "drawing/curve_strokes.h"
 #include "drawing/dashed_scope.h"
 #include "drawing/line_entities.h"
+#include "drawing/line_types.h"
 #include "drawing/styles.h"
 #include "platform/acad/db_arc.h"
 
@@ -12,7 +13,7 @@ void CExplodeSink::DashLast() {
     SetDashed(*static_cast<AcDbEntity*>(m_entitySet.last()));
     // Only so that the drawing has this line type as it has after the world form.
     AcDbObjectId idContinuous;
-    LoadLinetypeId("Continuous", nullptr, idContinuous);
+    LoadLinetypeId(g_pContinuousLinetype, nullptr, idContinuous);
 }
 
 void CExplodeSink::Line(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) {
