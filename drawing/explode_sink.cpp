@@ -4,6 +4,7 @@
 #include "drawing/chart_text.h"
 #include "drawing/curve_strokes.h"
 #include "drawing/dashed_scope.h"
+#include "drawing/explode_set.h"
 #include "drawing/line_entities.h"
 #include "drawing/line_types.h"
 #include "drawing/styles.h"
@@ -55,7 +56,7 @@ void CExplodeSink::Dots(const AcGePoint3dArray& points) {
 }
 
 void CExplodeSink::HalfCircle(const AcGePoint3d& ptCenter, double dRadius) {
-    m_entitySet.append(static_cast<AcDbEntity*>(new AcDbArc(ptCenter, dRadius, 0.0, g_dPi)));
+    HandOver(m_entitySet, std::make_unique<AcDbArc>(ptCenter, dRadius, 0.0, g_dPi));
 }
 
 void CExplodeSink::DashedHalfCircle(const AcGePoint3d& ptCenter, double dRadius) {

@@ -1,9 +1,9 @@
 #include "frame/frame_picture.h"
 
 #include "commands/sheet_layout.h"
+#include "drawing/polyline_vertices.h"
 #include "drawing/styles.h"
 #include "frame/frame_entity.h"
-#include "platform/acad/db_polyline.h"
 
 namespace {
 constexpr double g_dWidth = 176.0;
@@ -137,7 +137,7 @@ void DescribeFrameLines(CFrameSink& sink, const CBRENFrame& frame) {
                                    {ptBase.x, ptBase.y + dBorder / 2.0}};
     AcDbPolyline border(5);
     for (const AcGePoint2d& ptCorner : corners)
-        border.addVertexAt(border.numVerts(), ptCorner, 0.0, dBorder, dBorder);
+        AppendVertex(border, {ptCorner, 0.0, dBorder, dBorder});
     sink.Outline(border);
     sink.Rule(ptBase + AcGeVector3d(0.0, -g_dRuleBelowTop, 0.0),
               ptBase + AcGeVector3d(g_dWidth, -g_dRuleBelowTop, 0.0));
