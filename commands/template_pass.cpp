@@ -2,6 +2,7 @@
 
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "drawing/model_space.h"
 #include "drawing/title_fields.h"
 #include "platform/acad/editor.h"

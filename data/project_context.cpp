@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "data/show_message.h"
 #include "platform/tvtool/tvtool.h"
 #include "platform/windows/profile.h"
 #include "platform/windows/window_message.h"

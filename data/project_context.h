@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/show_message.h"
 #include "platform/mfc/string.h"
 
 /// The suite's ini files, learnt once when the module is loaded: the state of the running project (read

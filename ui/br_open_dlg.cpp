@@ -7,6 +7,7 @@
 #include "data/criteria.h"
 #include "data/project_context.h"
 #include "data/san_zhou_csxm_record.h"
+#include "data/show_message.h"
 #include "data/table_errors.h"
 #include "platform/mfc/data_exchange.h"
 #include "platform/mfc/file_find.h"

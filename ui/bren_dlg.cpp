@@ -2,6 +2,7 @@
 
 #include "commands/chart_marks.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "platform/acad/editor.h"
 #include "ui/chart_titles.h"
 #include "ui/resources.h"
