@@ -42,7 +42,8 @@ void BrenCommand() {
     CBRENDlg dialog("生成三轴剪切试验成果图", adsw_acadMainWnd());
     dialog.m_nGCSY = nGCSY;
     dialog.m_nGCBZ = nGCBZ;
-    if (dialog.DoModal() != ID_OK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk) return;
+    if (dialog.DoModal() != ID_OK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk)
+        return;
 
     AcDbDatabase* pDatabase = acdbHostApplicationServices()->workingDatabase();
     const int nGroups = dialog.AllSamples() ? dialog.m_pageGen.m_arAll.GetSize() : 1;
