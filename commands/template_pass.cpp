@@ -16,11 +16,6 @@ namespace {
 constexpr const char* g_pBlockName = "BRMB";
 constexpr const char* g_pPeopleClass = "三轴剪切试验曲线";
 constexpr double g_dFrameWidth = 210.0, g_dFrameHeight = 297.0, g_dFrameMargin = 25.0;
-
-int IsThere(const CString& strFile) {
-    CFileFind find;
-    return find.FindFile(strFile);
-}
 } // namespace
 
 int CheckNotTemplate(const CString& strTemplate) {
@@ -33,7 +28,7 @@ CString CTemplatePass::TemplatePath() const {
 
 int CTemplatePass::Load() {
     const CString strTemplate = TemplatePath();
-    if (!IsThere(strTemplate)) {
+    if (!CFileFind().FindFile(strTemplate)) {
         acutPrintf(L"\n图框文件%s不存在!", ToWide(strTemplate));
         return 0;
     }
