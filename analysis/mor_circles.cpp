@@ -28,7 +28,7 @@ void ComTangent::AddSupport(int nLower, int nHigher) {
 }
 
 int CMorCircles::AddCircle(double dCentre, double dRadius) {
-    Add(MorCircle{dCentre, dRadius, static_cast<Adesk::Int64>(GetSize())});
+    Add(MorCircle{dCentre, dRadius, GetSize()});
     return 1;
 }
 
@@ -41,11 +41,17 @@ ComTangent CMorCircles::TangentOfCircles(const MorCircle& a, const MorCircle& b)
     return tangent;
 }
 
-void CMorCircles::CollectTangents(CTangents& tangents) const {
-    const int nCircles = static_cast<int>(GetSize());
-    for (int i = 0; i < nCircles - 1; i++) {
-        for (int j = i + 1; j < nCircles; j++) {
-            ComTangent tangent = TangentOfCircles(GetAt(i), GetAt(j));
+namespace {
+using CTangents = CArray<ComTangent, const ComTangent&>;
+using CCandidates = CArray<int, int>; // places in the list of tangents
+
+/// The tangents of all pairs, those that coincide as one with all their pairs; it keeps the values of the
+/// first.
+CTangents CollectTangents(const CMorCircles& circles) {
+    CTangents tangents;
+    for (int i = 0; i < circles.GetSize() - 1; i++) {
+        for (int j = i + 1; j < circles.GetSize(); j++) {
+            ComTangent tangent = circles.TangentOfCircles(circles[i], circles[j]);
             int nSame = 0;
             while (nSame < tangents.GetSize() && !tangents[nSame].SameTangent(tangent))
                 nSame++;
@@ -57,29 +63,31 @@ void CMorCircles::CollectTangents(CTangents& tangents) const {
             }
         }
     }
+    return tangents;
 }
 
-int CMorCircles::FindEnvelope(double* pC, double* pPhi) const {
-    CTangents tangents;
-    CollectTangents(tangents);
-    const int nTangents = static_cast<int>(tangents.GetSize());
-    if (nTangents == 0) return 0;
+/// Whether every intercept lies below 0 by more than noise, or is no number.
+bool AllNegative(const CTangents& tangents) {
+    for (const ComTangent& tangent : tangents)
+        if (tangent.m_dC > g_dZeroIntercept) return false;
+    return true;
+}
 
-    bool bPositive = false;
-    for (int i = 0; i < nTangents && !bPositive; i++)
-        bPositive = tangents[i].m_dC > g_dZeroIntercept;
-    if (!bPositive) {
-        // Soil has no negative cohesion: the line through the origin that touches the second to last circle.
-        const int nCircle = static_cast<int>(GetSize()) - 2;
-        if (nCircle < 0) return 0;
-        *pC = 0.0;
-        *pPhi = std::asin(GetAt(nCircle).m_dRadius / GetAt(nCircle).m_dCentre);
-        return 1;
-    }
+/// Soil has no negative cohesion: the line through the origin that touches the second to last circle. 0 when
+/// there is no such circle.
+int TouchFromOrigin(const CMorCircles& circles, double* pC, double* pPhi) {
+    const int nCircle = circles.GetSize() - 2;
+    if (nCircle < 0) return 0;
+    *pC = 0.0;
+    *pPhi = std::asin(circles[nCircle].m_dRadius / circles[nCircle].m_dCentre);
+    return 1;
+}
 
-    CArray<int, int> candidates;
+/// The tangents that most pairs share; those with a negative intercept are passed over.
+CCandidates MostSupported(const CTangents& tangents) {
+    CCandidates candidates;
     int nGreatest = 0;
-    for (int i = 0; i < nTangents; i++) {
+    for (int i = 0; i < tangents.GetSize(); i++) {
         if (0.0 > tangents[i].m_dC) continue; // written so that a NaN stays a candidate
         const int nSupport = tangents[i].Support();
         if (nSupport < nGreatest) continue;
@@ -87,23 +95,35 @@ int CMorCircles::FindEnvelope(double* pC, double* pPhi) const {
         nGreatest = nSupport;
         candidates.Add(i);
     }
-    if (candidates.GetSize() == 0) return 1;
+    return candidates;
+}
 
+/// Of several candidates the place of the one whose circles lie nearest to the middle of the list.
+int MostCentral(const CTangents& tangents, const CCandidates& candidates, int nCircles) {
+    const float fMiddle = static_cast<float>((static_cast<double>(nCircles) + 1.0) / 2.0);
+    // The search starts at tangent 0, candidate or not, with the first candidate's distance.
     int nChosen = 0;
-    if (candidates.GetSize() == 1) {
-        nChosen = candidates[0];
-    } else {
-        // The search starts at tangent 0, candidate or not, with the first candidate's distance.
-        const float fMiddle = static_cast<float>((static_cast<double>(GetSize()) + 1.0) / 2.0);
-        float fBest = tangents[candidates[0]].CentreDistance(fMiddle);
-        for (int i = 1; i < candidates.GetSize(); i++) {
-            const float fDistance = tangents[candidates[i]].CentreDistance(fMiddle);
-            if (fBest > fDistance || std::fabs(fBest - fDistance) < g_dSameCentrality) {
-                nChosen = candidates[i];
-                fBest = fDistance;
-            }
+    float fBest = tangents[candidates[0]].CentreDistance(fMiddle);
+    for (int i = 1; i < candidates.GetSize(); i++) {
+        const float fDistance = tangents[candidates[i]].CentreDistance(fMiddle);
+        if (fBest > fDistance || std::fabs(fBest - fDistance) < g_dSameCentrality) {
+            nChosen = candidates[i];
+            fBest = fDistance;
         }
     }
+    return nChosen;
+}
+} // namespace
+
+int CMorCircles::FindEnvelope(double* pC, double* pPhi) const {
+    const CTangents tangents = CollectTangents(*this);
+    if (tangents.IsEmpty()) return 0;
+    if (AllNegative(tangents)) return TouchFromOrigin(*this, pC, pPhi);
+
+    const CCandidates candidates = MostSupported(tangents);
+    if (candidates.IsEmpty()) return 1;
+    const int nChosen =
+        candidates.GetSize() == 1 ? candidates[0] : MostCentral(tangents, candidates, GetSize());
     *pC = tangents[nChosen].m_dC;
     *pPhi = tangents[nChosen].m_dPhi;
     return 1;

@@ -19,7 +19,7 @@ public:
     /// Mean squared distance of the supporting circles, counted from 1, from the middle of the list.
     float CentreDistance(float fMiddle) const;
     void AddSupport(int nLower, int nHigher);
-    int Support() const { return static_cast<int>(m_arFirst.GetSize()); }
+    int Support() const { return m_arFirst.GetSize(); }
 
     CArray<int, int> m_arFirst;  ///< lower circle index of each supporting pair
     CArray<int, int> m_arSecond; ///< higher circle index, parallel
@@ -42,8 +42,4 @@ public:
     /// also when it left the outputs as they were (only intercepts between -1e-6 and 0); 0 when there is no
     /// pair. c in kPa, φ in radians.
     int FindEnvelope(double* pC, double* pPhi) const;
-
-private:
-    using CTangents = CArray<ComTangent, const ComTangent&>;
-    void CollectTangents(CTangents& tangents) const;
 };

@@ -1,5 +1,6 @@
 #include "analysis/reduction.h"
 
+#include "analysis/scales.h"
 #include "platform/acad/editor.h"
 
 CReduction::CReduction(CBRENChart& chart)

@@ -5,16 +5,6 @@
 #include "analysis/reading.h"
 #include "chart/chart_entity.h"
 
-/// Values per cell of the two panels, and rows of the Mohr grid.
-struct CPanelScales {
-    double m_dStrainStep = 0.0, m_dDeviatorStep = 0.0, m_dSigmaStep = 0.0;
-    Adesk::Int32 m_nMohrRows = 0;
-};
-
-/// The first list value whose grid holds the greatest value strictly; the last one if none does. Strain in
-/// percent, stresses in kPa.
-CPanelScales ChooseScales(double dMaxStrainPercent, double dMaxDeviator, double dMaxSigma1, double dMaxTau);
-
 /// Feeds the readings of one sample, in order of specimen and running number, into a new chart.
 class CReduction {
 public:

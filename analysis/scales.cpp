@@ -1,5 +1,6 @@
+#include "analysis/scales.h"
+
 #include "analysis/numbers.h"
-#include "analysis/reduction.h"
 
 #include <span>
 

@@ -1,11 +1,10 @@
-// Placing of the panels on the sheet area, 176 by 257 mm below and right of m_ptBase.
+// Placing of the panels on the area of the sheet that is the chart's.
 
 #include "chart/chart_entity.h"
 #include "chart/table_sizes.h"
+#include "frame/sheet_area.h"
 
 namespace {
-constexpr double g_dSheetWidth = 176.0;
-constexpr double g_dSheetHeight = 257.0;
 constexpr double g_dSummaryWidth = 45.0; // of the summary table and its distance, in the stacked arrangement
 
 /// What the arrangement is made of, in drawing units. Sums of whole numbers stay whole, in 64 bits, since a
@@ -39,12 +38,12 @@ void ArrangeSideBySide(CBRENChart& chart, const CSizes& s) {
     const double bx = chart.m_ptBase.x, by = chart.m_ptBase.y;
     const double dCurveH = static_cast<double>(s.m_nCurveH);
     const double dMohrH = static_cast<double>(s.m_nMohrH);
-    const double dAir = (g_dSheetHeight - s.m_dTop - dCurveH - dMohrH) / 2.5;
+    const double dAir = (g_dAreaHeight - s.m_dTop - dCurveH - dMohrH) / 2.5;
     chart.m_ptCurveOrigin.set(
-        bx + (g_dSheetWidth - static_cast<double>(s.m_nCurveW + s.m_nStressTableW + 18)) / 2.0 + 15.0,
+        bx + (g_dAreaWidth - static_cast<double>(s.m_nCurveW + s.m_nStressTableW + 18)) / 2.0 + 15.0,
         by - s.m_dTop - 0.5 * dAir - dCurveH, 0.0);
-    chart.m_ptMohrOrigin.set(bx + (g_dSheetWidth - static_cast<double>(s.m_nMohrW + 55)) / 2.0 + 10.0,
-                             by - g_dSheetHeight + dAir, 0.0);
+    chart.m_ptMohrOrigin.set(bx + (g_dAreaWidth - static_cast<double>(s.m_nMohrW + 55)) / 2.0 + 10.0,
+                             by - g_dAreaHeight + dAir, 0.0);
     const int nTableGap = s.m_bEffective ? 10 : 3;
     const Adesk::Int64 nTableRows = StressTableRows(s.m_bEffective);
     chart.m_ptTableOrigin.set(
@@ -60,11 +59,11 @@ void ArrangeStacked(CBRENChart& chart, const CSizes& s) {
     const double dMohrW = static_cast<double>(s.m_nMohrW), dMohrH = static_cast<double>(s.m_nMohrH);
     const double dTableH = static_cast<double>(s.m_nStressTableH);
     const Adesk::Int64 nLower = s.m_nMohrH >= s.m_nSummaryH ? s.m_nMohrH : s.m_nSummaryH;
-    const double dAir = (g_dSheetHeight - s.m_dTop - dCurveH - static_cast<double>(nLower) - dTableH) / 4.0;
-    const double dMohrLeft = (g_dSheetWidth - (dMohrW + g_dSummaryWidth)) / 2.0;
+    const double dAir = (g_dAreaHeight - s.m_dTop - dCurveH - static_cast<double>(nLower) - dTableH) / 4.0;
+    const double dMohrLeft = (g_dAreaWidth - (dMohrW + g_dSummaryWidth)) / 2.0;
 
-    chart.m_ptCurveOrigin.set(bx + (g_dSheetWidth - dCurveW) / 2.0, by - s.m_dTop - dAir - dCurveH, 0.0);
-    chart.m_ptTableOrigin.set(bx + (g_dSheetWidth - static_cast<double>(s.m_nStressTableW)) / 2.0,
+    chart.m_ptCurveOrigin.set(bx + (g_dAreaWidth - dCurveW) / 2.0, by - s.m_dTop - dAir - dCurveH, 0.0);
+    chart.m_ptTableOrigin.set(bx + (g_dAreaWidth - static_cast<double>(s.m_nStressTableW)) / 2.0,
                               chart.m_ptCurveOrigin.y - dAir, 0.0);
     const double dBelowTable = chart.m_ptTableOrigin.y - dAir - dTableH;
     if (s.m_nMohrH > s.m_nSummaryH) {
@@ -73,7 +72,7 @@ void ArrangeStacked(CBRENChart& chart, const CSizes& s) {
         chart.m_ptSummaryOrigin.set(chart.m_ptMohrOrigin.x + dMohrW + 15.0,
                                     chart.m_ptMohrOrigin.y + dMohrH - Half(s.m_nMohrH - s.m_nSummaryH), 0.0);
     } else {
-        chart.m_ptSummaryOrigin.set(bx + g_dSheetWidth - dMohrLeft - 30.0, dBelowTable, 0.0);
+        chart.m_ptSummaryOrigin.set(bx + g_dAreaWidth - dMohrLeft - 30.0, dBelowTable, 0.0);
         chart.m_ptMohrOrigin.set(bx + dMohrLeft,
                                  chart.m_ptSummaryOrigin.y - Half(s.m_nSummaryH - s.m_nMohrH) - dMohrH, 0.0);
     }
@@ -83,7 +82,7 @@ void ArrangeStacked(CBRENChart& chart, const CSizes& s) {
 void CBRENChart::ArrangePanels() {
     const CSizes sizes = SizesOf(*this);
     // The test takes the stress-strain panel's height, not its width.
-    if (sizes.m_nCurveH + sizes.m_nStressTableW + 18 < static_cast<Adesk::Int64>(g_dSheetWidth))
+    if (sizes.m_nCurveH + sizes.m_nStressTableW + 18 < static_cast<Adesk::Int64>(g_dAreaWidth))
         ArrangeSideBySide(*this, sizes);
     else
         ArrangeStacked(*this, sizes);

@@ -8,14 +8,9 @@
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
 #include "platform/mfc/resources.h"
-#include "platform/windows/profile.h"
 #include "ui/bren_dlg.h"
 
 namespace {
-Adesk::Int32 ProjectStandard() {
-    return static_cast<Adesk::Int32>(GetPrivateProfileIntA("Project", "GCBZ", -1, g_strProjectIni));
-}
-
 /// The samples of one group: those of the chosen borehole, or an element of the all-samples list.
 CArray<QYPropty> GroupSamples(const CBRENDlg& dialog, int nGroup) {
     if (dialog.AllSamples()) return dialog.m_pageGen.m_arAll[nGroup].m_arQY;
@@ -41,13 +36,14 @@ void BrenCommand() {
     const int nGCSY = GetProjectIndex();
     if (nGCSY < 0 || !CheckDataManager()) return;
     const CString strGCBH = ReadProjectText("GCBH");
-    const Adesk::Int32 nGCBZ = ProjectStandard();
+    const int nGCBZ = ReadProjectNumber("GCBZ");
 
     const CTemporaryResourceOverride resources(g_hModuleResources);
     CBRENDlg dialog("生成三轴剪切试验成果图", adsw_acadMainWnd());
     dialog.m_nGCSY = nGCSY;
     dialog.m_nGCBZ = nGCBZ;
-    if (dialog.DoModal() != IDOK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk) return;
+    if (dialog.DoModal() != ID_OK || !dialog.m_bHasData || !dialog.m_bQuYangOk || !dialog.m_bSamplesOk)
+        return;
 
     AcDbDatabase* pDatabase = acdbHostApplicationServices()->workingDatabase();
     const int nGroups = dialog.AllSamples() ? dialog.m_pageGen.m_arAll.GetSize() : 1;

@@ -29,10 +29,6 @@ CStringArray ReadKey(const char* section, const char* key, const char* file) {
     return marks;
 }
 
-void WriteKey(const char* section, const char* key, const CStringArray& marks, const char* file) {
-    WritePrivateProfileStringA(section, key, JoinTexts(marks, g_cSeparator), file);
-}
-
 std::vector<int> SelectedEntries(const CListBox& list) {
     std::vector<int> indices;
     for (int i = 0; i < list.GetCount(); ++i)
@@ -52,6 +48,10 @@ CString WithoutMark(const CString& entry) {
     return IsMarked(entry) ? entry.Mid(1) : entry;
 }
 
+void WriteMarks(const char* section, const char* key, const CStringArray& marks, const char* file) {
+    WritePrivateProfileStringA(section, key, JoinTexts(marks, g_cSeparator), file);
+}
+
 void LoadMarks(const char* section, const char* key, CWnd* pList, const char* file) {
     auto* pBox = dynamic_cast<CListBox*>(pList);
     if (!pBox) return;
@@ -63,7 +63,7 @@ void LoadMarks(const char* section, const char* key, CWnd* pList, const char* fi
         if (FindText(marks, entry) >= 0) ReplaceEntry(*pBox, i, g_cMark + entry);
         if (IsMarked(EntryText(*pBox, i))) found.Add(WithoutMark(EntryText(*pBox, i)));
     }
-    WriteKey(section, key, found, file);
+    WriteMarks(section, key, found, file);
 }
 
 void SaveMarks(const char* section, const char* key, const CWnd* pList, const char* file) {
@@ -72,7 +72,7 @@ void SaveMarks(const char* section, const char* key, const CWnd* pList, const ch
     CStringArray marks = ReadKey(section, key, file);
     for (const int index : SelectedEntries(*pBox))
         FindOrAdd(marks, WithoutMark(EntryText(*pBox, index)));
-    WriteKey(section, key, marks, file);
+    WriteMarks(section, key, marks, file);
 }
 
 void ClearMarks(const char* section, const char* key, CWnd* pList, const char* file) {
@@ -86,7 +86,7 @@ void ClearMarks(const char* section, const char* key, CWnd* pList, const char* f
         ReplaceEntry(*pBox, index, plain);
         marks.RemoveAt(place);
     }
-    WriteKey(section, key, marks, file);
+    WriteMarks(section, key, marks, file);
 }
 
 int AllDone(const CWnd* pList) {

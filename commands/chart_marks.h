@@ -9,6 +9,8 @@
 /// The text of an entry without its mark.
 CString WithoutMark(const CString& entry);
 
+/// Makes these texts the key's marks, in place of those it had.
+void WriteMarks(const char* section, const char* key, const CStringArray& marks, const char* file);
 /// Puts "*" before the entries that the key names, and leaves in the key only these.
 void LoadMarks(const char* section, const char* key, CWnd* pList, const char* file);
 /// Adds the selected entries to the key.

@@ -2,9 +2,12 @@
 
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "platform/acad/ap_document_manager.h"
 #include "platform/acad/editor.h"
 #include "platform/windows/profile.h"
+
+#include <memory>
 
 namespace {
 constexpr const ACHAR* g_pSdi = L"SDI";

@@ -21,9 +21,7 @@ constexpr std::size_t g_nPathBuffer = 260;
 CString PathFrom(int (*pGet)(char*)) {
     std::array<char, g_nPathBuffer> buffer{};
     pGet(buffer.data());
-    CString strPath;
-    strPath.Format("%s", buffer.data());
-    return strPath;
+    return buffer.data();
 }
 
 void AddCommand(const ACHAR* pName, AcRxFunctionPtr pFunction) {

@@ -9,6 +9,8 @@
 #include "platform/acad/editor.h"
 #include "ui/bren_dlg.h"
 
+#include <memory>
+
 namespace {
 constexpr double g_dStripTextY = -287.0 + 3.0; // from the sheet's top
 constexpr double g_dStripTextHeight = 5.0;
@@ -17,8 +19,10 @@ constexpr double g_dStripScale = 1000.0; // the strip is drawn in metres
 } // namespace
 
 void AddSheetText(const AcGePoint3d& ptPosition, const CString& strText, double dHeight) {
+    auto pText = std::make_unique<AcDbText>(ptPosition, ToWide(strText), AcDbObjectId::kNull, dHeight, 0.0);
     AcDbObjectId idText;
-    AddToModelSpace(new AcDbText(ptPosition, ToWide(strText), AcDbObjectId::kNull, dHeight, 0.0), idText);
+    AddToModelSpace(pText.get(), idText);
+    if (!idText.isNull()) static_cast<void>(pText.release()); // the drawing's now
 }
 
 void InsertSupportBlock(const CString& strName, const AcGePoint3d& ptPosition, double dRotation,

@@ -2,11 +2,11 @@
 
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "drawing/model_space.h"
 #include "drawing/title_fields.h"
 #include "platform/acad/editor.h"
 #include "platform/mfc/file_find.h"
-#include "platform/windows/profile.h"
 #include "ui/bren_dlg.h"
 #include "ui/qs_para.h"
 
@@ -16,11 +16,6 @@ namespace {
 constexpr const char* g_pBlockName = "BRMB";
 constexpr const char* g_pPeopleClass = "三轴剪切试验曲线";
 constexpr double g_dFrameWidth = 210.0, g_dFrameHeight = 297.0, g_dFrameMargin = 25.0;
-
-int IsThere(const CString& strFile) {
-    CFileFind find;
-    return find.FindFile(strFile);
-}
 } // namespace
 
 int CheckNotTemplate(const CString& strTemplate) {
@@ -33,7 +28,7 @@ CString CTemplatePass::TemplatePath() const {
 
 int CTemplatePass::Load() {
     const CString strTemplate = TemplatePath();
-    if (!IsThere(strTemplate)) {
+    if (!CFileFind().FindFile(strTemplate)) {
         acutPrintf(L"\n图框文件%s不存在!", ToWide(strTemplate));
         return 0;
     }
@@ -51,7 +46,7 @@ int CTemplatePass::Load() {
 
 void CTemplatePass::ReadFields() {
     CString strGCSY;
-    strGCSY.Format("%d", static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, g_strProjectIni)));
+    strGCSY.Format("%d", ReadProjectNumber("GCSY"));
     BuildSheetFields(strGCSY, m_dialog.m_strZKBH, m_saKeys, m_saValues, 1, 1);
     CQSPara().GetPeople(g_pPeopleClass, &m_saKeys, &m_saValues);
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "data/show_message.h"
 #include "platform/tvtool/tvtool.h"
 #include "platform/windows/profile.h"
 #include "platform/windows/window_message.h"
@@ -15,6 +16,8 @@ namespace {
 constexpr std::size_t g_nConnectionSize = 1024;
 constexpr std::size_t g_nProjectTextSize = 1024;
 
+constexpr const char* g_pProjectSection = "Project";
+
 /// What the data manager takes as: a module is going to use the project.
 constexpr UINT g_nUseProjectMessage = 2534;
 
@@ -26,7 +29,7 @@ int GetDatabasePath(SuiteDb db, char* pszPath) {
 } // namespace
 
 int GetProjectIndex() {
-    const auto nGCSY = static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, g_strProjectIni));
+    const int nGCSY = ReadProjectNumber("GCSY");
     if (nGCSY >= 0) return nGCSY;
     ShowMessage("请首先启动【数据管理】并打开工程，再重试此功能！");
     return -1;
@@ -34,9 +37,13 @@ int GetProjectIndex() {
 
 CString ReadProjectText(const char* pszKey) {
     std::array<char, g_nProjectTextSize> szText{};
-    GetPrivateProfileStringA("Project", pszKey, "", szText.data(), static_cast<DWORD>(szText.size()),
+    GetPrivateProfileStringA(g_pProjectSection, pszKey, "", szText.data(), static_cast<DWORD>(szText.size()),
                              g_strProjectIni);
     return szText.data();
+}
+
+int ReadProjectNumber(const char* pszKey) {
+    return static_cast<int>(GetPrivateProfileIntA(g_pProjectSection, pszKey, -1, g_strProjectIni));
 }
 
 CString GetDataManagerClass() {

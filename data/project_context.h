@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/show_message.h"
 #include "platform/mfc/string.h"
 
 /// The suite's ini files, learnt once when the module is loaded: the state of the running project (read
@@ -22,6 +21,9 @@ int GetProjectIndex();
 /// A text of the running project (section Project of its ini file), up to 1023 bytes; empty when there is
 /// none.
 CString ReadProjectText(const char* pszKey);
+
+/// A number of the running project; -1 when there is none.
+int ReadProjectNumber(const char* pszKey);
 
 /// The window class of the data manager by the installed edition (LOCALVER 0 to 4); empty for any other
 /// value.

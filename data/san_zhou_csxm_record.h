@@ -12,13 +12,13 @@ struct CSanZhouCSXMRow {
     float m_fWY;            ///< cell pressure, kPa
     float m_fSYGD;          ///< specimen height, mm
     float m_fSYZJ;          ///< specimen diameter, mm
-    float m_fCLHXS;         ///< proving ring coefficient
+    float m_fCLHXS;         ///< proving ring coefficient, N a dial unit
     float m_fGJKXYL;        ///< pore pressure under the cell pressure, kPa
-    float m_fCLHDS;         ///< ring dial reading
+    float m_fCLHDS;         ///< proving ring reading, dial units
     float m_fZXBX;          ///< axial deformation, 0.01 mm
-    float m_fJQPS;          ///< water drained during shear, cm3
+    float m_fJQPS;          ///< water drained during shear, cm³
     float m_fKXYL;          ///< pore pressure during shear, kPa
-    float m_fGJPS;          ///< water drained during consolidation, cm3
+    float m_fGJPS;          ///< water drained during consolidation, cm³; of either sign
     std::int8_t m_nJLLX;    ///< 0 curve point, 1 Mohr point, 2 both
 };
 

@@ -3,6 +3,7 @@
 #include "analysis/numbers.h"
 #include "commands/session_flags.h"
 #include "commands/text_conversion.h"
+#include "drawing/explode_set.h"
 #include "platform/acad/db_text.h"
 
 #include <memory>
@@ -23,7 +24,7 @@ void ExplodeChartText(AcDbVoidPtrArray& entitySet, const AcGePoint3d& ptPosition
                       int nDirection, const AcGiTextStyle& style, AcDbObjectId idStyle) {
     auto pText = std::make_unique<AcDbText>(ptPosition, ToWide(strText), idStyle, style.textSize(),
                                             nDirection == 0 ? 0.0 : g_dHalfPi);
-    entitySet.append(static_cast<AcDbEntity*>(pText.release()));
+    HandOver(entitySet, std::move(pText));
 }
 
 double MeasureTextWidth(const CString& strText, AcDbObjectId idStyle, double dHeight) {

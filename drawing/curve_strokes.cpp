@@ -1,7 +1,9 @@
 #include "drawing/curve_strokes.h"
 
 #include "drawing/dashed_scope.h"
+#include "drawing/explode_set.h"
 #include "drawing/polyline_output.h"
+#include "drawing/polyline_vertices.h"
 #include "platform/acad/db_spline.h"
 
 #include <memory>
@@ -16,7 +18,7 @@ constexpr Adesk::UInt16 g_nDotColor = 1;
 /// Fills an empty polyline with the outline of a dot.
 void FillDot(AcDbPolyline& dot, const AcGePoint3d& point) {
     for (const double dReach : {g_dDotReach, -g_dDotReach, g_dDotReach})
-        dot.addVertexAt(dot.numVerts(), {point.x, point.y + dReach}, 1.0, g_dDotWidth, g_dDotWidth);
+        AppendVertex(dot, {{point.x, point.y + dReach}, 1.0, g_dDotWidth, g_dDotWidth});
 }
 } // namespace
 
@@ -48,13 +50,13 @@ void DrawCurveDots(const AcGePoint3dArray& points, Adesk::Int16 nPolylineMode, A
 void AddSolidCurve(AcDbVoidPtrArray& entitySet, const AcGePoint3dArray& points, Adesk::UInt16 nColor) {
     auto pCurve = std::make_unique<AcDbSpline>(points);
     pCurve->setColorIndex(nColor);
-    entitySet.append(static_cast<AcDbEntity*>(pCurve.release()));
+    HandOver(entitySet, std::move(pCurve));
 }
 
 void AddDashedCurve(AcDbVoidPtrArray& entitySet, const AcGePoint3dArray& points) {
     auto pCurve = std::make_unique<AcDbSpline>(points);
     SetDashed(*pCurve);
-    entitySet.append(static_cast<AcDbEntity*>(pCurve.release()));
+    HandOver(entitySet, std::move(pCurve));
 }
 
 void AddCurveDots(const AcGePoint3dArray& points, AcDbVoidPtrArray& entitySet) {
@@ -62,6 +64,6 @@ void AddCurveDots(const AcGePoint3dArray& points, AcDbVoidPtrArray& entitySet) {
         auto pDot = std::make_unique<AcDbPolyline>(g_nDotVertices);
         FillDot(*pDot, point);
         pDot->setColorIndex(g_nDotColor);
-        entitySet.append(static_cast<AcDbEntity*>(pDot.release()));
+        HandOver(entitySet, std::move(pDot));
     }
 }

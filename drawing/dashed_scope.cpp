@@ -1,10 +1,9 @@
 #include "drawing/dashed_scope.h"
 
-#include "drawing/styles.h"
+#include "drawing/line_types.h"
 #include "platform/acad/host_application.h"
 
 namespace {
-constexpr const char* g_pDashed = "Dashed2";
 constexpr Adesk::UInt16 g_nDashedColor = 2;
 } // namespace
 
@@ -17,7 +16,7 @@ CDashedScope::CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter)
         m_pDatabase = m_pTemporary.get();
     }
     AcDbObjectId idDashed;
-    LoadLinetypeId(g_pDashed, m_pDatabase, idDashed);
+    LoadLinetypeId(g_pDashedLinetype, m_pDatabase, idDashed);
     m_pMode->subEntityTraits().setLineType(idDashed);
     m_pMode->subEntityTraits().setColor(g_nDashedColor);
     m_pMode->subEntityTraits().setSelectionMarker(1);
@@ -25,14 +24,14 @@ CDashedScope::CDashedScope(AcGiWorldDraw* pMode, Adesk::UInt16 nColorAfter)
 
 CDashedScope::~CDashedScope() {
     AcDbObjectId idContinuous;
-    LoadLinetypeId("Continuous", m_pDatabase, idContinuous);
+    LoadLinetypeId(g_pContinuousLinetype, m_pDatabase, idContinuous);
     m_pMode->subEntityTraits().setLineType(idContinuous);
     m_pMode->subEntityTraits().setColor(m_nColorAfter);
 }
 
 void SetDashed(AcDbEntity& entity) {
     AcDbObjectId idDashed;
-    LoadLinetypeId(g_pDashed, nullptr, idDashed);
+    LoadLinetypeId(g_pDashedLinetype, nullptr, idDashed);
     entity.setLinetype(idDashed);
     entity.setColorIndex(g_nDashedColor);
 }

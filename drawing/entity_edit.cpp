@@ -1,6 +1,6 @@
 #include "drawing/entity_edit.h"
 
-#include "platform/acad/db_polyline.h"
+#include "drawing/polyline_vertices.h"
 
 #include <algorithm>
 
@@ -43,8 +43,7 @@ int ReverseIfLeftward(AcDbObjectId idPolyline) {
     const std::vector<CPolylineVertex> reversed = Reversed(pPolyline->Vertices());
     pPolyline->reset(Adesk::kTrue, pPolyline->numVerts());
     for (const CPolylineVertex& vertex : reversed)
-        pPolyline->addVertexAt(pPolyline->numVerts(), vertex.m_pt, vertex.m_dBulge, vertex.m_dStartWidth,
-                               vertex.m_dEndWidth);
+        AppendVertex(*pPolyline.Get(), vertex);
     return 1;
 }
 

@@ -4,7 +4,9 @@
 #include "drawing/chart_text.h"
 #include "drawing/curve_strokes.h"
 #include "drawing/dashed_scope.h"
+#include "drawing/explode_set.h"
 #include "drawing/line_entities.h"
+#include "drawing/line_types.h"
 #include "drawing/styles.h"
 #include "platform/acad/db_arc.h"
 
@@ -12,7 +14,7 @@ void CExplodeSink::DashLast() {
     SetDashed(*static_cast<AcDbEntity*>(m_entitySet.last()));
     // Only so that the drawing has this line type as it has after the world form.
     AcDbObjectId idContinuous;
-    LoadLinetypeId("Continuous", nullptr, idContinuous);
+    LoadLinetypeId(g_pContinuousLinetype, nullptr, idContinuous);
 }
 
 void CExplodeSink::Line(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) {
@@ -54,7 +56,7 @@ void CExplodeSink::Dots(const AcGePoint3dArray& points) {
 }
 
 void CExplodeSink::HalfCircle(const AcGePoint3d& ptCenter, double dRadius) {
-    m_entitySet.append(static_cast<AcDbEntity*>(new AcDbArc(ptCenter, dRadius, 0.0, g_dPi)));
+    HandOver(m_entitySet, std::make_unique<AcDbArc>(ptCenter, dRadius, 0.0, g_dPi));
 }
 
 void CExplodeSink::DashedHalfCircle(const AcGePoint3d& ptCenter, double dRadius) {

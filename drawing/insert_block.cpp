@@ -8,6 +8,9 @@
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/selection.h"
 
+#include <algorithm>
+#include <memory>
+
 namespace {
 AcGePoint3d FirstStretchPoint(AcDbObjectId idEntity) {
     AcGePoint3dArray points;

@@ -1,33 +1,27 @@
 #include "drawing/line_entities.h"
 
-#include "platform/acad/db_polyline.h"
+#include "drawing/explode_set.h"
+#include "drawing/polyline_vertices.h"
 
 namespace {
-constexpr double g_dDefaultWidth = -1.0;
-
-struct CWidths {
-    double m_dStart = g_dDefaultWidth, m_dEnd = g_dDefaultWidth;
-};
-
-void AddTwoPoints(AcDbVoidPtrArray& entitySet, const AcGePoint3d& from, const AcGePoint3d& to, CWidths atFrom,
-                  CWidths atTo) {
-    auto* pLine = new AcDbPolyline(2);
-    pLine->addVertexAt(0, {from.x, from.y}, 0.0, atFrom.m_dStart, atFrom.m_dEnd);
-    pLine->addVertexAt(1, {to.x, to.y}, 0.0, atTo.m_dStart, atTo.m_dEnd);
-    entitySet.append(static_cast<AcDbEntity*>(pLine));
+void AddTwoVertices(AcDbVoidPtrArray& entitySet, const CPolylineVertex& from, const CPolylineVertex& to) {
+    auto pLine = std::make_unique<AcDbPolyline>(2);
+    for (const CPolylineVertex& vertex : {from, to})
+        AppendVertex(*pLine, vertex);
+    HandOver(entitySet, std::move(pLine));
 }
 } // namespace
 
 void AddLineEntity(AcDbVoidPtrArray& entitySet, const AcGePoint3d& from, const AcGePoint3d& to) {
-    AddTwoPoints(entitySet, from, to, {}, {});
+    AddTwoVertices(entitySet, {{from.x, from.y}}, {{to.x, to.y}});
 }
 
 void AddWideLineEntity(AcDbVoidPtrArray& entitySet, const AcGePoint3d& from, const AcGePoint3d& to,
                        double dWidth) {
-    AddTwoPoints(entitySet, from, to, {dWidth, dWidth}, {dWidth, dWidth});
+    AddTwoVertices(entitySet, {{from.x, from.y}, 0.0, dWidth, dWidth}, {{to.x, to.y}, 0.0, dWidth, dWidth});
 }
 
 void AddArrowEntity(AcDbVoidPtrArray& entitySet, const AcGePoint3d& from, const AcGePoint3d& to,
                     double dWidth) {
-    AddTwoPoints(entitySet, from, to, {dWidth, 0.0}, {});
+    AddTwoVertices(entitySet, {{from.x, from.y}, 0.0, dWidth, 0.0}, {{to.x, to.y}});
 }

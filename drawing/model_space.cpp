@@ -1,10 +1,10 @@
 #include "drawing/model_space.h"
 
-#include "platform/acad/host_application.h"
+#include "drawing/working_drawing.h"
 #include "platform/windows/code_page.h"
 
 int AppendToModelSpace(AcDbDatabase*& pDatabase, AcDbObjectId& idEntity, AcDbEntity* pEntity) {
-    if (!pDatabase) pDatabase = acdbHostApplicationServices()->workingDatabase();
+    pDatabase = OrWorking(pDatabase);
     if (!pDatabase || !pEntity) return 0;
     AcDbBlockTable* pTable = nullptr;
     if (pDatabase->getBlockTable(pTable, AcDb::kForRead) != Acad::eOk) return 0;

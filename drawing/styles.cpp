@@ -4,23 +4,19 @@
 #include "commands/text_conversion.h"
 #include "data/project_context.h"
 #include "data/show_message.h"
+#include "drawing/working_drawing.h"
 #include "platform/acad/db_id_mapping.h"
 #include "platform/acad/editor.h"
-#include "platform/acad/host_application.h"
 #include "platform/windows/profile.h"
 
 #include <array>
 #include <cstdlib>
+#include <memory>
 
 AcGiTextStyle g_ChartTextStyle;
 
 namespace {
 constexpr int g_nGb2312Charset = 134;
-constexpr double g_dDashedScale = 10.0;
-
-AcDbDatabase* OrWorking(AcDbDatabase* pDatabase) {
-    return pDatabase ? pDatabase : acdbHostApplicationServices()->workingDatabase();
-}
 
 /// One text style section of the settings ini. Numbers pass through single precision, as they are kept.
 struct CStyleSettings {
@@ -61,15 +57,14 @@ void Apply(const CStyleSettings& settings, int nPitchAndFamily, AcDbTextStyleTab
     record.setXScale(settings.m_fWidthFactor);
 }
 
-/// A new style of that name in the table, filled before it is closed; its id.
+/// A new style of that name in the table, filled; its id. Null when the table takes none of the name.
 template <class Fill>
 AcDbObjectId AddStyle(AcDbTextStyleTable& table, const CString& strName, Fill fill) {
-    auto* pRecord = new AcDbTextStyleTableRecord;
+    auto pRecord = std::make_unique<AcDbTextStyleTableRecord>();
     pRecord->setName(ToWide(strName));
     fill(*pRecord);
     AcDbObjectId id;
-    table.add(id, pRecord);
-    pRecord->close();
+    if (table.add(id, pRecord.get()) == Acad::eOk) pRecord.release()->close();
     return id;
 }
 
@@ -84,20 +79,6 @@ AcDbObjectId FillStyle(AcDbTextStyleTable& table, const CString& strName, Fill f
     return id;
 }
 
-/// The line type's id if the drawing has it; else it is loaded, and the id stays as it was.
-Acad::ErrorStatus FindOrLoadLinetype(const CString& strName, AcDbDatabase& database,
-                                     AcDbObjectId& idLinetype) {
-    AcDbLinetypeTable* pTable = nullptr;
-    if (const Acad::ErrorStatus status = database.getLinetypeTable(pTable, AcDb::kForRead);
-        status != Acad::eOk)
-        return status;
-    const Acad::ErrorStatus found = pTable->getAt(ToWide(strName), idLinetype);
-    pTable->close();
-    if (found == Acad::eOk) return found;
-    const Acad::ErrorStatus loaded = database.loadLineTypeFile(ToWide(strName), L"acad.lin");
-    if (loaded != Acad::eOk) acutPrintf(L"未找到线型");
-    return loaded;
-}
 } // namespace
 
 void SetupChartTextStyle(AcGiTextStyle& style) {
@@ -114,39 +95,17 @@ void SetupHeadingTextStyle(AcGiTextStyle& style) {
 
 int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDatabase* pDatabase) {
     pDatabase = OrWorking(pDatabase);
-    AcDbTextStyleTable* pTable = nullptr;
-    const Acad::ErrorStatus status =
-        pDatabase ? pDatabase->getTextStyleTable(pTable, AcDb::kForWrite) : Acad::eNoDatabase;
+    if (!pDatabase) return 1;
+    const CDbOpen<AcDbTextStyleTable> pTable(pDatabase->textStyleTableId(), AcDb::kForWrite);
+    if (!pTable) return 1;
     const CStyleSettings settings(strName);
-    if (status != Acad::eOk) return 1;
-
     if (pTable->getAt(ToWide(strName), idStyle) == Acad::eOk) {
-        CDbOpen<AcDbTextStyleTableRecord> pRecord(idStyle, AcDb::kForWrite);
+        const CDbOpen<AcDbTextStyleTableRecord> pRecord(idStyle, AcDb::kForWrite);
         if (pRecord) Apply(settings, 1, *pRecord.Get());
     } else {
-        idStyle = AddStyle(*pTable, strName, [&](auto& record) { Apply(settings, 4, record); });
+        idStyle = AddStyle(*pTable.Get(), strName, [&](auto& record) { Apply(settings, 4, record); });
     }
     pDatabase->setTextstyle(idStyle);
-    pTable->close();
-    return 1;
-}
-
-int LoadLinetypeId(const CString& strName, AcDbDatabase* pDatabase, AcDbObjectId& idLinetype) {
-    pDatabase = OrWorking(pDatabase);
-    if (!pDatabase || FindOrLoadLinetype(strName, *pDatabase, idLinetype) != Acad::eOk) return 0;
-    if (strName == "Dashed2") pDatabase->setLtscale(g_dDashedScale);
-    return 1;
-}
-
-int SetCurrentLinetype(const CString& strName, AcDbDatabase* pDatabase) {
-    pDatabase = OrWorking(pDatabase);
-    AcDbObjectId idLinetype;
-    if (!pDatabase || FindOrLoadLinetype(strName, *pDatabase, idLinetype) != Acad::eOk) return 0;
-    if (idLinetype.isNull()) { // loaded just now
-        const CDbOpen<AcDbLinetypeTable> pTable(pDatabase->linetypeTableId());
-        if (!pTable || pTable->getAt(ToWide(strName), idLinetype) != Acad::eOk) return 0;
-    }
-    pDatabase->setCeltype(idLinetype);
     return 1;
 }
 
@@ -171,27 +130,6 @@ int CreateShxTextStyle(const CString& strName, const CString& strFontFile, const
         });
     pDatabase->setTextstyle(idStyle);
     return 1;
-}
-
-Acad::ErrorStatus LayerIdByName(const CString& strName, AcDbObjectId& idLayer, AcDbDatabase* pDatabase) {
-    pDatabase = OrWorking(pDatabase);
-    if (!pDatabase) return Acad::eNoDatabase;
-    const CDbOpen<AcDbLayerTable> pTable(pDatabase->layerTableId());
-    return pTable ? pTable->getAt(ToWide(strName), idLayer) : pTable.Status();
-}
-
-int SetLayerZeroLinetype(const CString& strName) {
-    AcDbDatabase* const pDatabase = OrWorking(nullptr);
-    AcDbObjectId idLayer;
-    if (!pDatabase || LayerIdByName("0", idLayer, pDatabase) != Acad::eOk) return 0;
-    AcDbObjectId idLinetype;
-    const CDbOpen<AcDbLinetypeTable> pLinetypes(pDatabase->linetypeTableId());
-    if (pLinetypes && pLinetypes->getAt(ToWide(strName), idLinetype) != Acad::eOk) {
-        acutPrintf(L"\nUnable to find DASHED linetype. Using CONTINUOUS");
-        pLinetypes->getAt(L"CONTINUOUS", idLinetype);
-    }
-    const CDbOpen<AcDbLayerTableRecord> pLayer(idLayer, AcDb::kForWrite);
-    return pLayer && pLayer->setLinetypeObjectId(idLinetype) == Acad::eOk;
 }
 
 int AddBannerTextStyle(const AcGiTextStyle& style, AcDbObjectId& idStyle) {

@@ -1,5 +1,5 @@
 #pragma once
-// Text and line styles on which the chart's look rests.
+// Text styles on which the chart's look rests.
 
 #include "platform/acad/db_database.h"
 #include "platform/acad/gi_text_style.h"
@@ -22,26 +22,10 @@ void SetupHeadingTextStyle(AcGiTextStyle& style);
 /// Returns 1.
 int CreateTextStyleFromIni(const CString& strName, AcDbObjectId& idStyle, AcDbDatabase* pDatabase);
 
-/// Id of a line type; one that the drawing lacks is loaded from "acad.lin", and then the id stays as it was
-/// until the next lookup. A lookup of "Dashed2" also sets the drawing's line type scale to 10. A null
-/// database is the working one. 1, or 0 when it could not be loaded.
-int LoadLinetypeId(const CString& strName, AcDbDatabase* pDatabase, AcDbObjectId& idLinetype);
-
-/// Makes a line type the current one, loaded first when the drawing lacks it; the scale stays. 1, or 0 when
-/// it could not be loaded.
-int SetCurrentLinetype(const CString& strName, AcDbDatabase* pDatabase);
-
 /// Makes the text style of that name from two shape-font files, unless the drawing has one of the name, and
 /// makes it current. 1, or 0 after a message when the host finds one of the files nowhere.
 int CreateShxTextStyle(const CString& strName, const CString& strFontFile, const CString& strBigFontFile,
                        AcDbDatabase* pDatabase, AcDbObjectId& idStyle);
-
-/// The id of a layer; what the lookup answers comes back.
-Acad::ErrorStatus LayerIdByName(const CString& strName, AcDbObjectId& idLayer, AcDbDatabase* pDatabase);
-
-/// Gives layer "0" of the working drawing a line type by name; one that the drawing lacks is told and
-/// replaced by CONTINUOUS. 1 when the layer could be changed.
-int SetLayerZeroLinetype(const CString& strName);
 
 /// Makes the text style g_pSheetTextStyle in the working drawing after the look of a world form's
 /// style, unless the drawing has it. 1 with the id when it is there afterwards.

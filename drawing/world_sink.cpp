@@ -5,13 +5,13 @@
 #include "drawing/curve_strokes.h"
 #include "drawing/dashed_scope.h"
 #include "drawing/polyline_output.h"
+#include "drawing/polyline_vertices.h"
 #include "drawing/styles.h"
 
 void CWorldSink::TwoVertices(const CPolylineVertex& from, const CPolylineVertex& to) {
     m_polyline.reset(Adesk::kTrue, 2);
     for (const CPolylineVertex& vertex : {from, to})
-        m_polyline.addVertexAt(m_polyline.numVerts(), vertex.m_pt, vertex.m_dBulge, vertex.m_dStartWidth,
-                               vertex.m_dEndWidth);
+        AppendVertex(m_polyline, vertex);
     DrawPolylineByMode(m_nPolylineMode, m_pMode, m_polyline);
 }
 

@@ -1,7 +1,9 @@
 // The frame's two forms of output.
 
+#include "drawing/explode_set.h"
 #include "drawing/line_entities.h"
 #include "drawing/polyline_output.h"
+#include "drawing/polyline_vertices.h"
 #include "drawing/styles.h"
 #include "frame/frame_entity.h"
 #include "frame/frame_picture.h"
@@ -23,8 +25,8 @@ public:
     }
     void Rule(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override {
         AcDbPolyline rule(2);
-        rule.addVertexAt(0, {ptFrom.x, ptFrom.y});
-        rule.addVertexAt(1, {ptTo.x, ptTo.y});
+        for (const AcGePoint3d& pt : {ptFrom, ptTo})
+            AppendVertex(rule, {{pt.x, pt.y}});
         Outline(rule);
     }
     void Text(const AcGePoint3d& ptPosition, const CString& strText) override {
@@ -47,11 +49,10 @@ public:
         , m_styles(StylesOf(frame)) {}
 
     void Outline(const AcDbPolyline& polyline) override {
-        auto* const pPolyline = new AcDbPolyline(polyline.numVerts());
+        auto pPolyline = std::make_unique<AcDbPolyline>(polyline.numVerts());
         for (const CPolylineVertex& vertex : polyline.Vertices())
-            pPolyline->addVertexAt(pPolyline->numVerts(), vertex.m_pt, vertex.m_dBulge, vertex.m_dStartWidth,
-                                   vertex.m_dEndWidth);
-        m_entitySet.append(static_cast<AcDbEntity*>(pPolyline));
+            AppendVertex(*pPolyline, vertex);
+        HandOver(m_entitySet, std::move(pPolyline));
     }
     void Rule(const AcGePoint3d& ptFrom, const AcGePoint3d& ptTo) override {
         AddLineEntity(m_entitySet, ptFrom, ptTo);

@@ -1,13 +1,12 @@
 #include "frame/frame_picture.h"
 
 #include "commands/sheet_layout.h"
+#include "drawing/polyline_vertices.h"
 #include "drawing/styles.h"
 #include "frame/frame_entity.h"
-#include "platform/acad/db_polyline.h"
+#include "frame/sheet_area.h"
 
 namespace {
-constexpr double g_dWidth = 176.0;
-constexpr double g_dHeight = 257.0;
 constexpr double g_dRuleBelowTop = 12.5;
 constexpr double g_dLabelSize = 3.8;
 constexpr double g_dValueSize = 3.0;
@@ -49,13 +48,13 @@ private:
     const CFrameForm& m_form;
 };
 
-constexpr double g_dSignatureLine = -g_dHeight - g_dSignatureDrop;
+constexpr double g_dSignatureLine = -g_dAreaHeight - g_dSignatureDrop;
 
 void CTexts::Heading() const {
     AcGiTextStyle style;
     SetupHeadingTextStyle(style);
     // Set as for a text of height 8, though its size is the style's.
-    m_sink.Cell({At(0.0, 10.0), g_dWidth, 10.0, 8.0, "三轴剪切试验成果图表"}, style);
+    m_sink.Cell({At(0.0, 10.0), g_dAreaWidth, 10.0, 8.0, "三轴剪切试验成果图表"}, style);
 }
 
 void CTexts::Entry(double x, double y, const char* pLabel, double dValueSize, const CString& strValue) const {
@@ -131,16 +130,16 @@ void DescribeFrameLines(CFrameSink& sink, const CBRENFrame& frame) {
     const double dBorder = frame.m_dBorderWidth;
     // It ends half its width above its start, which closes the corner.
     const AcGePoint2d corners[] = {{ptBase.x, ptBase.y},
-                                   {ptBase.x + g_dWidth, ptBase.y},
-                                   {ptBase.x + g_dWidth, ptBase.y - g_dHeight},
-                                   {ptBase.x, ptBase.y - g_dHeight},
+                                   {ptBase.x + g_dAreaWidth, ptBase.y},
+                                   {ptBase.x + g_dAreaWidth, ptBase.y - g_dAreaHeight},
+                                   {ptBase.x, ptBase.y - g_dAreaHeight},
                                    {ptBase.x, ptBase.y + dBorder / 2.0}};
     AcDbPolyline border(5);
     for (const AcGePoint2d& ptCorner : corners)
-        border.addVertexAt(border.numVerts(), ptCorner, 0.0, dBorder, dBorder);
+        AppendVertex(border, {ptCorner, 0.0, dBorder, dBorder});
     sink.Outline(border);
     sink.Rule(ptBase + AcGeVector3d(0.0, -g_dRuleBelowTop, 0.0),
-              ptBase + AcGeVector3d(g_dWidth, -g_dRuleBelowTop, 0.0));
+              ptBase + AcGeVector3d(g_dAreaWidth, -g_dRuleBelowTop, 0.0));
 }
 
 void DescribeFrameTexts(CFrameSink& sink, const CBRENFrame& frame, const CFrameForm& form) {

@@ -2,6 +2,7 @@
 
 #include "commands/text_conversion.h"
 #include "drawing/chart_text.h"
+#include "drawing/explode_set.h"
 #include "drawing/styles.h"
 #include "platform/acad/db_text.h"
 
@@ -25,7 +26,7 @@ void AddText(AcDbVoidPtrArray& entitySet, const AcGePoint3d& ptPosition, const C
              AcDbObjectId idStyle, double dHeight) {
     auto pText = std::make_unique<AcDbText>(ptPosition, ToWide(strText), idStyle, dHeight, 0.0);
     pText->setWidthFactor(g_dWidthFactor);
-    entitySet.append(static_cast<AcDbEntity*>(pText.release()));
+    HandOver(entitySet, std::move(pText));
 }
 } // namespace
 

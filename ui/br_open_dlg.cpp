@@ -7,6 +7,7 @@
 #include "data/criteria.h"
 #include "data/project_context.h"
 #include "data/san_zhou_csxm_record.h"
+#include "data/show_message.h"
 #include "data/table_errors.h"
 #include "platform/mfc/data_exchange.h"
 #include "platform/mfc/file_find.h"
@@ -16,9 +17,9 @@
 namespace {
 
 constexpr const char* g_pAllSamples = "全部";
-constexpr const char* g_pAllSamplesFile = "BR全部-全部试样.dwg";
-constexpr const char* g_pChartFiles = "BR*.dwg";
-constexpr int g_nEnding = 4; // ".dwg"
+constexpr const char* g_pChartFiles = "BR*";
+constexpr const char* g_pEnding = ".dwg";
+constexpr int g_nEnding = 4; // its length
 
 int g_nSelectedAlone = 0; ///< the entry selected last, of the dialog before where none was yet
 
@@ -54,7 +55,7 @@ BOOL CBROpenDlg::OnInitDialog() {
     m_nGCSY = GetProjectIndex();
     m_strOpenGCBH = ReadProjectText("GCBH");
     if (!ListBoreholes()) return FALSE;
-    if (ListCharts(g_pAllSamplesFile) > 0) m_listZK.AddString(g_pAllSamples);
+    if (ListCharts(g_pAllSamplesTitle) > 0) m_listZK.AddString(g_pAllSamples);
     m_listZK.SetCurSel(0);
     ListChartsOfBorehole();
     return TRUE;
@@ -93,7 +94,7 @@ void CBROpenDlg::ListChartsOfBorehole() {
 int CBROpenDlg::ListCharts(const char* pattern) {
     CFileFind find;
     int nFiles = 0;
-    BOOL bMore = find.FindFile(ChartFolder(m_strOpenGCBH) + "\\" + pattern);
+    BOOL bMore = find.FindFile(ChartFolder(m_strOpenGCBH) + "\\" + pattern + g_pEnding);
     for (; bMore; nFiles++) {
         bMore = find.FindNextFile();
         const CString strTitle = TitleOf(find.GetFilePath());

@@ -31,8 +31,8 @@ private:
     void ShowPreset();
     int ListBoreholes();
     void ListChartsOfBorehole();
-    /// Adds the drawings of the current borehole whose file names fit the pattern; gives the number of all
-    /// that fit.
+    /// Adds the drawings of the current borehole whose titles fit the pattern; gives the number of all that
+    /// fit.
     int ListCharts(const char* pattern);
     void OnZKChange();
     void OnSampleDblClk();

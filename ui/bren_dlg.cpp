@@ -1,10 +1,10 @@
 #include "ui/bren_dlg.h"
 
 #include "commands/chart_marks.h"
-#include "commands/text_lists.h"
 #include "data/project_context.h"
+#include "data/show_message.h"
 #include "platform/acad/editor.h"
-#include "platform/windows/profile.h"
+#include "ui/chart_titles.h"
 #include "ui/resources.h"
 #include "ui/sample_context.h"
 #include "ui/selection_keys.h"
@@ -164,12 +164,11 @@ void CBRENDlg::MarkSelection() {
 }
 
 void CBRENDlg::WriteAllMarks() const {
-    CString boreholes;
+    CStringArray boreholes;
     for (const arZKBH& record : m_pageGen.m_arByZK) {
-        WritePrivateProfileStringA(g_pMarksSection, SampleMarksKey(record.m_strZKBH),
-                                   JoinTexts(record.m_saQY, '@'), g_strMarksIni);
-        boreholes += record.m_strZKBH + "@";
+        WriteMarks(g_pMarksSection, SampleMarksKey(record.m_strZKBH), record.m_saQY, g_strMarksIni);
+        boreholes.Add(record.m_strZKBH);
     }
-    WritePrivateProfileStringA(g_pMarksSection, BoreholeMarksKey(), boreholes + "BR全部-全部试样",
-                               g_strMarksIni);
+    boreholes.Add(g_pAllSamplesTitle);
+    WriteMarks(g_pMarksSection, BoreholeMarksKey(), boreholes, g_strMarksIni);
 }

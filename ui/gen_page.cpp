@@ -6,6 +6,7 @@
 #include "data/project_context.h"
 #include "data/san_zhou_csxm_record.h"
 #include "data/san_zhou_record.h"
+#include "data/show_message.h"
 #include "data/suite_statements.h"
 #include "platform/acad/editor.h"
 #include "platform/mfc/data_exchange.h"

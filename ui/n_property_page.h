@@ -2,6 +2,8 @@
 
 #include "platform/mfc/property_page.h"
 
+#include <memory>
+
 /// Base of the module's pages: it carries its dialog resource with it, so it does not depend on the resources
 /// that the host searches.
 class CNPropertyPage : public CPropertyPage {

@@ -7,10 +7,10 @@ struct QYPropty {
     CString m_strZKBH;
     CString m_strQYBH;
     CString m_strSYFF;
-    CString m_strDepth;
-    CString m_strWater;
-    CString m_strIL; ///< liquidity index
-    CString m_strIP; ///< plasticity index
+    CString m_strDepth; ///< of its top, m
+    CString m_strWater; ///< water content, percent
+    CString m_strIL;    ///< liquidity index
+    CString m_strIP;    ///< plasticity index
     CString m_strLayer;
 };
 

@@ -1,4 +1,4 @@
-#include "analysis/reduction.h"
+#include "analysis/scales.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

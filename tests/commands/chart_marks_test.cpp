@@ -31,6 +31,15 @@ protected:
 
 } // namespace
 
+TEST_F(ChartMarks, AreWrittenInPlaceOfTheFormerOnes) {
+    Store("1-3");
+    CStringArray marks;
+    for (const char* pMark : {"1-1", "1-2"})
+        marks.Add(pMark);
+    WriteMarks(SECTION, KEY, marks, File().c_str());
+    EXPECT_EQ(Stored(), "1-1@1-2");
+}
+
 TEST_F(ChartMarks, LoadPutsAMarkBeforeEntriesThatTheKeyNames) {
     Store("1-3@1-1");
     LoadMarks(SECTION, KEY, &m_several, File().c_str());

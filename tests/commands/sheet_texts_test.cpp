@@ -47,6 +47,13 @@ TEST_F(SheetTexts, AreLevelTextsOfHeightTwoAndAHalfWithoutAStyle) {
     EXPECT_EQ(pText->StyleName(), "Standard");
 }
 
+TEST_F(SheetTexts, AreLeftOutWithoutADrawing) {
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    AddSheetText({28.0, 251.0, 4.0}, "试样编号：ZK1-1"); // which must not leak
+    acdbHostApplicationServices()->setWorkingDatabase(&m_drawing.Database());
+    EXPECT_EQ(Texts(), CTexts());
+}
+
 TEST_F(SheetTexts, OfAStripShowWhatTheDialogHasShown) {
     CBRENDlg dialog("test");
     std::tm day{};

@@ -46,6 +46,13 @@ TEST_F(ProjectContext, ReadsATextUpTo1023Bytes) {
     EXPECT_EQ(ReadProjectText("GCBH"), CString(std::string(1023, 'x')));
 }
 
+TEST_F(ProjectContext, ReadsANumberOrMinusOne) {
+    SetProject("GCBZ", nullptr);
+    EXPECT_EQ(ReadProjectNumber("GCBZ"), -1);
+    SetProject("GCBZ", "2");
+    EXPECT_EQ(ReadProjectNumber("GCBZ"), 2);
+}
+
 TEST_F(ProjectContext, NamesTheDataManagersWindowByTheEdition) {
     EXPECT_EQ(GetDataManagerClass(), CString("QMDBMANAGERE4"));
     for (const char* pszEdition : {"0", "1", "2", "3", "4"}) {

@@ -5,7 +5,7 @@
 namespace {
 class SharedFields : public CTitleFieldsTest {
 protected:
-    void Add(CFieldRow row) {
+    void Add(CTitleFieldRow row) {
         row.t_hb = 1;
         m_config.Add(row);
     }

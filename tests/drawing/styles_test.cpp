@@ -84,60 +84,12 @@ TEST_F(Styles, AnExistingTextStyleIsBroughtUpToDate) {
     EXPECT_EQ(pRecord->textSize(), static_cast<double>(2.3F));
 }
 
-TEST_F(Styles, FirstLookupOfDashedLoadsItButGivesNoId) {
-    AcDbObjectId id;
-    EXPECT_EQ(LoadLinetypeId("Dashed2", nullptr, id), 1);
-    EXPECT_TRUE(id.isNull());
-    EXPECT_EQ(m_drawing.Database().ltscale(), 10.0);
-    EXPECT_EQ(LoadLinetypeId("Dashed2", nullptr, id), 1);
-    EXPECT_FALSE(id.isNull());
-    EXPECT_EQ(SymbolName(id), "Dashed2");
-}
-
-TEST_F(Styles, EveryLookupOfDashedSetsTheScaleThatAUserMayHaveChanged) {
-    AcDbObjectId id;
-    LoadLinetypeId("Dashed2", nullptr, id);
-    m_drawing.Database().setLtscale(1.5);
-    LoadLinetypeId("Dashed2", nullptr, id);
-    EXPECT_EQ(m_drawing.Database().ltscale(), 10.0);
-}
-
-TEST_F(Styles, OtherLookupsLeaveTheScale) {
-    m_drawing.Database().setLtscale(1.5);
-    AcDbObjectId id;
-    EXPECT_EQ(LoadLinetypeId("Continuous", nullptr, id), 1);
-    EXPECT_FALSE(id.isNull());
-    EXPECT_EQ(m_drawing.Database().ltscale(), 1.5);
-    LoadLinetypeId("Dashed2", nullptr, id);
-    m_drawing.Database().setLtscale(1.5);
-    EXPECT_EQ(LoadLinetypeId("DASHED2", nullptr, id), 1); // found in any case, but not the name that is meant
-    EXPECT_EQ(m_drawing.Database().ltscale(), 1.5);
-}
-
-TEST_F(Styles, AMissingLineTypeIsToldAndLeavesTheId) {
-    AcDbObjectId id;
-    EXPECT_EQ(LoadLinetypeId("Zigzag", nullptr, id), 0);
-    EXPECT_TRUE(id.isNull());
-    EXPECT_EQ(m_drawing.m_strPrinted, "未找到线型");
-}
-
 TEST_F(Styles, HeadingStyleLooksLikeTheChartsOwn) {
     AcGiTextStyle style;
     SetupHeadingTextStyle(style);
     EXPECT_STREQ(style.fileName(), L"仿宋_GB2312");
     EXPECT_EQ(style.textSize(), 2.5);
     EXPECT_EQ(style.trackingPercent(), 80.0);
-}
-
-TEST_F(Styles, CurrentLineTypeIsLoadedAndLeavesTheScale) {
-    EXPECT_EQ(SetCurrentLinetype("Dashed2", nullptr), 1);
-    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Dashed2");
-    EXPECT_EQ(m_drawing.Database().ltscale(), 1.0);
-    EXPECT_EQ(SetCurrentLinetype("Continuous", nullptr), 1);
-    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Continuous");
-    EXPECT_EQ(SetCurrentLinetype("Zigzag", nullptr), 0);
-    EXPECT_EQ(SymbolName(m_drawing.Database().celtype()), "Continuous");
-    EXPECT_EQ(m_drawing.m_strPrinted, "未找到线型");
 }
 
 TEST_F(Styles, ShapeFontStyleNeedsBothFiles) {
@@ -157,25 +109,17 @@ TEST_F(Styles, ShapeFontStyleNeedsBothFiles) {
     EXPECT_EQ(idAgain, id);
 }
 
-TEST_F(Styles, LayersAreFoundByName) {
+TEST_F(Styles, AStyleWithoutANameIsNotMade) {
+    const AcDbObjectId idCurrent = m_drawing.Database().textstyle();
+    const auto count = [this] { return LivingRecords(m_drawing.Database().textStyleTableId()).size(); };
+    const std::size_t nBefore = count();
     AcDbObjectId id;
-    EXPECT_EQ(LayerIdByName("0", id, nullptr), Acad::eOk);
-    EXPECT_EQ(id, m_drawing.Database().clayer());
-    EXPECT_EQ(LayerIdByName("探孔", id, nullptr), Acad::eKeyNotFound);
-}
-
-TEST_F(Styles, LayerZeroTakesALineTypeOrGoesContinuous) {
-    AcDbObjectId idDashed;
-    LoadLinetypeId("Dashed2", nullptr, idDashed);
-    const auto linetype = [&] {
-        const CDbOpen<AcDbLayerTableRecord> pLayer(m_drawing.Database().clayer());
-        return SymbolName(pLayer->linetypeObjectId());
-    };
-    EXPECT_EQ(SetLayerZeroLinetype("Dashed2"), 1);
-    EXPECT_EQ(linetype(), "Dashed2");
-    EXPECT_EQ(SetLayerZeroLinetype("DASHED"), 1);
-    EXPECT_EQ(linetype(), "Continuous");
-    EXPECT_EQ(m_drawing.m_strPrinted, "\nUnable to find DASHED linetype. Using CONTINUOUS");
+    CreateTextStyleFromIni("", id, nullptr); // what was made of it must not leak either
+    EXPECT_TRUE(id.isNull());
+    EXPECT_EQ(CreateShxTextStyle("", "acad.lin", "acad.lin", nullptr, id), 1);
+    EXPECT_TRUE(id.isNull());
+    EXPECT_EQ(count(), nBefore);
+    EXPECT_EQ(m_drawing.Database().textstyle(), idCurrent);
 }
 
 TEST_F(Styles, ASectionMayNameItsOwnShapeFonts) {
@@ -183,14 +127,6 @@ TEST_F(Styles, ASectionMayNameItsOwnShapeFonts) {
     const CDbOpen<AcDbTextStyleTableRecord> pRecord(Make());
     EXPECT_EQ(pRecord->FileName(), L"a.shx");
     EXPECT_EQ(pRecord->BigFontFileName(), L"b.shx");
-}
-
-TEST_F(Styles, ALookupOfDashedScalesTheDrawingItIsDoneIn) {
-    AcDbDatabase temporary;
-    AcDbObjectId id;
-    EXPECT_EQ(LoadLinetypeId("Dashed2", &temporary, id), 1);
-    EXPECT_EQ(temporary.ltscale(), 10.0);
-    EXPECT_EQ(m_drawing.Database().ltscale(), 1.0);
 }
 
 TEST_F(Styles, TheSheetsTextStyleIsMadeOfAWorldStyleOnce) {

@@ -8,14 +8,6 @@
 
 #include <memory>
 
-/// Every byte of a text is 0.8 of its height wide: a width that tests can compute by hand.
-class CFixedMetrics final : public CTextMetrics {
-public:
-    double AdvanceWidth(const CTextFont&, const std::string& strText) override {
-        return 0.8 * static_cast<double>(strText.size());
-    }
-};
-
 /// A drawing in force, a line type file that holds "Dashed2" (other files are found by their paths), and
 /// fixed text widths, for the length of a test. What the module prints is kept.
 class CTestDrawing final : public CEditorHost {
@@ -43,7 +35,13 @@ public:
     std::string FindFile(const std::string& strName) override;
 
 private:
-    CFixedMetrics m_metrics;
+    /// Every byte of a text is 0.8 of its height wide: a width that tests can compute by hand.
+    class CMetrics final : public CTextMetrics {
+        double AdvanceWidth(const CTextFont&, const std::string& strText) override {
+            return 0.8 * static_cast<double>(strText.size());
+        }
+    };
+    CMetrics m_metrics;
     AcDbDatabase m_database;
 };
 

@@ -9,7 +9,7 @@
 #include <string>
 
 /// A row of t_GraphTYPZ, GBK.
-struct CFieldRow {
+struct CTitleFieldRow {
     const char* t_peizhi;
     const char* t_tablename;
     const char* t_tablefield;
@@ -32,7 +32,7 @@ public:
                              "t_type integer, t_fieldtype text, t_Key text, t_XiaoShu integer, t_Where text, "
                              "t_hb integer, t_LiuBai integer, t_OthInfo text)");
     }
-    void Add(const CFieldRow& row) {
+    void Add(const CTitleFieldRow& row) {
         const auto text = [](const char* pText) {
             return "'" + std::string(SqlText(pText).GetString()) + "',";
         };
