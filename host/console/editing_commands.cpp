@@ -151,6 +151,6 @@ void CommandUndo(CHost& host) {
 }
 
 void CommandRedo(CHost& host) {
-    host.m_input.End();
-    host.Print("redone: " + std::to_string(host.Drawing().UndoLog().Redo(1)));
+    const int nSteps = Steps(host);
+    host.Print("redone: " + std::to_string(host.Drawing().UndoLog().Redo(nSteps)));
 }
