@@ -80,8 +80,7 @@ void AddArc(const AcDbArc& arc, CJson* json) {
     (*json)["radius"] = JsonNumber(arc.radius());
     (*json)["startAngle"] = JsonNumber(arc.startAngle());
     (*json)["endAngle"] = JsonNumber(arc.endAngle());
-    const AcGeVector3d normal = arc.normal();
-    (*json)["normal"] = JsonPoint(AcGePoint3d(normal.x, normal.y, normal.z));
+    (*json)["normal"] = JsonVector(arc.normal());
 }
 
 void AddProxy(const AcDbProxyEntity& proxy, CJson* json) {
