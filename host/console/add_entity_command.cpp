@@ -41,7 +41,7 @@ std::unique_ptr<AcDbEntity> MakeEntity(const CJson& json) {
 }
 
 void SetField(AcDbEntity& entity, const std::string& strName, const CJson& json, AcDbDatabase& drawing) {
-    const auto* const pTable = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const CFieldTable* const pTable = CFieldTable::Of(entity);
     const int row = pTable ? pTable->Find(GbkAnswer(strName)) : -1;
     if (row < 0) Refuse("the class has no field " + strName);
     const CFieldValue value = FieldFromJson(json, pTable->Get(entity, row), drawing);

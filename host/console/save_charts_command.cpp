@@ -30,7 +30,7 @@ struct CStoredChart {
 
 /// Empty for an entity without such a text.
 std::string TextField(const AcDbEntity& entity, const char* pName) {
-    const auto* const pFields = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const CFieldTable* const pFields = CFieldTable::Of(entity);
     const int row = pFields ? pFields->Find(pName) : -1;
     if (row < 0) return {};
     const CFieldValue value = pFields->Get(entity, row);
