@@ -18,8 +18,7 @@ void CommandUnloadModule(CHost& host) {
     const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
     std::string reason;
-    if (!host.m_modules.Unload(path, &reason))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "module " + path + " did not unload: " + reason);
+    if (!host.m_modules.Unload(path, &reason)) RefuseAnswer("module " + path + " did not unload: " + reason);
 }
 
 void CommandCommands(CHost& host) {

@@ -14,7 +14,7 @@ void CommandDump(CHost& host) {
 void CommandPlot(CHost& host) {
     const std::string path = host.m_input.FileToSave("File: ", ".pdf .svg .png");
     host.m_input.End();
-    if (!IsPlotFile(path)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .pdf, .svg or .png: " + path);
+    if (!IsPlotFile(path)) RefuseAnswer("no .pdf, .svg or .png: " + path);
     bool bGoesOn = true;
     const auto goesOn = [&](std::size_t nDone, std::size_t nPages) {
         return bGoesOn = ShowProgress("Plotting", nDone, nPages);

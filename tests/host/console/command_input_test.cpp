@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <numbers>
 #include <sstream>
 
 namespace {
@@ -65,6 +66,12 @@ TEST_F(CommandInput, CancelIsEscapeOnALineAndAWordOnTheCommandsLine) {
     EXPECT_THROW(m_input.Text(""), CCommandCancelled);
     EXPECT_EQ(m_input.Number(""), 1.5);
     EXPECT_THROW(m_input.Text(""), CRunFailure); // an empty line
+}
+
+TEST_F(CommandInput, AnAngleIsAnsweredInDegrees) {
+    m_input.Begin({{"180", false}, {"-90", false}});
+    EXPECT_DOUBLE_EQ(m_input.Angle(""), std::numbers::pi);
+    EXPECT_DOUBLE_EQ(m_input.Angle(""), -std::numbers::pi / 2.0);
 }
 
 TEST_F(CommandInput, AnOffsetIsCountedFromItsBaseOrStandsForItself) {
