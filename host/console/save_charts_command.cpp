@@ -45,14 +45,6 @@ std::vector<CStoredChart> ChartsOf(AcDbDatabase& drawing) {
     return charts;
 }
 
-/// On any system of the suite.
-bool CanStandInFileName(const std::string& strNumber) {
-    return !strNumber.empty() && std::ranges::none_of(strNumber, [](char c) {
-        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
-    });
-}
-
 /// Its number, of which the folder of its drawings is named.
 std::string RunningProject() {
     std::array<char, MAX_PATH> szIni{};
