@@ -1,5 +1,6 @@
 #include "host/files/dwg_drawing_reader.h"
 
+#include "host/files/block_check.h"
 #include "host/files/dwg_block_reader.h"
 #include "host/files/dwg_common.h"
 #include "host/files/dwg_error.h"
@@ -90,6 +91,8 @@ std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file, const CReadGoes
     MoveAside(*pDatabase, nSpare);
     ReadDwgTables(file.m_variables.m_roots, reading);
     ReadDwgBlocks(reading);
+    if (const std::optional<CBlockFault> fault = FindBlockFault(*pDatabase))
+        throw CDwgError("Block " + fault->m_strBlock + ": " + fault->m_strWhat + ".");
     ReadDwgObjects(reading);
     ReadDwgOwnParts(reading);
     ReadRelations(reading);
