@@ -91,6 +91,17 @@ double CCommandInput::Number(const std::string& strPrompt) {
     return value;
 }
 
+double CCommandInput::PositiveNumber(const std::string& strPrompt, const std::string& strWhat) {
+    double value = 0.0;
+    const auto refusal = [&strWhat](const std::string& strAnswer) {
+        double answered = 0.0;
+        if (!ParseNumber(strAnswer, &answered)) return NumberRefusal(strAnswer);
+        return answered > 0.0 ? std::string() : strWhat + " is above 0";
+    };
+    ParseNumber(GoodAnswer({strPrompt, CAnswerKind::Text, refusal}), &value);
+    return value;
+}
+
 double CCommandInput::Angle(const std::string& strPrompt) {
     return Number(strPrompt) * std::numbers::pi / 180.0;
 }

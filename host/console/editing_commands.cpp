@@ -2,9 +2,7 @@
 
 #include "host/console/append_entity.h"
 #include "host/console/host_commands.h"
-#include "host/console/numbers.h"
 #include "host/console/refusal.h"
-#include "host/console/texts.h"
 
 #include <memory>
 
@@ -114,9 +112,8 @@ void CommandRotate(CHost& host) {
 
 void CommandScale(CHost& host) {
     const CSelection selection(host);
-    const double dFactor = host.m_input.Number("Factor: ");
+    const double dFactor = host.m_input.PositiveNumber("Factor: ", "a factor");
     host.m_input.End();
-    if (dFactor <= 0.0) RefuseAnswer("a factor is above 0");
     for (const AcDbObjectId& id : selection.m_arIds)
         Transform(host, id, AcGeMatrix3d::scaling(dFactor, selection.m_ptBase), "scale");
 }

@@ -13,12 +13,6 @@
 
 namespace {
 
-double PositiveNumber(CHost& host, const std::string& strPrompt, const std::string& strWhat) {
-    const double value = host.m_input.Number(strPrompt);
-    if (value <= 0.0) RefuseAnswer(strWhat + " is above 0");
-    return value;
-}
-
 AcDbObjectId AskBlock(CHost& host) {
     const std::string strName = host.m_input.Text("Block name: ");
     const CDbOpen<AcDbBlockTable> table(host.Drawing().blockTableId());
@@ -64,7 +58,7 @@ void CommandPline(CHost& host) {
 
 void CommandArc(CHost& host) {
     const AcGePoint3d center = host.m_input.Point("Center: ");
-    const double dRadius = PositiveNumber(host, "Radius: ", "a radius");
+    const double dRadius = host.m_input.PositiveNumber("Radius: ", "a radius");
     const double dStart = host.m_input.Angle("Start angle: ");
     const double dEnd = host.m_input.Angle("End angle: ");
     host.m_input.End();
@@ -73,7 +67,7 @@ void CommandArc(CHost& host) {
 
 void CommandText(CHost& host) {
     const AcGePoint3d position = host.m_input.Point("Position: ");
-    const double dHeight = PositiveNumber(host, "Height: ", "a height");
+    const double dHeight = host.m_input.PositiveNumber("Height: ", "a height");
     const std::string strText = host.m_input.WholeText("Text: ");
     host.m_input.End();
     AppendToModelSpace(host, std::make_unique<AcDbText>(position, WideAnswer(strText).c_str(),

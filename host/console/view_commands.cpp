@@ -104,10 +104,9 @@ void CommandSetVar(CHost& host) {
 
 void CommandMeasure(CHost& host) {
     const std::string style = host.m_input.Text("Text style: ");
-    const double height = host.m_input.Number("Height: ");
+    const double height = host.m_input.PositiveNumber("Height: ", "a height");
     const std::string text = host.m_input.WholeText("Text: ");
     host.m_input.End();
-    if (height <= 0.0) RefuseAnswer("a height is above 0");
     const AcDbText measured(AcGePoint3d::kOrigin, WideAnswer(text).c_str(),
                             FindTextStyle(host.Drawing(), style), height);
     AcDbExtents extents; // a text without a character has none
