@@ -2,7 +2,6 @@
 
 #include "host/console/host_commands.h"
 #include "host/console/redraw.h"
-#include "host/console/texts.h"
 #include "platform/acad/ap_document_manager.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/editor_reactor.h"

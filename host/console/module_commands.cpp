@@ -2,8 +2,6 @@
 #include "host/console/texts.h"
 #include "platform/acad/command_stack.h"
 
-#include <cstdio>
-
 void CommandLoadModule(CHost& host) {
     const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
