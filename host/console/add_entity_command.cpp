@@ -13,10 +13,6 @@
 
 namespace {
 
-[[noreturn]] void Refuse(const std::string& strWhat) {
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
-}
-
 CJson ReadDescription(const std::string& path) {
     std::string bytes;
     if (!ReadFileWhole(path, &bytes)) throw CRunFailure(EXIT_FILE_FAILED, path + " cannot be read");
@@ -24,37 +20,37 @@ CJson ReadDescription(const std::string& path) {
     if (!json.is_object()) throw CRunFailure(EXIT_FILE_FAILED, path + " is no JSON object");
     for (const auto& item : json.items())
         if (item.key() != "class" && item.key() != "fields" && item.key() != "watch")
-            Refuse(path + ": no such member: " + item.key());
+            RefuseAnswer(path + ": no such member: " + item.key());
     return json;
 }
 
 std::unique_ptr<AcDbEntity> MakeEntity(const CJson& json) {
-    if (!json.is_string()) Refuse("\"class\" is the name of a class");
+    if (!json.is_string()) RefuseAnswer("\"class\" is the name of a class");
     const auto strName = json.get<std::string>();
     auto* const pClasses = static_cast<AcRxDictionary*>(acrxSysRegistry()->at(ACDB_CLASS_DICTIONARY));
     const auto* const pClass = static_cast<AcRxClass*>(pClasses->at(WideAnswer(strName).c_str()));
-    if (!pClass) Refuse("no such class: " + strName);
+    if (!pClass) RefuseAnswer("no such class: " + strName);
     std::unique_ptr<AcDbEntity> pEntity;
     if (pClass->isDerivedFrom(AcDbEntity::desc())) pEntity.reset(static_cast<AcDbEntity*>(pClass->create()));
-    if (!pEntity) Refuse("no entity can be made of class " + strName);
+    if (!pEntity) RefuseAnswer("no entity can be made of class " + strName);
     return pEntity;
 }
 
 void SetField(AcDbEntity& entity, const std::string& strName, const CJson& json, AcDbDatabase& drawing) {
-    const auto* const pTable = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const CFieldTable* const pTable = CFieldTable::Of(entity);
     const int row = pTable ? pTable->Find(GbkAnswer(strName)) : -1;
-    if (row < 0) Refuse("the class has no field " + strName);
+    if (row < 0) RefuseAnswer("the class has no field " + strName);
     const CFieldValue value = FieldFromJson(json, pTable->Get(entity, row), drawing);
     // A field of 16 bits takes a greater number without a word, and then holds another.
     if (!pTable->Set(entity, row, value) || JsonField(pTable->Get(entity, row)) != JsonField(value))
-        Refuse("field " + strName + " cannot hold " + json.dump());
+        RefuseAnswer("field " + strName + " cannot hold " + json.dump());
 }
 
 AcDbObjectId Watched(const CJson& json, AcDbDatabase& drawing) {
-    if (!json.is_string()) Refuse("a watched entity is told by its handle, a text");
+    if (!json.is_string()) RefuseAnswer("a watched entity is told by its handle, a text");
     std::string reason;
     const AcDbObjectId id = PickEntity(drawing, "#" + json.get<std::string>(), AcGePoint3d::kOrigin, &reason);
-    if (id.isNull()) Refuse(reason);
+    if (id.isNull()) RefuseAnswer(reason);
     return id;
 }
 

@@ -31,6 +31,11 @@ private:
     CExitStatus m_status;
 };
 
+/// Ends the run for an answer that is none here; what says why.
+[[noreturn]] inline void RefuseAnswer(const std::string& strWhat) {
+    throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
+}
+
 /// The answers of a run, one line each, comments left out.
 class CAnswers {
 public:

@@ -4,7 +4,7 @@ AcDbObjectId AppendToModelSpace(const CHost& host, std::unique_ptr<AcDbEntity> p
     const CDbOpen<AcDbBlockTableRecord> space(host.Drawing().ModelSpaceId(), AcDb::kForWrite);
     AcDbObjectId id;
     if (!space || space->appendAcDbEntity(id, pEntity.get()) != Acad::eOk)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "model space takes no entity now");
+        RefuseAnswer("model space takes no entity now");
     pEntity.release()->close();
     return id;
 }

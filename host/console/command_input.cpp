@@ -4,6 +4,8 @@
 #include "host/console/picks.h"
 #include "host/console/points.h"
 
+#include <numbers>
+
 namespace {
 
 constexpr const char* g_pEmptyAnswer = "an empty answer is none here";
@@ -34,8 +36,7 @@ void CCommandInput::Begin(std::vector<CWord> arWords) {
 
 void CCommandInput::End() const {
     if (m_arWords.empty()) return;
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER,
-                      "more on the line than the command takes: " + m_arWords[0].m_strText);
+    RefuseAnswer("more on the line than the command takes: " + m_arWords[0].m_strText);
 }
 
 std::optional<std::string> CCommandInput::TakeWord() {
@@ -60,7 +61,7 @@ std::string CCommandInput::WordOrLine(const CQuestion& question) {
 std::string CCommandInput::GoodAnswer(const CQuestion& question) {
     std::string answer = WithoutBlanksAround(WordOrLine(question));
     const std::string strReason = question.m_fnRefusal(answer);
-    if (!strReason.empty()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, strReason);
+    if (!strReason.empty()) RefuseAnswer(strReason);
     return answer;
 }
 
@@ -88,6 +89,21 @@ double CCommandInput::Number(const std::string& strPrompt) {
     double value = 0.0;
     ParseNumber(GoodAnswer({strPrompt, CAnswerKind::Text, NumberRefusal}), &value);
     return value;
+}
+
+double CCommandInput::PositiveNumber(const std::string& strPrompt, const std::string& strWhat) {
+    double value = 0.0;
+    const auto refusal = [&strWhat](const std::string& strAnswer) {
+        double answered = 0.0;
+        if (!ParseNumber(strAnswer, &answered)) return NumberRefusal(strAnswer);
+        return answered > 0.0 ? std::string() : strWhat + " is above 0";
+    };
+    ParseNumber(GoodAnswer({strPrompt, CAnswerKind::Text, refusal}), &value);
+    return value;
+}
+
+double CCommandInput::Angle(const std::string& strPrompt) {
+    return Number(strPrompt) * std::numbers::pi / 180.0;
 }
 
 CQuestion CCommandInput::PointQuestion(const std::string& strPrompt) const {
@@ -151,8 +167,7 @@ std::vector<AcDbObjectId> CCommandInput::Selection(AcDbDatabase& drawing, const 
     CPickedEntities picked;
     std::string reason;
     if (const std::optional<std::string> word = TakeWord()) {
-        if (!PickSeveral(drawing, *word, m_ptLast, &picked, &reason))
-            throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
+        if (!PickSeveral(drawing, *word, m_ptLast, &picked, &reason)) RefuseAnswer(reason);
         return picked.Ids();
     }
     while (true) {

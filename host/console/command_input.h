@@ -34,6 +34,9 @@ public:
     std::string FileToSave(const std::string& strPrompt, const std::string& strEndings);
     std::optional<std::string> WordOnLine(); ///< an optional answer: none when the line has no more words
     double Number(const std::string& strPrompt);
+    /// The same above 0; a refusal calls it strWhat: "a radius".
+    double PositiveNumber(const std::string& strPrompt, const std::string& strWhat);
+    double Angle(const std::string& strPrompt); ///< answered in degrees, given in radians
     AcGePoint3d Point(const std::string& strPrompt);
     /// How far a point lies from base; `@dx,dy` is the offset itself.
     AcGeVector3d Offset(const std::string& strPrompt, const AcGePoint3d& base);

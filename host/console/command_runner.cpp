@@ -2,7 +2,6 @@
 
 #include "host/console/host_commands.h"
 #include "host/console/redraw.h"
-#include "host/console/texts.h"
 #include "platform/acad/ap_document_manager.h"
 #include "platform/acad/command_stack.h"
 #include "platform/acad/editor_reactor.h"
@@ -33,7 +32,7 @@ CFoundCommand FindCommand(const std::string& strName) {
     if (Utf8ToGbk(strName, &gbk))
         if (const CRegisteredCommand* const pModule = acedRegCmds->lookup(WideFromGbk(gbk).c_str()))
             return {UpperName(pModule->m_strGlobalName), nullptr, pModule->m_pFunction};
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, "unknown command: " + strName);
+    RefuseAnswer("unknown command: " + strName);
 }
 
 CCommandResult Execute(CHost& host, const CFoundCommand& command) {
@@ -69,7 +68,7 @@ CCommandResult RunWords(CHost& host, std::vector<CWord> words) {
     const CFoundCommand command = FindCommand(words[0].m_strText);
     if (command.m_pModule) host.Document(); // a module's command runs in a document
     if (command.m_pHost && command.m_pHost->m_bAlone && !acDocManagerPtr()->isApplicationContext())
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not from within a command: " + words[0].m_strText);
+        RefuseAnswer("not from within a command: " + words[0].m_strText);
     words.erase(words.begin());
     const CDocumentContext context;
     // What a reactor asks is answered by lines: the words are laid out after it.
@@ -98,7 +97,7 @@ void DrawWhatChanged(const CHost& host) {
 void RunLine(CHost& host, const std::string& strLine) {
     std::vector<CWord> words;
     std::string reason;
-    if (!SplitWords(strLine, &words, &reason)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, reason);
+    if (!SplitWords(strLine, &words, &reason)) RefuseAnswer(reason);
     if (words.empty() || IsEscape(words)) return;
     BeginUndoStep(host);
     RunWords(host, std::move(words));

@@ -27,7 +27,7 @@ void CommandSaveAs(CHost& host) {
     const std::optional<std::string> option = host.m_input.WordOnLine();
     host.m_input.End();
     if (option && *option != "exploded")
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "not exploded, which alone may follow the path: " + *option);
+        RefuseAnswer("not exploded, which alone may follow the path: " + *option);
     SaveDrawingAs(host, document, path, option.has_value());
 }
 
@@ -68,6 +68,6 @@ void CommandActivate(CHost& host) {
     const std::vector<AcApDocument*> documents = host.m_drawings.Documents();
     int nNumber = 0;
     if (!ParseWhole(strNumber, &nNumber) || nNumber < 1 || nNumber > static_cast<int>(documents.size()))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such drawing: " + strNumber);
+        RefuseAnswer("no such drawing: " + strNumber);
     ActivateDrawing(host, *documents[static_cast<std::size_t>(nNumber - 1)]);
 }

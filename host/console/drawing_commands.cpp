@@ -22,8 +22,7 @@ void CommandErase(CHost& host) {
         const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
         const Acad::ErrorStatus status = entity ? entity->erase() : entity.Status();
         if (status != Acad::eOk)
-            throw CRunFailure(EXIT_NO_SUCH_ANSWER,
-                              "cannot erase #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
+            RefuseAnswer("cannot erase #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(status));
     }
 }
 
@@ -33,8 +32,7 @@ void CommandList(CHost& host) {
     if (id.isNull()) return;
     const CDbOpen<AcDbEntity> entity(id);
     if (!entity)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "cannot open #" + id.handle().Hex() + ": " +
-                                                   Acad::ErrorStatusText(entity.Status()));
+        RefuseAnswer("cannot open #" + id.handle().Hex() + ": " + Acad::ErrorStatusText(entity.Status()));
     host.Print("#" + id.handle().Hex() + " " + Utf8FromWide(entity->isA()->name()));
     host.Print("layer " + ToUtf8(entity->LayerName()));
     host.Print("color " + std::to_string(entity->colorIndex()));

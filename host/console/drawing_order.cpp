@@ -4,13 +4,6 @@
 
 namespace {
 
-void AppendEntities(AcDbObjectId idBlock, std::vector<AcDbObjectId>* ids) {
-    const CDbOpen<AcDbBlockTableRecord> block(idBlock);
-    if (!block) return;
-    const std::vector<AcDbObjectId> own = block->EntityIds();
-    ids->insert(ids->end(), own.begin(), own.end());
-}
-
 void SortByHandle(std::vector<AcDbObjectId>* ids) {
     std::sort(ids->begin(), ids->end(),
               [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
@@ -18,17 +11,25 @@ void SortByHandle(std::vector<AcDbObjectId>* ids) {
 
 } // namespace
 
-std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase& drawing) {
-    std::vector<AcDbObjectId> ids;
-    AppendEntities(drawing.ModelSpaceId(), &ids);
+std::vector<AcDbObjectId> EntitiesInOrder(const AcDbBlockTableRecord& block) {
+    std::vector<AcDbObjectId> ids = block.EntityIds();
     SortByHandle(&ids);
     return ids;
 }
 
+std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase& drawing) {
+    const CDbOpen<AcDbBlockTableRecord> space(drawing.ModelSpaceId());
+    return space ? EntitiesInOrder(*space.Get()) : std::vector<AcDbObjectId>();
+}
+
 std::vector<AcDbObjectId> AllEntities(AcDbDatabase& drawing) {
     std::vector<AcDbObjectId> ids;
-    for (const AcDbObjectId& idBlock : LivingRecords(drawing.blockTableId()))
-        AppendEntities(idBlock, &ids);
+    for (const AcDbObjectId& idBlock : LivingRecords(drawing.blockTableId())) {
+        const CDbOpen<AcDbBlockTableRecord> block(idBlock);
+        if (!block) continue;
+        const std::vector<AcDbObjectId> own = block->EntityIds();
+        ids.insert(ids.end(), own.begin(), own.end());
+    }
     SortByHandle(&ids);
     return ids;
 }

@@ -4,7 +4,10 @@
 
 #include <vector>
 
-/// The living entities of model space in database order, which is the order of handles.
+/// The living entities of a block in database order, which is the order of handles.
+std::vector<AcDbObjectId> EntitiesInOrder(const AcDbBlockTableRecord& block);
+
+/// Those of model space.
 std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase& drawing);
 
 /// The living entities of all blocks, model and paper space among them, in database order.

@@ -10,10 +10,9 @@ namespace {
 
 CDrawingFormat FormatOf(const std::string& strPath, bool bExploded) {
     const std::optional<CDrawingFormat> format = FormatOfEnding(strPath);
-    if (!format) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .dwg or .dxf: " + strPath);
+    if (!format) RefuseAnswer("no .dwg or .dxf: " + strPath);
     if (!bExploded) return *format;
-    if (*format != CDrawingFormat::Dxf)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "only a .dxf is written exploded: " + strPath);
+    if (*format != CDrawingFormat::Dxf) RefuseAnswer("only a .dxf is written exploded: " + strPath);
     return CDrawingFormat::ExplodedDxf;
 }
 

@@ -21,8 +21,7 @@ bool AskToSave(CHost& host, AcApDocument& document) {
     const CQuestion question{"Save changes to " + CDrawings::NameOf(document) + "? ",
                              CAnswerKind::SaveChanges};
     const std::string strAnswer = WithoutBlanksAround(host.m_input.Line(question));
-    if (strAnswer != "yes" && strAnswer != "no")
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither yes, no nor cancel: " + strAnswer);
+    if (strAnswer != "yes" && strAnswer != "no") RefuseAnswer("neither yes, no nor cancel: " + strAnswer);
     if (strAnswer == "yes") SaveDrawing(host, document);
     return strAnswer == "yes";
 }

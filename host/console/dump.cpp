@@ -8,7 +8,7 @@
 #include "platform/acad/editor.h"
 #include "platform/acad/table_keeper.h"
 
-#include <algorithm>
+#include <map>
 
 namespace {
 
@@ -65,11 +65,8 @@ CJson JsonTable(AcDbObjectId idTable, CJson (*pRecordToJson)(const T&)) {
 }
 
 CJson JsonEntities(const AcDbBlockTableRecord& block) {
-    std::vector<AcDbObjectId> ids = block.EntityIds();
-    std::sort(ids.begin(), ids.end(),
-              [](const AcDbObjectId& a, const AcDbObjectId& b) { return a.handle() < b.handle(); });
     CJson list = CJson::array();
-    for (const AcDbObjectId& id : ids)
+    for (const AcDbObjectId& id : EntitiesInOrder(block))
         if (const CDbOpen<AcDbEntity> entity(id); entity) list.push_back(JsonEntity(*entity.Get()));
     return list;
 }

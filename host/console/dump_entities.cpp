@@ -80,8 +80,7 @@ void AddArc(const AcDbArc& arc, CJson* json) {
     (*json)["radius"] = JsonNumber(arc.radius());
     (*json)["startAngle"] = JsonNumber(arc.startAngle());
     (*json)["endAngle"] = JsonNumber(arc.endAngle());
-    const AcGeVector3d normal = arc.normal();
-    (*json)["normal"] = JsonPoint(AcGePoint3d(normal.x, normal.y, normal.z));
+    (*json)["normal"] = JsonVector(arc.normal());
 }
 
 void AddProxy(const AcDbProxyEntity& proxy, CJson* json) {
@@ -114,10 +113,6 @@ CJson JsonXData(const AcDbEntity& entity) {
     return apps;
 }
 
-const CFieldTable* FieldsOf(const AcDbEntity& entity) {
-    return static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
-}
-
 void AddFields(const AcDbEntity& entity, const CFieldTable& table, CJson* json) {
     CJson fields = CJson::object();
     for (const int row : table.DeclaredOrder())
@@ -144,7 +139,7 @@ void AddClass(const AcDbEntity& entity, CJson* json) {
     if (const auto* const pLine = AcDbLine::cast(&entity)) AddLine(*pLine, json);
     if (const auto* const pArc = AcDbArc::cast(&entity)) AddArc(*pArc, json);
     if (const auto* const pProxy = AcDbProxyEntity::cast(&entity)) AddProxy(*pProxy, json);
-    if (const CFieldTable* const pFields = FieldsOf(entity)) AddFields(entity, *pFields, json);
+    if (const CFieldTable* const pFields = CFieldTable::Of(entity)) AddFields(entity, *pFields, json);
 }
 
 void AddCommon(const AcDbEntity& entity, CJson* json) {
@@ -174,7 +169,7 @@ CJson JsonExplode(const AcDbEntity& entity) {
 } // namespace
 
 bool HasFields(const AcDbEntity& entity) {
-    return FieldsOf(entity) != nullptr;
+    return CFieldTable::Of(entity) != nullptr;
 }
 
 CJson JsonEntity(const AcDbEntity& entity) {

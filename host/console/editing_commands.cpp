@@ -2,12 +2,9 @@
 
 #include "host/console/append_entity.h"
 #include "host/console/host_commands.h"
-#include "host/console/numbers.h"
 #include "host/console/refusal.h"
-#include "host/console/texts.h"
 
 #include <memory>
-#include <numbers>
 
 namespace {
 
@@ -84,7 +81,7 @@ int Steps(CHost& host) {
     const double dSteps = host.m_input.Number("Number of commands: ");
     host.m_input.End();
     if (dSteps < 1.0 || dSteps > 1e6 || dSteps != static_cast<int>(dSteps))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a number of commands is whole and above 0");
+        RefuseAnswer("a number of commands is whole and above 0");
     return static_cast<int>(dSteps);
 }
 
@@ -106,7 +103,7 @@ void CommandCopy(CHost& host) {
 
 void CommandRotate(CHost& host) {
     const CSelection selection(host);
-    const double dAngle = host.m_input.Number("Angle: ") * std::numbers::pi / 180.0;
+    const double dAngle = host.m_input.Angle("Angle: ");
     host.m_input.End();
     for (const AcDbObjectId& id : selection.m_arIds)
         Transform(host, id, AcGeMatrix3d::rotation(dAngle, AcGeVector3d::kZAxis, selection.m_ptBase),
@@ -115,9 +112,8 @@ void CommandRotate(CHost& host) {
 
 void CommandScale(CHost& host) {
     const CSelection selection(host);
-    const double dFactor = host.m_input.Number("Factor: ");
+    const double dFactor = host.m_input.PositiveNumber("Factor: ", "a factor");
     host.m_input.End();
-    if (dFactor <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a factor is above 0");
     for (const AcDbObjectId& id : selection.m_arIds)
         Transform(host, id, AcGeMatrix3d::scaling(dFactor, selection.m_ptBase), "scale");
 }
@@ -128,10 +124,9 @@ void CommandMirror(CHost& host) {
     const AcGePoint3d second = host.m_input.Point("Second point: ");
     const std::string strKeep = host.m_input.Text("keep or drop the originals: ");
     host.m_input.End();
-    if (strKeep != "keep" && strKeep != "drop")
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither keep nor drop: " + strKeep);
+    if (strKeep != "keep" && strKeep != "drop") RefuseAnswer("neither keep nor drop: " + strKeep);
     const AcGeVector3d along = second - first;
-    if (along.isZeroLength()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a mirror line has two points");
+    if (along.isZeroLength()) RefuseAnswer("a mirror line has two points");
     const AcGeMatrix3d mirror = AcGeMatrix3d::mirroring(first, AcGeVector3d(-along.y, along.x, 0.0).normal());
     const bool bKeep = strKeep == "keep";
     for (const AcDbObjectId& id : bKeep ? Copies(host, ids) : ids)
@@ -151,6 +146,6 @@ void CommandUndo(CHost& host) {
 }
 
 void CommandRedo(CHost& host) {
-    host.m_input.End();
-    host.Print("redone: " + std::to_string(host.Drawing().UndoLog().Redo(1)));
+    const int nSteps = Steps(host);
+    host.Print("redone: " + std::to_string(host.Drawing().UndoLog().Redo(nSteps)));
 }

@@ -10,7 +10,7 @@ namespace {
 /// A copy that shows what the entity shows: its record, and the fields that no record holds.
 std::unique_ptr<AcDbEntity> CopyToDrag(const AcDbEntity& entity) {
     std::unique_ptr<AcDbEntity> pCopy = FreeCopy(entity);
-    const auto* const pFields = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const CFieldTable* const pFields = CFieldTable::Of(entity);
     if (!pCopy || !pFields) return pCopy;
     for (int row = 0; row < pFields->Count(); ++row)
         if (!pFields->Info(row).m_bFiled) pFields->Set(*pCopy, row, pFields->Get(entity, row));

@@ -12,16 +12,12 @@
 
 namespace {
 
-[[noreturn]] void Refuse(const std::string& strWhat) {
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
-}
-
 AcGePoint3dArray GripsOf(AcDbObjectId id) {
     const CDbOpen<AcDbEntity> entity(id);
     AcGePoint3dArray grips;
     AcDbIntArray osnapModes, geomIds;
     if (!entity || entity->getGripPoints(grips, osnapModes, geomIds) != Acad::eOk || grips.isEmpty())
-        Refuse("#" + id.handle().Hex() + " has no grips");
+        RefuseAnswer("#" + id.handle().Hex() + " has no grips");
     return grips;
 }
 
@@ -30,7 +26,7 @@ AcDbIntArray AskIndices(CHost& host, int nGrips) {
     for (const std::string& strIndex : PiecesOf(host.m_input.Text("Grips: "), ',')) {
         int nIndex = -1;
         if (!ParseWhole(strIndex, &nIndex) || nIndex < 0 || nIndex >= nGrips)
-            Refuse("no such grip: " + strIndex + " (the last is " + std::to_string(nGrips - 1) + ")");
+            RefuseAnswer("no such grip: " + strIndex + " (the last is " + std::to_string(nGrips - 1) + ")");
         indices.append(nIndex);
     }
     return indices;

@@ -18,7 +18,7 @@ struct CHost {
 
     /// The current document, for a command that needs one.
     AcApDocument& Document() const {
-        if (!m_drawings.CurrentDocument()) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no drawing is open");
+        if (!m_drawings.CurrentDocument()) RefuseAnswer("no drawing is open");
         return *m_drawings.CurrentDocument();
     }
     AcDbDatabase& Drawing() const { return *Document().database(); }

@@ -38,7 +38,7 @@ constexpr std::array g_arCommands = {
     CHostCommand{"DRAG", CommandDrag,
                  "entity index[,index...] point path: writes what is drawn while they are dragged"},
     CHostCommand{"UNDO", CommandUndo, "n: undoes the last n commands that changed the drawing"},
-    CHostCommand{"REDO", CommandRedo, "does again what was undone last"},
+    CHostCommand{"REDO", CommandRedo, "n: does the last n commands that were undone again"},
     CHostCommand{"REGEN", CommandRegen, "draws all entities anew"},
     CHostCommand{"ZOOM", CommandZoom, "e|a: shows all that is drawn"},
     CHostCommand{"SETVAR", CommandSetVar, "name [value]: shows or sets a system variable"},

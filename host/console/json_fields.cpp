@@ -10,7 +10,7 @@
 namespace {
 
 [[noreturn]] void Refuse(const CJson& json, const char* wanted) {
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, json.dump() + " is no " + wanted);
+    RefuseAnswer(json.dump() + " is no " + wanted);
 }
 
 /// Reads one value of the kind that it is asked to give.

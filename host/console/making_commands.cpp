@@ -10,28 +10,16 @@
 #include "platform/acad/db_text.h"
 
 #include <memory>
-#include <numbers>
 
 namespace {
-
-double PositiveNumber(CHost& host, const std::string& strPrompt, const std::string& strWhat) {
-    const double value = host.m_input.Number(strPrompt);
-    if (value <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat + " is above 0");
-    return value;
-}
-
-double Radians(double dDegrees) {
-    return dDegrees * std::numbers::pi / 180.0;
-}
 
 AcDbObjectId AskBlock(CHost& host) {
     const std::string strName = host.m_input.Text("Block name: ");
     const CDbOpen<AcDbBlockTable> table(host.Drawing().blockTableId());
     AcDbObjectId id;
     if (!table || table->getAt(WideAnswer(strName).c_str(), id) != Acad::eOk)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such block: " + strName);
-    if (id == host.Drawing().ModelSpaceId())
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "model space cannot stand in itself");
+        RefuseAnswer("no such block: " + strName);
+    if (id == host.Drawing().ModelSpaceId()) RefuseAnswer("model space cannot stand in itself");
     return id;
 }
 
@@ -64,22 +52,22 @@ void CommandPline(CHost& host) {
     while (const std::optional<AcGePoint3d> point = host.m_input.PointOrWord("Next point or end: ", "end"))
         pPolyline->addVertexAt(pPolyline->numVerts(), {point->x, point->y});
     host.m_input.End();
-    if (pPolyline->numVerts() == 0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a polyline has a point at least");
+    if (pPolyline->numVerts() == 0) RefuseAnswer("a polyline has a point at least");
     AppendToModelSpace(host, std::move(pPolyline));
 }
 
 void CommandArc(CHost& host) {
     const AcGePoint3d center = host.m_input.Point("Center: ");
-    const double dRadius = PositiveNumber(host, "Radius: ", "a radius");
-    const double dStart = host.m_input.Number("Start angle: ");
-    const double dEnd = host.m_input.Number("End angle: ");
+    const double dRadius = host.m_input.PositiveNumber("Radius: ", "a radius");
+    const double dStart = host.m_input.Angle("Start angle: ");
+    const double dEnd = host.m_input.Angle("End angle: ");
     host.m_input.End();
-    AppendToModelSpace(host, std::make_unique<AcDbArc>(center, dRadius, Radians(dStart), Radians(dEnd)));
+    AppendToModelSpace(host, std::make_unique<AcDbArc>(center, dRadius, dStart, dEnd));
 }
 
 void CommandText(CHost& host) {
     const AcGePoint3d position = host.m_input.Point("Position: ");
-    const double dHeight = PositiveNumber(host, "Height: ", "a height");
+    const double dHeight = host.m_input.PositiveNumber("Height: ", "a height");
     const std::string strText = host.m_input.WholeText("Text: ");
     host.m_input.End();
     AppendToModelSpace(host, std::make_unique<AcDbText>(position, WideAnswer(strText).c_str(),

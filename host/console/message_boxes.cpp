@@ -1,9 +1,9 @@
 #include "host/console/message_boxes.h"
 
-#include <vector>
-
+#include "host/console/texts.h"
 #include "host/console/words.h"
-#include "platform/windows/code_page.h"
+
+#include <vector>
 
 namespace {
 
@@ -31,13 +31,6 @@ std::string OnOneLine(const std::string& strText) {
         }
     }
     return line;
-}
-
-std::string Utf8FromWide(const std::wstring& strWide) {
-    std::string utf8;
-    for (const wchar_t c : strWide)
-        AppendUtf8(static_cast<char32_t>(c), &utf8);
-    return utf8;
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 #include "host/console/texts.h"
 #include "platform/acad/command_stack.h"
 
-#include <cstdio>
-
 void CommandLoadModule(CHost& host) {
     const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
@@ -18,8 +16,7 @@ void CommandUnloadModule(CHost& host) {
     const std::string path = host.m_input.FileToOpen("Module: ", ".so");
     host.m_input.End();
     std::string reason;
-    if (!host.m_modules.Unload(path, &reason))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "module " + path + " did not unload: " + reason);
+    if (!host.m_modules.Unload(path, &reason)) RefuseAnswer("module " + path + " did not unload: " + reason);
 }
 
 void CommandCommands(CHost& host) {

@@ -2,8 +2,6 @@
 
 #include "platform/acad/dynamic_linker.h"
 
-#include <algorithm>
-
 namespace fs = std::filesystem;
 
 namespace {

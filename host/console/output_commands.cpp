@@ -5,22 +5,6 @@
 #include "host/console/progress.h"
 #include "platform/windows/code_page.h"
 
-#include <algorithm>
-#include <array>
-#include <filesystem>
-
-namespace {
-
-bool IsPlotFormat(const std::string& strPath) {
-    std::string ending = std::filesystem::path(strPath).extension().string();
-    std::transform(ending.begin(), ending.end(), ending.begin(),
-                   [](unsigned char c) { return std::tolower(c); });
-    constexpr std::array<const char*, 3> endings = {".pdf", ".svg", ".png"};
-    return std::find(endings.begin(), endings.end(), ending) != endings.end();
-}
-
-} // namespace
-
 void CommandDump(CHost& host) {
     const std::string path = host.m_input.FileToSave("File: ", ".json");
     host.m_input.End();
@@ -30,7 +14,7 @@ void CommandDump(CHost& host) {
 void CommandPlot(CHost& host) {
     const std::string path = host.m_input.FileToSave("File: ", ".pdf .svg .png");
     host.m_input.End();
-    if (!IsPlotFormat(path)) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no .pdf, .svg or .png: " + path);
+    if (!IsPlotFile(path)) RefuseAnswer("no .pdf, .svg or .png: " + path);
     bool bGoesOn = true;
     const auto goesOn = [&](std::size_t nDone, std::size_t nPages) {
         return bGoesOn = ShowProgress("Plotting", nDone, nPages);

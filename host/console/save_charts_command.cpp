@@ -24,13 +24,9 @@ struct CStoredChart {
     std::string m_strPick, m_strGCBH, m_strZKBH, m_strQYBH;
 };
 
-[[noreturn]] void Refuse(const std::string& strWhat) {
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, strWhat);
-}
-
 /// Empty for an entity without such a text.
 std::string TextField(const AcDbEntity& entity, const char* pName) {
-    const auto* const pFields = static_cast<const CFieldTable*>(entity.queryX(CFieldTable::desc()));
+    const CFieldTable* const pFields = CFieldTable::Of(entity);
     const int row = pFields ? pFields->Find(pName) : -1;
     if (row < 0) return {};
     const CFieldValue value = pFields->Get(entity, row);
@@ -49,37 +45,30 @@ std::vector<CStoredChart> ChartsOf(AcDbDatabase& drawing) {
     return charts;
 }
 
-/// On any system of the suite.
-bool CanStandInFileName(const std::string& strNumber) {
-    return !strNumber.empty() && std::ranges::none_of(strNumber, [](char c) {
-        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
-    });
-}
-
 /// Its number, of which the folder of its drawings is named.
 std::string RunningProject() {
     std::array<char, MAX_PATH> szIni{};
     std::array<char, 1024> szGCBH{};
     TVToolGetProjectIni(szIni.data());
     if (static_cast<int>(GetPrivateProfileIntA("Project", "GCSY", -1, szIni.data())) < 0)
-        Refuse("no project is running");
+        RefuseAnswer("no project is running");
     GetPrivateProfileStringA("Project", "GCBH", "", szGCBH.data(), szGCBH.size(), szIni.data());
     std::string strGCBH = ToUtf8(szGCBH.data());
     if (!CanStandInFileName(strGCBH) || strGCBH.back() == '.')
-        Refuse("project \"" + strGCBH + "\" cannot name a folder");
+        RefuseAnswer("project \"" + strGCBH + "\" cannot name a folder");
     return strGCBH;
 }
 
 void CheckCharts(const std::vector<CStoredChart>& charts, const std::string& strProject) {
-    if (charts.empty()) Refuse("the drawing has no chart");
+    if (charts.empty()) RefuseAnswer("the drawing has no chart");
     for (const CStoredChart& chart : charts) {
         if (chart.m_strGCBH != strProject)
-            Refuse("chart " + chart.m_strPick + " is of project \"" + chart.m_strGCBH + "\", not of \"" +
-                   strProject + "\"");
+            RefuseAnswer("chart " + chart.m_strPick + " is of project \"" + chart.m_strGCBH +
+                         "\", not of \"" + strProject + "\"");
         for (const std::string& strNumber : {chart.m_strZKBH, chart.m_strQYBH})
             if (!CanStandInFileName(strNumber))
-                Refuse("chart " + chart.m_strPick + ": \"" + strNumber + "\" cannot stand in a file name");
+                RefuseAnswer("chart " + chart.m_strPick + ": \"" + strNumber +
+                             "\" cannot stand in a file name");
     }
 }
 
@@ -110,7 +99,7 @@ void CheckWithin(const std::string& strTree, const std::string& strPath) {
     std::error_code error;
     const fs::path tree = fs::weakly_canonical(strTree, error), path = fs::weakly_canonical(strPath, error);
     if (error || std::ranges::mismatch(tree, path).in1 != tree.end())
-        Refuse(strPath + " lies outside of " + strTree);
+        RefuseAnswer(strPath + " lies outside of " + strTree);
 }
 
 /// The path of the drawing of that title; its folder is made if need be. A file or folder that differs by

@@ -1,6 +1,5 @@
 #include "host/console/text_output.h"
 
-#include <algorithm>
 #include <string>
 
 void CTextOutput::Write(std::string_view text) {

@@ -5,8 +5,7 @@
 
 std::string GbkAnswer(std::string_view utf8) {
     std::string gbk, refused;
-    if (!Utf8ToGbk(utf8, &gbk, &refused))
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "the system code page lacks the character " + refused);
+    if (!Utf8ToGbk(utf8, &gbk, &refused)) RefuseAnswer("the system code page lacks the character " + refused);
     return gbk;
 }
 

@@ -22,7 +22,7 @@ std::string ValueText(resbuf& value) {
 }
 
 [[noreturn]] void RefuseValue(const std::string& strName, const std::string& strText) {
-    throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no value for " + strName + ": " + strText);
+    RefuseAnswer("no value for " + strName + ": " + strText);
 }
 
 // The text as a value of the kind that the variable has now. A text value is the caller's to release.
@@ -49,7 +49,7 @@ AcDbObjectId FindTextStyle(AcDbDatabase& drawing, const std::string& strName) {
     const CDbOpen<AcDbTextStyleTable> table(drawing.textStyleTableId());
     AcDbObjectId id;
     if (!table || table->getAt(WideAnswer(strName).c_str(), id) != Acad::eOk)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such text style: " + strName);
+        RefuseAnswer("no such text style: " + strName);
     return id;
 }
 
@@ -69,7 +69,7 @@ void CommandZoom(CHost& host) {
     host.m_input.End();
     // A drawing here has no limits beyond what it shows, so both are the same.
     if (strWhat != "e" && strWhat != "a" && strWhat != "E" && strWhat != "A")
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "neither e nor a: " + strWhat);
+        RefuseAnswer("neither e nor a: " + strWhat);
     const AcDbExtents extents = ShownExtents(host.Drawing());
     if (extents.isEmpty()) return; // nothing to be seen: the view stays
     const AcGePoint3d low = extents.minPoint(), high = extents.maxPoint();
@@ -89,8 +89,7 @@ void CommandSetVar(CHost& host) {
     host.m_input.End();
     const std::wstring wideName = WideAnswer(name);
     resbuf value;
-    if (acedGetVar(wideName.c_str(), &value) != RTNORM)
-        throw CRunFailure(EXIT_NO_SUCH_ANSWER, "no such variable: " + name);
+    if (acedGetVar(wideName.c_str(), &value) != RTNORM) RefuseAnswer("no such variable: " + name);
     const short nKind = value.restype;
     const std::string shown = ValueText(value);
     if (!text) {
@@ -105,10 +104,9 @@ void CommandSetVar(CHost& host) {
 
 void CommandMeasure(CHost& host) {
     const std::string style = host.m_input.Text("Text style: ");
-    const double height = host.m_input.Number("Height: ");
+    const double height = host.m_input.PositiveNumber("Height: ", "a height");
     const std::string text = host.m_input.WholeText("Text: ");
     host.m_input.End();
-    if (height <= 0.0) throw CRunFailure(EXIT_NO_SUCH_ANSWER, "a height is above 0");
     const AcDbText measured(AcGePoint3d::kOrigin, WideAnswer(text).c_str(),
                             FindTextStyle(host.Drawing(), style), height);
     AcDbExtents extents; // a text without a character has none

@@ -1,6 +1,5 @@
 #include "host/datamanager/listing.h"
 
-#include <array>
 #include <map>
 
 #include <nlohmann/json.hpp>
@@ -15,7 +14,7 @@ namespace {
 
 using CSampleKey = std::pair<std::string, std::string>;
 
-/// The rows of a statement with one parameter, the project's index, by the sample in their first two columns.
+/// The third column of the rows by the sample in the first two; of a sample's rows the first one counts.
 std::map<CSampleKey, CDbCell> BySample(const CDbCursor& rows) {
     std::map<CSampleKey, CDbCell> mapCells;
     for (std::size_t i = 0; i < rows.RowCount(); ++i)

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <optional>
 #include <set>
 
 #include "host/datamanager/database_failure.h"

@@ -9,6 +9,7 @@
 #include "platform/ado/text.h"
 #include "platform/tvtool/tvtool.h"
 #include "platform/windows/code_page.h"
+#include "platform/windows/path.h"
 
 namespace fs = std::filesystem;
 
@@ -16,11 +17,6 @@ namespace {
 
 constexpr const char* g_pSection = "Project";
 constexpr std::size_t g_nLongestName = 255; // bytes of a folder's
-
-bool CannotStandInName(char c) {
-    return static_cast<unsigned char>(c) < 0x20 || c == 0x7F ||
-           std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
-}
 
 CIniFile ProjectFile(const CInstallation& installation, const std::string& strGCBH) {
     return CIniFile(installation.Below("Projects/" + strGCBH + "/project.ini"));
@@ -42,9 +38,8 @@ CProject ReadProject(const CInstallation& installation, const std::string& strFo
 
 bool CanBeProjectNumber(const std::string& strGCBH) {
     const std::string strUtf8 = ToUtf8(strGCBH);
-    return !strGCBH.empty() && std::ranges::none_of(strUtf8, CannotStandInName) &&
-           !IsBlank(strGCBH.front()) && !IsBlank(strGCBH.back()) && strUtf8.back() != '.' &&
-           strUtf8.size() <= g_nLongestName;
+    return CanStandInFileName(strUtf8) && !IsBlank(strGCBH.front()) && !IsBlank(strGCBH.back()) &&
+           strUtf8.back() != '.' && strUtf8.size() <= g_nLongestName;
 }
 
 std::vector<CProject> ReadProjects(const CInstallation& installation) {

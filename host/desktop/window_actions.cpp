@@ -56,7 +56,7 @@ constexpr std::array g_arEntries = {
     CEntry{g_pFile, "&Quit", "QUIT", {}, "Ctrl+Q"},
 
     CEntry{g_pEdit, "&Undo", "UNDO 1", {}, "Ctrl+Z", "Undo"},
-    CEntry{g_pEdit, "&Redo", "REDO", {}, "Ctrl+Y", "Redo"},
+    CEntry{g_pEdit, "&Redo", "REDO 1", {}, "Ctrl+Y", "Redo"},
     CEntry{g_pEdit, g_pLine},
     CEntry{g_pEdit, "Select &all", nullptr, CWindowDeed::SelectAll, "Ctrl+A"},
     CEntry{g_pEdit, "&Erase", "ERASE", {}, "Del", "Erase"},

@@ -3,6 +3,7 @@
 #include "host/files/dwg_drawing_reader.h"
 #include "host/files/dwg_drawing_writer.h"
 #include "host/files/dwg_unknown.h"
+#include "host/files/dxf_ascii_reader.h"
 #include "host/files/dxf_binary_reader.h"
 #include "host/files/dxf_read.h"
 #include "host/files/dxf_write.h"
@@ -24,6 +25,7 @@ bool BeginsLikeDwg(std::string_view bytes) {
 /// A text file begins with a section or a comment: with the number of either, alone on its line.
 bool BeginsLikeDxf(std::string_view bytes) {
     if (bytes.starts_with(g_szDxfBinarySentinel)) return true;
+    if (bytes.starts_with(g_szDxfByteOrderMark)) bytes.remove_prefix(g_szDxfByteOrderMark.size());
     constexpr std::string_view strBlanks = " \t\r";
     std::string_view line = bytes.substr(0, bytes.find('\n'));
     line.remove_prefix(std::min(line.find_first_not_of(strBlanks), line.size()));

@@ -117,7 +117,7 @@ private:
         if (bNew || !bShort) header.m_strName = strName; // else it may lack the number of an anonymous block
         if (bNew) header.m_bAnonymous = !IsSpace(nBlock) && block.Name().starts_with(L'*');
         header.m_ptBase = block.origin();
-        header.m_bAttributes = AsksForAttributes(block);
+        header.m_bAttributes = HasAttributeDefinitions(block);
         PlaceStructure(header, nBlock);
         header.m_hFirst = SoftPointer(chain.First());
         header.m_hLast = SoftPointer(chain.Last());
@@ -126,7 +126,7 @@ private:
         return header;
     }
 
-    static bool AsksForAttributes(const AcDbBlockTableRecord& block) {
+    static bool HasAttributeDefinitions(const AcDbBlockTableRecord& block) {
         return std::ranges::any_of(block.EntityIds(), [](const AcDbObjectId& id) {
             return PeekObject<AcDbAttributeDefinition>(id) != nullptr;
         });

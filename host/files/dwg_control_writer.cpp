@@ -2,7 +2,6 @@
 
 #include "host/files/dwg_table_records.h"
 
-#include <algorithm>
 #include <set>
 
 namespace {

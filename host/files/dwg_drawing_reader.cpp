@@ -1,5 +1,6 @@
 #include "host/files/dwg_drawing_reader.h"
 
+#include "host/files/block_check.h"
 #include "host/files/dwg_block_reader.h"
 #include "host/files/dwg_common.h"
 #include "host/files/dwg_error.h"
@@ -7,6 +8,7 @@
 #include "host/files/dwg_object_reader.h"
 #include "host/files/dwg_proxies.h"
 #include "host/files/dwg_table_reader.h"
+#include "host/files/typeface.h"
 #include "platform/acad/standard_handles.h"
 
 #include <algorithm>
@@ -17,11 +19,8 @@ constexpr std::uint64_t g_nHighestHandle = std::uint64_t{1} << 62; ///< leaves r
 
 /// Takes the font away that stands among a style's extended data, since the style itself has it by now.
 void DropTypeface(AcDbTextStyleTableRecord& style, const AcDbDatabase& database) {
-    std::wstring strTypeface;
-    Adesk::Boolean bBold = 0, bItalic = 0;
-    int nCharset = 0, nPitchAndFamily = 0;
-    style.font(strTypeface, bBold, bItalic, nCharset, nPitchAndFamily);
-    if (!strTypeface.empty()) style.PutXData({RecordNamed(database.regAppTableId(), L"ACAD"), {}});
+    if (!TypefaceItems(style).empty())
+        style.PutXData({RecordNamed(database.regAppTableId(), g_szTypefaceApp), {}});
 }
 
 /// The objects that an object tells of changes, all of which must have been read.
@@ -92,6 +91,8 @@ std::unique_ptr<AcDbDatabase> DrawingOfDwg(const CDwgFile& file, const CReadGoes
     MoveAside(*pDatabase, nSpare);
     ReadDwgTables(file.m_variables.m_roots, reading);
     ReadDwgBlocks(reading);
+    if (const std::optional<CBlockFault> fault = FindBlockFault(*pDatabase))
+        throw CDwgError("Block " + fault->m_strBlock + ": " + fault->m_strWhat + ".");
     ReadDwgObjects(reading);
     ReadDwgOwnParts(reading);
     ReadRelations(reading);

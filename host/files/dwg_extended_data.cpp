@@ -4,7 +4,6 @@
 #include "host/files/bit_writer.h"
 
 #include <cwchar>
-#include <optional>
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "host/files/dwg_extended_data.h"
 #include "host/files/dwg_handle_map.h"
 #include "host/files/dwg_table_records.h"
+#include "host/files/typeface.h"
 
 namespace {
 
@@ -95,26 +96,18 @@ private:
         style.setTextSize(filed.m_dHeight);
         style.setXScale(filed.m_dWidthFactor);
         style.setObliquingAngle(filed.m_dOblique);
-        GiveTypeface(style, record);
+        TakeTypeface(style, record);
     }
 
-    /// A font by its name, which stands in the extended data.
-    void GiveTypeface(AcDbTextStyleTableRecord& style, const CDwgRecord& record) const {
-        const AcDbObjectId idAcad = RecordNamed(m_reading.m_database.regAppTableId(), L"ACAD");
+    void TakeTypeface(AcDbTextStyleTableRecord& style, const CDwgRecord& record) const {
+        const AcDbObjectId idAcad = RecordNamed(m_reading.m_database.regAppTableId(), g_szTypefaceApp);
         const CDwgExtendedContext context{m_reading.m_pOrigin->m_text,
                                           m_reading.m_pOrigin->m_file.m_identity.m_nCodePage,
                                           {},
                                           [](std::uint64_t) { return std::wstring(); }};
-        for (const CDwgExtendedData& data : record.m_arExtended) {
-            if (m_reading.IdOf(data.m_hApp) != idAcad) continue;
-            const std::vector<CXDataItem> items = UnpackExtendedData(data.m_arBytes, context);
-            if (items.size() < 2) continue;
-            const auto* const pTypeface = std::get_if<std::wstring>(&items[0].m_value);
-            const auto* const pFlags = std::get_if<Adesk::Int32>(&items[1].m_value);
-            if (pTypeface && pFlags)
-                style.setFont(pTypeface->c_str(), *pFlags >> 25 & 1, *pFlags >> 24 & 1, *pFlags >> 8 & 0xFF,
-                              *pFlags & 0xFF);
-        }
+        for (const CDwgExtendedData& data : record.m_arExtended)
+            if (m_reading.IdOf(data.m_hApp) == idAcad)
+                GiveTypeface(style, UnpackExtendedData(data.m_arBytes, context));
     }
 
     CDwgReading& m_reading;

@@ -4,10 +4,10 @@
 #include "host/files/dwg_error.h"
 #include "host/files/dwg_table_records.h"
 #include "host/files/dwg_viewport.h"
+#include "host/files/typeface.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace {
 
@@ -88,19 +88,12 @@ private:
         Append(g_nDwgStyle, nHandle, style, DWG_FILED(FileStyle)).m_arExtended = TypefaceOf(record);
     }
 
-    /// A font by its name, which has no place in a style's record.
     std::vector<CDwgExtendedData> TypefaceOf(const AcDbTextStyleTableRecord& record) const {
-        std::wstring strTypeface;
-        Adesk::Boolean bBold = 0, bItalic = 0;
-        int nCharset = 0, nPitchAndFamily = 0;
-        record.font(strTypeface, bBold, bItalic, nCharset, nPitchAndFamily);
-        if (strTypeface.empty()) return {};
-        const Adesk::Int32 nFlags = (bBold ? 1 << 25 : 0) | (bItalic ? 1 << 24 : 0) | (nCharset & 0xFF) << 8 |
-                                    (nPitchAndFamily & 0xFF);
+        const std::vector<CXDataItem> items = TypefaceItems(record);
+        if (items.empty()) return {};
         const CDwgExtendedContext context{m_writing.m_text, m_writing.m_nCodePage, {}, {}};
-        const AcDbObjectId idAcad = RecordNamed(m_writing.m_database.regAppTableId(), L"ACAD");
-        return {{HardPointer(m_writing.m_handles.Of(idAcad)),
-                 PackExtendedData({{1000, strTypeface}, {1071, nFlags}}, context)}};
+        const AcDbObjectId idAcad = RecordNamed(m_writing.m_database.regAppTableId(), g_szTypefaceApp);
+        return {{HardPointer(m_writing.m_handles.Of(idAcad)), PackExtendedData(items, context)}};
     }
 
     void WriteRecord(const AcDbLinetypeTableRecord& record, std::uint64_t nHandle) {

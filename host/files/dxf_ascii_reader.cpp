@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr std::string_view g_szByteOrderMark = "\xEF\xBB\xBF";
-
 std::string_view Trimmed(std::string_view text) {
     const std::size_t nFirst = text.find_first_not_of(" \t");
     if (nFirst == std::string_view::npos) return {};
@@ -17,7 +15,7 @@ std::string_view Trimmed(std::string_view text) {
 
 CDxfAsciiReader::CDxfAsciiReader(std::string_view bytes)
     : m_rest(bytes) {
-    if (m_rest.starts_with(g_szByteOrderMark)) m_rest.remove_prefix(g_szByteOrderMark.size());
+    if (m_rest.starts_with(g_szDxfByteOrderMark)) m_rest.remove_prefix(g_szDxfByteOrderMark.size());
 }
 
 std::string CDxfAsciiReader::PlaceText(std::size_t nPlace) const {

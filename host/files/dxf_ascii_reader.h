@@ -3,8 +3,11 @@
 #include "host/files/dxf_codes.h"
 #include "host/files/dxf_reader.h"
 
+/// What a file in UTF-8 may begin with.
+inline constexpr std::string_view g_szDxfByteOrderMark = "\xEF\xBB\xBF";
+
 /// The text form: a line with the code, a line with the value. Lines end with LF or CRLF; blanks before and
-/// behind a code or a number don't count.
+/// behind a code or a number don't count, nor does a byte order mark.
 class CDxfAsciiReader : public CDxfReader {
 public:
     explicit CDxfAsciiReader(std::string_view bytes);

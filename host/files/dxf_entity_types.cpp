@@ -14,18 +14,20 @@
 
 namespace {
 
+/// No file can hold one whose block is gone.
 bool WriteReference(CDxfOutput& out, const AcDbEntity& entity) {
     const AcDbBlockReference& reference = *AcDbBlockReference::cast(&entity);
+    const std::wstring strBlock = DxfName(reference.blockTableRecord());
     const AcGeScale3d scale = reference.scaleFactors();
     out.Subclass("AcDbBlockReference");
     if (!reference.AttributeIds().empty()) out.Whole(66, 1);
-    out.Text(2, DxfName(reference.blockTableRecord()));
+    out.Text(2, strBlock);
     out.Point(10, reference.position());
     out.Real(41, scale.sx);
     out.Real(42, scale.sy);
     out.Real(43, scale.sz);
     out.Real(50, DxfDegrees(reference.rotation()));
-    return !reference.blockTableRecord().isNull();
+    return !strBlock.empty();
 }
 
 constexpr std::array g_arTypes = {

@@ -1,6 +1,6 @@
 #include "host/files/dxf_read.h"
 
-#include "host/files/dxf_block_check.h"
+#include "host/files/block_check.h"
 #include "host/files/dxf_header.h"
 #include "host/files/dxf_read_entities.h"
 #include "host/files/dxf_read_objects.h"
@@ -25,7 +25,8 @@ public:
             if (m_record.m_type == "EOF") {
                 m_header.Apply(m_drawing);
                 m_entities.GiveProxyData();
-                CheckDxfBlocks(m_drawing.Database());
+                if (const std::optional<CBlockFault> fault = FindBlockFault(m_drawing.Database()))
+                    throw CDxfFailure("block " + fault->m_strBlock, fault->m_strWhat);
                 m_drawing.Database().SetModified(false);
                 return m_drawing.Losses();
             }

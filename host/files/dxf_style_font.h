@@ -1,6 +1,5 @@
 #pragma once
-// A text style's font by name: in a file it stands in extended data of the application "ACAD", as the
-// typeface and a number with its traits.
+// A text style's font by name in DXF; see typeface.h.
 
 #include "host/files/dxf_writer.h"
 #include "platform/acad/db_tables.h"

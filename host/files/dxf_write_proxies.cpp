@@ -22,7 +22,8 @@ std::uint64_t HandleOf(AcDbObjectId id) {
     return id.isNull() || id.isErased() ? 0 : id.handle().Value();
 }
 
-/// What the class of an entity has written, as drawing files hold it; nothing when it fails to.
+/// What the class of an entity has written, as drawing files hold it; nothing when it fails to, or when a
+/// text is too long for one.
 std::optional<CDwgRecord> DataOf(const AcDbEntity& entity) {
     const std::optional<CDbRecord> part = ClassPartOf(entity);
     if (!part) return std::nullopt;
@@ -34,6 +35,7 @@ std::optional<CDwgRecord> DataOf(const AcDbEntity& entity) {
             io.Handle(
                 {pForeign->m_arHandles[i].m_nCode, HandleOf(part->m_arIds[part->m_nForeignIds + i].m_id)});
     }
+    if (io.Failed()) return std::nullopt;
     return io.TakeRecord(0, 0);
 }
 

@@ -76,10 +76,13 @@ resbuf* ReadDxfXData(const CDxfRecord& record, CDxfDrawing& drawing) {
     return chain.First();
 }
 
+void WriteDxfXDataOf(CDxfWriter& writer, std::wstring_view strApp, const std::vector<CXDataItem>& arItems) {
+    writer.Text(g_nApp, strApp);
+    for (const CXDataItem& item : arItems)
+        std::visit(CWriteItem{writer, item.m_nCode}, item.m_value);
+}
+
 void WriteDxfXData(CDxfWriter& writer, const AcDbObject& object) {
-    for (const CXDataOfApp& app : object.XData().Apps()) {
-        writer.Text(g_nApp, DxfName(app.m_idApp));
-        for (const CXDataItem& item : app.m_arItems)
-            std::visit(CWriteItem{writer, item.m_nCode}, item.m_value);
-    }
+    for (const CXDataOfApp& app : object.XData().Apps())
+        WriteDxfXDataOf(writer, DxfName(app.m_idApp), app.m_arItems);
 }

@@ -10,5 +10,8 @@ struct resbuf;
 /// none. Binary data and what stands before the first application are counted as lost.
 resbuf* ReadDxfXData(const CDxfRecord& record, CDxfDrawing& drawing);
 
+/// Writes the values of one application, which the file lists by that name.
+void WriteDxfXDataOf(CDxfWriter& writer, std::wstring_view strApp, const std::vector<CXDataItem>& arItems);
+
 /// Writes all extended data of an object.
 void WriteDxfXData(CDxfWriter& writer, const AcDbObject& object);

@@ -1,6 +1,5 @@
 #include "host/files/proxy_chunks.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {

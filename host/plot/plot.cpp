@@ -42,6 +42,10 @@ std::string Gbk(const QString& strText) {
     return GbkFromWide(strText.toStdWString());
 }
 
+bool HasEnding(const std::filesystem::path& path, QStringView strEnding) {
+    return NameOf(path.extension()).compare(strEnding, Qt::CaseInsensitive) == 0;
+}
+
 void CheckGoesOn(const CPlotOptions& options, std::size_t nDone) {
     if (options.m_fnGoesOn && !options.m_fnGoesOn(nDone)) throw CPlotError("the plot is given up");
 }
@@ -134,9 +138,12 @@ void PaintPage(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts
     }
 }
 
+bool IsPlotFile(const std::filesystem::path& path) {
+    return HasEnding(path, u".pdf") || HasEnding(path, u".svg") || HasEnding(path, u".png");
+}
+
 std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t nPage, std::size_t nPages) {
-    const bool bAllInOne = NameOf(path.extension()).compare(u".pdf", Qt::CaseInsensitive) == 0;
-    if (nPages == 1 || bAllInOne) return path;
+    if (nPages == 1 || HasEnding(path, u".pdf")) return path;
     std::filesystem::path numbered = path;
     return numbered.replace_filename(path.stem().string() + "-" + std::to_string(nPage + 1) +
                                      path.extension().string());
@@ -145,12 +152,10 @@ std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t 
 bool Plot(const std::vector<CPlotPage>& arPages, const CPlotOptions& options, CFonts& fonts,
           const std::filesystem::path& path, std::string* pError) {
     try {
-        const QString strEnding = NameOf(path.extension()).toLower();
-        const bool bPdf = strEnding == u".pdf";
-        const bool bSvg = strEnding == u".svg";
-        if (!bPdf && !bSvg && strEnding != u".png")
+        if (!IsPlotFile(path))
             throw CPlotError(Gbk(NameOf(path)) + ": a plot's name ends in .pdf, .svg or .png");
         if (arPages.empty()) throw CPlotError("there is no page to plot");
+        const bool bPdf = HasEnding(path, u".pdf"), bSvg = HasEnding(path, u".svg");
         if (bPdf) Save(path, MakePdf(arPages, options, fonts));
         for (std::size_t i = 0; !bPdf && i < arPages.size(); ++i) {
             CheckGoesOn(options, i);

@@ -30,9 +30,11 @@ struct CPlotOptions {
 /// Paints a page's pictures in order on a canvas of its millimetres. For the rest see Plot.
 void PaintPage(const CPlotPage& page, const CPlotOptions& options, CFonts& fonts, CCanvas& canvas);
 
+/// Whether the path's ending, in any case, is one of a form that Plot writes: .pdf, .svg or .png.
+bool IsPlotFile(const std::filesystem::path& path);
+
 /// The file of a page (from 0): the path itself where there is one page or the file holds all, else with
-/// "-1",
-/// "-2", ... before its ending.
+/// "-1", "-2", ... before its ending.
 std::filesystem::path PlotFileOf(const std::filesystem::path& path, std::size_t nPage, std::size_t nPages);
 
 /// Writes the pages at 1:1 by the path's ending: .pdf (one file), .svg or .png (a page a file). Each file is

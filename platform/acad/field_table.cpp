@@ -7,6 +7,10 @@
 
 ACRX_DEFINE_DESC(CFieldTable, AcRxObject)
 
+const CFieldTable* CFieldTable::Of(const AcDbObject& object) {
+    return static_cast<const CFieldTable*>(object.queryX(desc()));
+}
+
 int CFieldTable::Find(const std::string& strName) const {
     for (int index = 0; index < Count(); ++index)
         if (strName == Info(index).m_pName) return index;

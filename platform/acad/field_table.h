@@ -30,6 +30,8 @@ class CFieldTable : public AcRxObject {
 public:
     static AcRxClass* desc();
     AcRxClass* isA() const override { return CFieldTable::desc(); }
+    /// The table of an object's class; null for a class that tells no fields.
+    static const CFieldTable* Of(const AcDbObject& object);
 
     virtual int Count() const = 0;
     virtual CFieldInfo Info(int index) const = 0; ///< rows in filing order

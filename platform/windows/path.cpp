@@ -112,6 +112,14 @@ std::size_t LastSlash(std::string_view path) {
     return found;
 }
 
+bool CanStandInFileName(std::string_view utf8) {
+    constexpr char cDelete = 0x7F;
+    return !utf8.empty() && std::ranges::none_of(utf8, [](char c) {
+        return static_cast<unsigned char>(c) < ' ' || c == cDelete ||
+               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
+    });
+}
+
 bool SameFileName(std::string_view left, std::string_view right) {
     if (left == right) return true;
     if (IsAscii(left) != IsAscii(right)) return false;

@@ -22,6 +22,9 @@ std::size_t LastSlash(std::string_view path);
 /// True when two names in the code page differ by case at most.
 bool SameFileName(std::string_view left, std::string_view right);
 
+/// Whether a text (UTF-8) can be part of a file name on any system of the suite. An empty one cannot.
+bool CanStandInFileName(std::string_view utf8);
+
 /// Names in a folder (UTF-8 path) that the code page has, as code page text, in the order of their capitals,
 /// without "." and "..".
 std::vector<std::string> FileNames(const std::string& utf8Folder);

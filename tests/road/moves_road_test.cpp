@@ -192,7 +192,7 @@ TEST_F(Moves, AnUndoTakesFrameAndChartBackOnceAndARedoForward) {
     EXPECT_EQ(undone[1]["fields"], before[1]["fields"]);
     CJson shifted = Shifted(10.0, 20.0);
     shifted["m_arSigma3"] = {100.0, 100.0, 100.0};
-    EXPECT_EQ(Chart(GripFrame("@10,20") + "UNDO 1\nREDO\n"), shifted);
+    EXPECT_EQ(Chart(GripFrame("@10,20") + "UNDO 1\nREDO 1\n"), shifted);
 }
 
 TEST_F(Moves, AMoveOfAFrameGivesItsChartTheOffsetOfTheLastGrip) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <numbers>
 #include <sstream>
 
 namespace {
@@ -65,6 +66,26 @@ TEST_F(CommandInput, CancelIsEscapeOnALineAndAWordOnTheCommandsLine) {
     EXPECT_THROW(m_input.Text(""), CCommandCancelled);
     EXPECT_EQ(m_input.Number(""), 1.5);
     EXPECT_THROW(m_input.Text(""), CRunFailure); // an empty line
+}
+
+TEST_F(CommandInput, ANumberThatMustBeAboveZeroIsRefusedWithWhatItIs) {
+    m_input.Begin({{"2.5", false}, {"0", false}, {"-1", false}, {"two", false}});
+    EXPECT_EQ(m_input.PositiveNumber("", "a radius"), 2.5);
+    for (const char* const szReason : {"a radius is above 0", "a radius is above 0", "not a number: two"}) {
+        try {
+            m_input.PositiveNumber("", "a radius");
+            ADD_FAILURE() << szReason;
+        } catch (const CRunFailure& failure) {
+            EXPECT_EQ(failure.Status(), EXIT_NO_SUCH_ANSWER);
+            EXPECT_STREQ(failure.what(), szReason);
+        }
+    }
+}
+
+TEST_F(CommandInput, AnAngleIsAnsweredInDegrees) {
+    m_input.Begin({{"180", false}, {"-90", false}});
+    EXPECT_DOUBLE_EQ(m_input.Angle(""), std::numbers::pi);
+    EXPECT_DOUBLE_EQ(m_input.Angle(""), -std::numbers::pi / 2.0);
 }
 
 TEST_F(CommandInput, AnOffsetIsCountedFromItsBaseOrStandsForItself) {

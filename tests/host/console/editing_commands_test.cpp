@@ -55,12 +55,15 @@ TEST_F(EditingCommands, UndoGoesBackByCommandsThatChangedSomethingAndRedoForward
     EXPECT_EQ(Lines(strMade + "UNDO 1\n"), CJson::parse("[[0.0,1.0,1.0,1.0]]"));
     EXPECT_EQ(Lines(strMade + "UNDO 2\n"), CJson::parse("[[0.0,0.0,1.0,0.0]]"));
     EXPECT_EQ(Lines(strMade + "UNDO 3\n"), CJson::array());
-    EXPECT_EQ(Lines(strMade + "UNDO 2\nREDO\n"), CJson::parse("[[0.0,1.0,1.0,1.0]]"));
-    EXPECT_EQ(Lines(strMade + "UNDO 9\nREDO\nREDO\nREDO\nREDO\n"), CJson::parse("[[0.0,2.0,1.0,2.0]]"));
-    EXPECT_EQ(m_strOut, "undone: 3\nredone: 1\nredone: 1\nredone: 1\nredone: 0\n");
-    EXPECT_EQ(Lines(strMade + "UNDO 2\nMOVE L 0,0 5,0\nREDO\n"), CJson::parse("[[5.0,0.0,6.0,0.0]]"));
+    EXPECT_EQ(Lines(strMade + "UNDO 2\nREDO 1\n"), CJson::parse("[[0.0,1.0,1.0,1.0]]"));
+    EXPECT_EQ(Lines(strMade + "UNDO 9\nREDO 2\nREDO\n1\nREDO 1\n"), CJson::parse("[[0.0,2.0,1.0,2.0]]"));
+    EXPECT_EQ(m_strOut, "undone: 3\nredone: 2\nredone: 1\nredone: 0\n");
+    EXPECT_EQ(Lines(strMade + "UNDO 3\nREDO 9\n"), CJson::parse("[[0.0,2.0,1.0,2.0]]"));
+    EXPECT_EQ(m_strOut, "undone: 3\nredone: 3\n");
+    EXPECT_EQ(Lines(strMade + "UNDO 2\nMOVE L 0,0 5,0\nREDO 1\n"), CJson::parse("[[5.0,0.0,6.0,0.0]]"));
     EXPECT_EQ(RunScript("UNDO 0\n").m_nStatus, 5);
     EXPECT_EQ(RunScript("UNDO 1.5\n").m_nStatus, 5);
+    EXPECT_EQ(RunScript("REDO 0\n").m_nStatus, 5);
 }
 
 TEST_F(EditingCommands, UndoBringsErasedEntitiesAndVariablesBack) {

@@ -67,7 +67,7 @@ TEST_F(GripCommands, GripTakesItsAnswersFromLinesToo) {
 TEST_F(GripCommands, GripIsUndoneAsOneCommand) {
     const std::string strScript = std::string(g_szLine) + "GRIP L 0,1 @5,0\nUNDO 1\n";
     EXPECT_EQ(Last(strScript)["start"], CJson::parse("[1.0,1.0,0.0]"));
-    EXPECT_EQ(Last(strScript + "REDO\n")["start"], CJson::parse("[6.0,1.0,0.0]"));
+    EXPECT_EQ(Last(strScript + "REDO 1\n")["start"], CJson::parse("[6.0,1.0,0.0]"));
 }
 
 TEST_F(GripCommands, GripHasTheEntityDrawnOnceAtItsEnd) {

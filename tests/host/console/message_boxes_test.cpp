@@ -25,6 +25,14 @@ TEST(MessageBoxes, OneThatTellsIsOneLineAndTakesNone) {
     EXPECT_EQ(answers.m_strPrompts, "");
 }
 
+TEST(MessageBoxes, ShowWhatIsNoCharacterAsItsReplacement) {
+    CLineAnswers answers({});
+    const std::wstring strText = {L'a', static_cast<wchar_t>(0xD800), L'b'};
+    ConsoleMessageBoxes(answers).m_show(nullptr, strText, L"Tervo", MB_OK);
+    EXPECT_EQ(answers.m_strPrinted, "[Tervo] a\xEF\xBF\xBD"
+                                    "b\n");
+}
+
 TEST(MessageBoxes, TakeTheAnswersOfTheirButtons) {
     EXPECT_EQ(Answer(MB_OKCANCEL, "ok"), 1);
     EXPECT_EQ(Answer(MB_OKCANCEL, "cancel"), 2);

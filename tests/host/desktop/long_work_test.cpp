@@ -69,10 +69,13 @@ TEST(LongWork, TheStatusBarSaysSoBeforeEachCommandBegins) {
         user.Do([&] { pWatch = std::make_unique<CBusyWatch>(user.Desktop()); });
         int nBefore = 0;
         for (const std::string& strLine :
-             {"OPEN \"" + strFile + "\"", std::string("ERASE ALL"), std::string("UNDO 1"),
+             {"OPEN \"" + strFile + "\"", std::string("ERASE all"), std::string("UNDO 1"),
               "SAVEAS \"" + folder.Path("a.dwg") + "\"", std::string("REGEN")}) {
             user.Say(strLine);
             user.Do([&] { EXPECT_GT(pWatch->m_nSaid, std::exchange(nBefore, pWatch->m_nSaid)) << strLine; });
+            if (strLine == "ERASE all") {
+                EXPECT_EQ(user.Shown(), 0U);
+            }
         }
         user.Do([&] { pWatch.reset(); });
     });

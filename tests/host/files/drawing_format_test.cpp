@@ -64,6 +64,15 @@ TEST(ReadDrawing, GoesByWhatTheBytesAre) {
     }
 }
 
+TEST(ReadDrawing, TakesADxfThatBeginsWithAByteOrderMark) {
+    AcDbDatabase database;
+    AppendLine(database);
+    const std::string strMarked = "\xEF\xBB\xBF" + WriteDrawing(database, CDrawingFormat::Dxf).m_strBytes;
+    const CReadDrawing read = ReadDrawing(strMarked);
+    EXPECT_EQ(read.m_format, CDrawingFormat::Dxf);
+    EXPECT_EQ(Entities<AcDbLine>(read.m_pDatabase->ModelSpaceId()).size(), 1U);
+}
+
 TEST(ReadDrawing, TellsHowFarItIsAndCanBeGivenUpBeforeAnyObject) {
     AcDbDatabase database;
     for (int i = 0; i < 20; ++i)

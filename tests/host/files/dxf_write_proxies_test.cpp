@@ -24,11 +24,13 @@ public:
     bool m_bShown = true;
     bool m_bWrites = true;
     AcDbObjectId m_idOther;
+    std::wstring m_strText; ///< written unless it is empty
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* pFiler) const override {
         if (!m_bWrites) return Acad::eNotApplicable;
         AcDbEntity::dwgOutFields(pFiler);
         pFiler->writeInt16(7);
+        if (!m_strText.empty()) pFiler->writeString(m_strText.c_str());
         return pFiler->writeSoftPointerId(m_idOther);
     }
 
@@ -143,6 +145,17 @@ TEST_F(DxfProxies, TellWhatIsMissingOfThem) {
     const CDxfFile file = WriteDxf(database);
     EXPECT_EQ(file.m_losses, (CDxfLosses{{"data of SIGN", 1}, {"picture of SIGN", 1}}));
     EXPECT_EQ(Audit(file.m_strBytes).m_strFindings.substr(0, 20), "ACAD_PROXY_ENTITY 2\n");
+}
+
+TEST_F(DxfProxies, LoseTheirDataWithATextThatIsTooLongForAFile) {
+    constexpr std::size_t nLongest = 65535; // bytes
+    AcDbDatabase fits, tooLong;
+    Add(fits).m_strText = std::wstring(nLongest, L'a');
+    EXPECT_EQ(WriteDxf(fits).m_losses, CDxfLosses());
+    Add(tooLong).m_strText = std::wstring(nLongest + 1, L'a');
+    const CDxfFile file = WriteDxf(tooLong);
+    EXPECT_EQ(file.m_losses, (CDxfLosses{{"data of SIGN", 1}}));
+    EXPECT_NE(ProxyGroups(file).find(" 93\n0\n"), std::string::npos);
 }
 
 TEST_F(DxfProxies, AreCountedWhereTheyShouldExplodeAndCannot) {

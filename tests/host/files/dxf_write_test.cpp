@@ -300,6 +300,16 @@ TEST(WriteDxf, CountsWhatItCannotWrite) {
     EXPECT_EQ(Audit(file.m_strBytes).m_strFindings, "LINE 1\n");
 }
 
+TEST(WriteDxf, CountsAReferenceWhoseBlockIsErasedWithItsAttributes) {
+    AcDbDatabase drawing, back;
+    AddTitle(drawing);
+    CDbOpen<AcDbBlockTableRecord>(Record(drawing.blockTableId(), L"标题"), AcDb::kForWrite)->erase();
+    const CDxfFile file = WriteDxf(drawing);
+    EXPECT_EQ(file.m_losses, (CDxfLosses{{"INSERT", 1}}));
+    EXPECT_EQ(ReadDxf(file.m_strBytes, back), CDxfLosses());
+    EXPECT_TRUE(Entities<AcDbBlockReference>(back.ModelSpaceId()).empty());
+}
+
 TEST(WriteDxf, WritesWhatItReadOfEachVersionAgain) {
     for (const char* szName : {"r12_text", "r2000_text", "r2007_binary", "r2018_text"}) {
         std::string strBytes;

@@ -207,6 +207,13 @@ TEST_F(PlottingTest, ALineAcrossAKilometreOfDashesEndsInTime) {
         EXPECT_TRUE(PlotTo(strName, {{{0, 0, 10, 10}, {{&list, 7}}}})) << m_strError;
 }
 
+TEST(IsPlotFile, IsToldByTheEndingInAnyCase) {
+    for (const char* const szPath : {"x.pdf", "out/x.y.SVG", "x.Png"})
+        EXPECT_TRUE(IsPlotFile(szPath)) << szPath;
+    for (const char* const szPath : {"x", "pdf", ".pdf", "x.pdf.bak", "x.dwg", ""})
+        EXPECT_FALSE(IsPlotFile(szPath)) << szPath;
+}
+
 TEST(PlotFileOf, NumbersPagesOnlyWhereAFileHoldsOne) {
     EXPECT_EQ(PlotFileOf("out/x.svg", 0, 1), "out/x.svg");
     EXPECT_EQ(PlotFileOf("out/x.svg", 1, 3), "out/x-2.svg");

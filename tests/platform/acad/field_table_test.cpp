@@ -1,5 +1,6 @@
 #include "platform/acad/field_table.h"
 
+#include "platform/acad/db_line.h"
 #include "platform/acad/rx_class.h"
 
 #include <gtest/gtest.h>
@@ -42,4 +43,14 @@ TEST(CFieldTable, HangsOnAClassAsAnExtension) {
     EXPECT_EQ(pClass->queryX(CFieldTable::desc()), &table);
     EXPECT_EQ(AcDbObject::desc()->queryX(CFieldTable::desc()), nullptr);
     deleteAcRxClass(pClass);
+}
+
+TEST(CFieldTable, IsThatOfAnObjectsClass) {
+    CSampleTable table;
+    const AcDbLine line;
+    EXPECT_EQ(CFieldTable::Of(line), nullptr);
+    AcDbLine::desc()->addX(CFieldTable::desc(), &table);
+    EXPECT_EQ(CFieldTable::Of(line), &table);
+    AcDbLine::desc()->delX(CFieldTable::desc());
+    EXPECT_EQ(CFieldTable::Of(line), nullptr);
 }

@@ -130,3 +130,11 @@ TEST(FileNames, AreInTheOrderOfTheirCapitals) {
     EXPECT_EQ(FileNames(folder.Path()), (std::vector<std::string>{"a", "b", "C", "图"}));
     EXPECT_TRUE(FileNames(folder.Path("missing")).empty());
 }
+
+TEST(CanStandInFileName, TakesWhatEverySystemTakes) {
+    for (const char* const szName : {"1-1", "ZK 1", "a~b", ".", "\xE9\x92\xBB"})
+        EXPECT_TRUE(CanStandInFileName(szName)) << szName;
+    for (const char* const szName :
+         {"", "a/b", "a\\b", "c:", "*", "?", "\"", "<", ">", "a|b", "a\tb", "a\x7F"})
+        EXPECT_FALSE(CanStandInFileName(szName)) << szName;
+}

@@ -1,6 +1,10 @@
-#include "host/files/dxf_block_check.h"
+#include "host/files/block_check.h"
 
-#include "host/files/dxf_failure.h"
+#include "host/files/dwg_drawing_reader.h"
+#include "host/files/dwg_drawing_writer.h"
+#include "host/files/dwg_error.h"
+#include "host/files/dxf_read.h"
+#include "host/files/dxf_write.h"
 #include "platform/acad/db_block_reference.h"
 #include "platform/acad/db_line.h"
 
@@ -38,8 +42,23 @@ AcDbObjectId AddTower(AcDbDatabase& drawing, int nLevels, int nTimes) {
 }
 
 std::string Failure(const AcDbDatabase& drawing) {
+    const std::optional<CBlockFault> fault = FindBlockFault(drawing);
+    return fault ? fault->m_strBlock + ": " + fault->m_strWhat : "none";
+}
+
+/// Why the drawing, written to a file of either format, is not read again.
+std::string DwgRefusal(const AcDbDatabase& drawing) {
     try {
-        CheckDxfBlocks(drawing);
+        DrawingOfDwg(ReadDwgFile(WriteDwgFile(DwgFileOf(drawing))));
+    } catch (const CDwgError& error) {
+        return error.what();
+    }
+    return "none";
+}
+std::string DxfRefusal(const AcDbDatabase& drawing) {
+    AcDbDatabase back;
+    try {
+        ReadDxf(WriteDxf(drawing).m_strBytes, back);
     } catch (const CDxfFailure& failure) {
         return failure.what();
     }
@@ -48,31 +67,44 @@ std::string Failure(const AcDbDatabase& drawing) {
 
 } // namespace
 
-TEST(CheckDxfBlocks, LetsOrdinaryBlocksPass) {
+TEST(FindBlockFault, LetsOrdinaryBlocksPass) {
     AcDbDatabase drawing;
     AddTower(drawing, 20, 2);
     EXPECT_EQ(Failure(drawing), "none");
 }
 
-TEST(CheckDxfBlocks, RefusesABlockThatHoldsItselfByWayOfAnother) {
+TEST(FindBlockFault, RefusesABlockThatHoldsItselfByWayOfAnother) {
     AcDbDatabase drawing;
     const AcDbObjectId idTop = AddTower(drawing, 2, 1);
     AcDbObjectId idFirst;
     ASSERT_EQ(CDbOpen<AcDbBlockTable>(drawing.blockTableId())->getAt(L"B0", idFirst), Acad::eOk);
     AddTo(idFirst, new AcDbBlockReference(AcGePoint3d::kOrigin, idTop));
-    EXPECT_EQ(Failure(drawing), "block B0: it holds itself");
+    EXPECT_EQ(Failure(drawing), "B0: it holds itself");
 }
 
-TEST(CheckDxfBlocks, RefusesATowerThatIsTooHigh) {
+TEST(FindBlockFault, RefusesATowerThatIsTooHigh) {
     AcDbDatabase high, higher;
     AddTower(high, 100, 1);
     EXPECT_EQ(Failure(high), "none");
     AddTower(higher, 101, 1);
-    EXPECT_EQ(Failure(higher), "block B100: blocks within blocks too deep");
+    EXPECT_EQ(Failure(higher), "B100: blocks within blocks too deep");
 }
 
-TEST(CheckDxfBlocks, RefusesBlocksThatShowMoreThanCanBeDrawn) {
+TEST(FindBlockFault, RefusesBlocksThatShowMoreThanCanBeDrawn) {
     AcDbDatabase drawing;
     AddTower(drawing, 60, 2);
-    EXPECT_EQ(Failure(drawing), "block B22: blocks within blocks show too many entities");
+    EXPECT_EQ(Failure(drawing), "B22: blocks within blocks show too many entities");
+}
+
+TEST(FindBlockFault, PassesOverAReferenceWithoutABlock) {
+    AcDbDatabase drawing;
+    AddTo(drawing.ModelSpaceId(), new AcDbBlockReference(AcGePoint3d::kOrigin, AcDbObjectId::kNull));
+    EXPECT_EQ(Failure(drawing), "none");
+}
+
+TEST(FindBlockFault, RefusesFilesOfBothFormats) {
+    AcDbDatabase drawing;
+    AddTower(drawing, 60, 2);
+    EXPECT_EQ(DwgRefusal(drawing), "Block B22: blocks within blocks show too many entities.");
+    EXPECT_EQ(DxfRefusal(drawing), "block B22: blocks within blocks show too many entities");
 }

@@ -1,7 +1,5 @@
-#include "host/files/dxf_block_check.h"
+#include "host/files/block_check.h"
 
-#include "host/files/dxf_failure.h"
-#include "host/files/dxf_output.h"
 #include "platform/acad/db_block_reference.h"
 
 #include <algorithm>
@@ -25,7 +23,7 @@ public:
 
 private:
     [[noreturn]] static void Fail(AcDbObjectId idBlock, const char* szWhat) {
-        throw CDxfFailure("block " + SymbolName(idBlock), szWhat);
+        throw CBlockFault{SymbolName(idBlock), szWhat};
     }
 
     /// The content of a block that stands in so many others.
@@ -41,7 +39,8 @@ private:
 
     void CountEntities(AcDbObjectId idBlock, int nDepth, CContent& content) {
         const CDbOpen<AcDbBlockTableRecord> block(idBlock);
-        for (const AcDbObjectId& id : block->EntityIds()) {
+        const std::vector<AcDbObjectId> ids = block ? block->EntityIds() : std::vector<AcDbObjectId>();
+        for (const AcDbObjectId& id : ids) {
             content.m_dShown += 1.0;
             const CDbOpen<AcDbBlockReference> reference(id);
             if (!reference) continue;
@@ -57,8 +56,13 @@ private:
 
 } // namespace
 
-void CheckDxfBlocks(const AcDbDatabase& database) {
-    CBlockCheck check;
-    for (const AcDbObjectId& id : LivingRecords(database.blockTableId()))
-        check.Check(id);
+std::optional<CBlockFault> FindBlockFault(const AcDbDatabase& database) {
+    try {
+        CBlockCheck check;
+        for (const AcDbObjectId& id : LivingRecords(database.blockTableId()))
+            check.Check(id);
+        return std::nullopt;
+    } catch (const CBlockFault& fault) {
+        return fault;
+    }
 }
