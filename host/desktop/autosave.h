@@ -3,8 +3,8 @@
 #include "host/console/drawings.h"
 
 #include <filesystem>
-#include <map>
 #include <optional>
+#include <set>
 
 /// A drawing kept by a run that ended without its care.
 struct CKeptDrawing {
@@ -41,7 +41,6 @@ private:
 
     std::filesystem::path m_folder;
     std::string m_strRun;
-    int m_nLock = -1; // held while the run lives
-    std::map<const AcApDocument*, int> m_mapNumbers;
-    int m_nLast = 0;
+    int m_nLock = -1;        // held while the run lives
+    std::set<int> m_setKept; // numbers of the drawings that have copies
 };
