@@ -46,6 +46,7 @@ private:
     void Start(const QString& strCommandLine);
     void Open(const QString& strPath);
     void Do(CWindowDeed deed);
+    void Print(std::string (*pfnPrint)(AcDbDatabase& drawing, CFonts& fonts, QWidget* pParent));
     void Export();
     void Activate(qsizetype nIndex);
     void ActivateNext(int nStep);

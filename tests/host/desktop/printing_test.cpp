@@ -44,6 +44,7 @@ public:
                            Sheet(500, "1") + Sheet(1000, "0.5") + Group(0, "ENDSEC") + Group(0, "EOF"));
     }
     CDesktopStart Start() const { return {"/nowhere", "none", m_folder.Path("sheets.dxf")}; }
+    std::string Folder() const { return m_folder.Path(); }
     std::string Pdf() const { return m_folder.Path("printed.pdf"); }
     /// What a program of Poppler's says of the file printed.
     std::string Poppler(const std::string& strProgram) const {
@@ -116,6 +117,25 @@ TEST(Printing, GivenUpItLeavesNoFile) {
         user.Do([] { SetProgressSink({}); });
     });
     EXPECT_FALSE(std::filesystem::exists(sheets.Pdf()));
+}
+
+TEST(Printing, APrinterThatDoesNotTakeThePagesIsTold) {
+    const CSheets sheets;
+    const std::string strGone = sheets.Folder() + "/gone";
+    std::filesystem::create_directory(strGone);
+    AtDesktop(sheets.Start(), [&](const CDesktopUser& user) {
+        user.Do([&] {
+            SetProgressSink([&](const std::string&, std::size_t, std::size_t) {
+                std::filesystem::remove_all(strGone); // after the dialog has looked whether it can be written
+                return true;
+            });
+        });
+        user.Menu("Print...");
+        PrintTo(user, strGone + "/printed.pdf");
+        EXPECT_NE(user.Said().find("cannot print to " + strGone + "/printed.pdf"), std::string::npos)
+            << user.Said();
+        user.Do([] { SetProgressSink({}); });
+    });
 }
 
 TEST(Printing, ThePreviewHasThePagesAndEscapeClosesIt) {
