@@ -17,10 +17,13 @@ constexpr int g_nProgressInterval = 50; // ms
 
 /// What a check found, in a sentence.
 QString OutcomeText(const CImportOutcome& outcome) {
-    if (outcome.m_nRefusals == 0) return u"To come in: "_qs + CountsLine(outcome.m_counts);
-    QString strText =
-        u"Refusals: %1. Nothing is imported while any row is refused."_qs.arg(outcome.m_nRefusals);
-    if (outcome.m_nRefusals > g_nMostRemarks) strText += u" The first %1 are shown."_qs.arg(g_nMostRemarks);
+    QString strText = u"To come in: "_qs + CountsLine(outcome.m_counts);
+    if (outcome.m_nRefusals > 0)
+        strText = u"Refusals: %1. Nothing is imported while any row is refused."_qs.arg(outcome.m_nRefusals);
+    const std::size_t nRemarks = outcome.m_nRefusals + outcome.m_nWarnings;
+    if (nRemarks > outcome.m_arRemarks.size())
+        strText +=
+            u"\nOf %1 refusals and warnings %2 are shown."_qs.arg(nRemarks).arg(outcome.m_arRemarks.size());
     return strText;
 }
 

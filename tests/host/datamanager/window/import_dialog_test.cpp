@@ -131,6 +131,17 @@ TEST_F(ImportDialog, ShowsWarningsAndImportsAllTheSame) {
     EXPECT_TRUE(Button(u"&Import"_qs).isEnabled());
 }
 
+TEST_F(ImportDialog, SaysOfMoreRemarksThanItShowsHowManyThereAre) {
+    std::string strSamples = "ZKBH,QYBH,SYFF\n";
+    for (std::size_t i = 0; i <= g_nMostRemarks; ++i)
+        strSamples += "ZK1," + std::to_string(i) + ",other\n";
+    OpenDialog();
+    Add(m_program.Folder().Write("samples.csv", strSamples));
+    EXPECT_EQ(static_cast<std::size_t>(Rows(u"Remarks"_qs).size()), g_nMostRemarks);
+    EXPECT_EQ(State(), u"To come in: readings: 0, samples: 5001, layers: 0\n"
+                       "Of 5001 refusals and warnings 5000 are shown."_qs);
+}
+
 TEST_F(ImportDialog, TellsOfAFileThatCannotBeRead) {
     const std::string strPath = m_program.Folder().Write("gone.csv", g_strLayers);
     OpenDialog();
