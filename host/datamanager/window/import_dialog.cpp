@@ -8,7 +8,7 @@
 
 #include "host/datamanager/window/import_tables.h"
 #include "host/datamanager/window/labelled.h"
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 
 namespace {
 
