@@ -170,6 +170,13 @@ std::vector<CKeptDrawing> CAutosave::Left() const {
     return arLeft;
 }
 
+CDescriptor CAutosave::Claim(const CKeptDrawing& kept) {
+    CDescriptor lock(Lock(kept.m_file, 0));
+    std::error_code error;
+    if (lock && !fs::exists(kept.m_file, error)) lock.Close(); // discarded between opening and locking
+    return lock;
+}
+
 void CAutosave::Discard(const CKeptDrawing& kept) {
     Remove(kept.m_file);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/console/drawings.h"
+#include "platform/windows/descriptor.h"
 
 #include <filesystem>
 #include <optional>
@@ -33,6 +34,9 @@ public:
 
     /// What runs that are over left.
     std::vector<CKeptDrawing> Left() const;
+    /// The right to ask the user for one, held as long as the file is open: of programs that start at once
+    /// one has it. A closed one when another program has it, or the drawing is there no longer.
+    static CDescriptor Claim(const CKeptDrawing& kept);
     static void Discard(const CKeptDrawing& kept);
 
 private:
