@@ -1,5 +1,6 @@
 #include "tests/host/desktop/desktop_user.h"
 
+#include "host/kept_locale.h"
 #include "platform/windows/installation_root.h"
 #include "tests/temp_folder.h"
 
@@ -16,7 +17,6 @@
 
 #include <array>
 #include <atomic>
-#include <clocale>
 #include <iostream>
 #include <thread>
 
@@ -49,13 +49,13 @@ QWidget* Focused(CMainWindow& window) {
 
 void StartTestQt() {
     if (qApp) return;
+    const CKeptLocale locale;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static int s_nArguments = 1;
     static std::array<char, 5> s_szProgram = {"test"};
     static std::array<char*, 2> s_arArguments = {s_szProgram.data(), nullptr};
     [[maybe_unused]] static QApplication& s_application =
         *new QApplication(s_nArguments, s_arArguments.data());
-    std::setlocale(LC_ALL, "C"); // as the program has it
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& strText) {
         if (!strText.startsWith(u"This plugin does not support"_qs))
             std::cerr << qFormatLogMessage(type, context, strText).toStdString() << std::endl;
