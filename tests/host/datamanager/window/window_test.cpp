@@ -63,8 +63,7 @@ void CDataWindowTest::Open() {
 }
 
 void CDataWindowTest::OpenDemo() {
-    m_program.Do("import --root \"$ROOT\" --number A '" + Demo("samples.csv") + "' '" + Demo("layers.csv") +
-                 "' '" + Demo("readings.csv") + "'");
+    ImportDemo(m_program, "A");
     Open();
 }
 
