@@ -11,6 +11,8 @@
 #include <QtPrintSupport/QPrintPreviewDialog>
 #include <QtPrintSupport/QPrinter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double g_dMmPerInch = 25.4;
@@ -23,6 +25,16 @@ void SetPaper(QPrinter& printer, const CPageBox& box) {
     printer.setPageSize(QPageSize(upright, QPageSize::Millimeter, QString(), QPageSize::FuzzyMatch));
     printer.setPageOrientation(bLying ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setFullPage(true);
+}
+
+/// A box with room for each page.
+CPageBox RoomForEach(const std::vector<CPlotPage>& arPages) {
+    double dWidth = 0.0, dHeight = 0.0;
+    for (const CPlotPage& page : arPages) {
+        dWidth = std::max(dWidth, page.m_box.Width());
+        dHeight = std::max(dHeight, page.m_box.Height());
+    }
+    return {0.0, 0.0, dWidth, dHeight};
 }
 
 bool IsSameSize(const CPageBox& one, const CPageBox& other) {
@@ -82,11 +94,12 @@ std::string PreviewPrint(AcDbDatabase& drawing, CFonts& fonts, QWidget* pParent)
     const std::vector<CPlotPage> arPages = plotted.Pages();
     const CPlotOptions options = PlotOptionsOf(drawing);
     QPrinter printer(QPrinter::HighResolution);
-    SetPaper(printer, arPages.front().m_box);
     QPrintPreviewDialog dialog(&printer, pParent);
     bool bPrinted = true;
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* pPrinter) { bPrinted = PrintPages(arPages, options, fonts, *pPrinter); });
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* pPrinter) {
+        bPrinted = PrintPages(arPages, options, fonts, *pPrinter);
+        SetPaper(*pPrinter, RoomForEach(arPages)); // on which the preview shows all pages alike
+    });
     dialog.exec();
     return bPrinted ? std::string() : Failure(printer);
 }
