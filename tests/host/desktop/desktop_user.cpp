@@ -1,7 +1,7 @@
 #include "tests/host/desktop/desktop_user.h"
 
-#include "host/kept_locale.h"
 #include "platform/windows/installation_root.h"
+#include "tests/host/desktop/dialogs/user_hand.h"
 #include "tests/temp_folder.h"
 
 #include <QtTest/QtTest>
@@ -15,7 +15,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <atomic>
 #include <iostream>
 #include <thread>
@@ -49,13 +48,7 @@ QWidget* Focused(CMainWindow& window) {
 
 void StartTestQt() {
     if (qApp) return;
-    const CKeptLocale locale;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int s_nArguments = 1;
-    static std::array<char, 5> s_szProgram = {"test"};
-    static std::array<char*, 2> s_arArguments = {s_szProgram.data(), nullptr};
-    [[maybe_unused]] static QApplication& s_application =
-        *new QApplication(s_nArguments, s_arArguments.data());
+    StartWidgets();
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& strText) {
         if (!strText.startsWith(u"This plugin does not support"_qs))
             std::cerr << qFormatLogMessage(type, context, strText).toStdString() << std::endl;
