@@ -210,11 +210,11 @@ void CImportDialog::ShowRemarkedRow() {
     const int nRemark = m_pRemarks->Chosen();
     if (nRemark < 0) return;
     const CImportRemark& remark = m_outcome.m_arRemarks[static_cast<std::size_t>(nRemark)];
-    for (std::size_t i = 0; i < m_outcome.m_arPreviews.size(); ++i)
-        if (m_outcome.m_arPreviews[i].m_strFile == remark.m_strFile) {
-            m_pFiles->setCurrentRow(static_cast<int>(i));
-            m_pPreview->Choose(PreviewRowOf(m_outcome.m_arPreviews[i], remark.m_nLine));
-        }
+    const auto arItems = m_pFiles->findItems(QString::fromStdString(remark.m_strFile), Qt::MatchExactly);
+    if (arItems.isEmpty()) return; // removed since the check
+    m_pFiles->setCurrentItem(arItems.front());
+    for (const CFilePreview& preview : m_outcome.m_arPreviews)
+        if (preview.m_strFile == remark.m_strFile) m_pPreview->Choose(PreviewRowOf(preview, remark.m_nLine));
 }
 
 void CImportDialog::ShowProgress() {

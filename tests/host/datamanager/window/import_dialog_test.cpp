@@ -174,6 +174,27 @@ TEST_F(ImportDialog, CancelsAnImportAndLeavesNothingOfIt) {
     EXPECT_EQ(m_program.Sql("Projects/A/project.db", "SELECT COUNT(*) FROM z_c_SanZhouCSXM"), "911\n");
 }
 
+TEST_F(ImportDialog, ShowsTheFileOfARemarkThoughAnotherOneWasRemovedSinceTheCheck) {
+    const std::string strSound = m_program.Folder().Write("sound.csv", g_strLayers + "ZK1,4,4,clay\n");
+    const std::string strWrong = m_program.Folder().Write("wrong.csv", g_strLayers + "ZK2,x,4,clay\n");
+    OpenDialog();
+    Add(strSound);
+    Add(strWrong);
+    // Another program holds the lock, so that the next check is under way for as long as the test needs.
+    const auto pOther =
+        OpenDbConnection("Provider=SQLite;Data Source=" + m_program.Root() + "/Projects/A/project.db");
+    pOther->Execute("BEGIN EXCLUSIVE");
+    auto& files = Find<QListWidget>(u"Files"_qs);
+    files.setCurrentRow(0);
+    QTest::mouseClick(&Button(u"Re&move"_qs), Qt::LeftButton);
+    Table(u"Remarks"_qs).Choose(0);
+    ASSERT_TRUE(files.currentItem());
+    EXPECT_EQ(files.currentItem()->text(), QString::fromStdString(strWrong));
+    EXPECT_EQ(Table(u"Preview"_qs).Chosen(), 0);
+    pOther->Execute("ROLLBACK");
+    AwaitIdle();
+}
+
 TEST_F(ImportDialog, ShowsWhatOthersWroteSinceTheCheck) {
     const std::string strPath = m_program.Folder().Write("layers.csv", g_strLayers + "ZK1,4,4,clay\n");
     OpenDialog();
