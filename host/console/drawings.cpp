@@ -37,7 +37,7 @@ void CDrawings::Add(std::unique_ptr<AcDbDatabase> pDatabase, CFileNotes notes) {
     pDatabase->SetModified(false);
     const std::wstring strTitle = L"Drawing" + std::to_wstring(++m_nMade);
     auto pDocument = std::make_unique<AcApDocument>(std::move(pDatabase), strTitle);
-    m_arDrawings.push_back({std::move(pDocument), std::move(notes), 0});
+    m_arDrawings.push_back({std::move(pDocument), std::move(notes), m_nMade, 0});
     MakeCurrent(*m_arDrawings.back().m_pDocument);
     acrxDynamicLinker()->SendToAll(AcRx::kLoadDwgMsg);
 }
@@ -63,9 +63,11 @@ void CDrawings::Close(AcApDocument& document) {
 }
 
 CFileNotes& CDrawings::NotesOf(const AcApDocument& document) {
-    return std::find_if(m_arDrawings.begin(), m_arDrawings.end(),
-                        [&](const COpenDrawing& drawing) { return drawing.m_pDocument.get() == &document; })
-        ->m_notes;
+    return std::find_if(m_arDrawings.begin(), m_arDrawings.end(), IsOf(document))->m_notes;
+}
+
+int CDrawings::NumberOf(const AcApDocument& document) const {
+    return std::find_if(m_arDrawings.begin(), m_arDrawings.end(), IsOf(document))->m_nNumber;
 }
 
 std::string CDrawings::NameOf(const AcApDocument& document) {

@@ -38,13 +38,21 @@ public:
     static std::string NameOf(const AcApDocument& document);
     /// For a document of this program.
     CFileNotes& NotesOf(const AcApDocument& document);
+    /// The number of such a one, counted in order of opening. No later drawing gets it, as one may get the
+    /// address.
+    int NumberOf(const AcApDocument& document) const;
 
 private:
     struct COpenDrawing {
         std::unique_ptr<AcApDocument> m_pDocument;
         CFileNotes m_notes;
+        int m_nNumber;
         int m_nActivated; ///< the higher, the later it was made the current one
     };
+    static auto IsOf(const AcApDocument& document) {
+        return [&document](const COpenDrawing& drawing) { return drawing.m_pDocument.get() == &document; };
+    }
+
     std::vector<COpenDrawing> m_arDrawings;
     AcApDocument* m_pCurrent = nullptr;
     int m_nMade = 0, m_nActivations = 0;

@@ -12,7 +12,8 @@ public:
     void Add(AcDbObjectId id);
     void Remove(const std::vector<AcDbObjectId>& ids);
     void Clear();
-    bool Contains(AcDbObjectId id) const { return m_setHandles.contains(id.handle().Value()); }
+    bool Contains(AcDbObjectId id) const { return Contains(id.handle()); }
+    bool Contains(AcDbHandle handle) const { return m_setHandles.contains(handle.Value()); }
     const std::vector<AcDbObjectId>& Ids() const { return m_arIds; }
 
 private:

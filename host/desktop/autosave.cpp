@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <set>
+#include <map>
 
 namespace fs = std::filesystem;
 
@@ -106,7 +106,7 @@ CAutosave::CAutosave(fs::path folder)
 
 CAutosave::~CAutosave() {
     if (m_nLock < 0) return;
-    for (const auto& [pDocument, nNumber] : m_mapNumbers)
+    for (const int nNumber : m_setKept)
         Remove(Copy(nNumber));
     std::error_code error;
     fs::remove(m_folder / (m_strRun + g_pLockEnding), error);
@@ -127,18 +127,19 @@ fs::path CAutosave::Copy(int nNumber) const {
 std::optional<std::string> CAutosave::Save(const CDrawings& drawings) {
     if (m_nLock < 0)
         return "no copies of changed drawings are kept: " + m_folder.string() + " cannot be used";
-    const std::vector<AcApDocument*> arChanged = drawings.ChangedDocuments();
-    std::erase_if(m_mapNumbers, [&](const auto& kept) { // saved or closed since
-        const bool bGone = std::find(arChanged.begin(), arChanged.end(), kept.first) == arChanged.end();
-        if (bGone) Remove(Copy(kept.second));
+    std::map<int, const AcApDocument*> mapChanged;
+    for (const AcApDocument* const pDocument : drawings.ChangedDocuments())
+        mapChanged[drawings.NumberOf(*pDocument)] = pDocument;
+    std::erase_if(m_setKept, [&](int nNumber) { // saved or closed since
+        const bool bGone = !mapChanged.contains(nNumber);
+        if (bGone) Remove(Copy(nNumber));
         return bGone;
     });
     std::optional<std::string> reason;
-    for (const AcApDocument* const pDocument : arChanged) {
-        const auto [kept, bNew] = m_mapNumbers.try_emplace(pDocument, m_nLast + 1);
-        if (bNew) ++m_nLast;
+    for (const auto& [nNumber, pDocument] : mapChanged) {
+        m_setKept.insert(nNumber);
         try {
-            Keep(*pDocument, Copy(kept->second));
+            Keep(*pDocument, Copy(nNumber));
         } catch (const CDrawingFailure& failure) {
             reason = "no copy of " + CDrawings::NameOf(*pDocument) + " could be kept: " + failure.what();
         }
@@ -167,6 +168,13 @@ std::vector<CKeptDrawing> CAutosave::Left() const {
     std::sort(arLeft.begin(), arLeft.end(),
               [](const CKeptDrawing& a, const CKeptDrawing& b) { return a.m_file < b.m_file; });
     return arLeft;
+}
+
+CDescriptor CAutosave::Claim(const CKeptDrawing& kept) {
+    CDescriptor lock(Lock(kept.m_file, 0));
+    std::error_code error;
+    if (lock && !fs::exists(kept.m_file, error)) lock.Close(); // discarded between opening and locking
+    return lock;
 }
 
 void CAutosave::Discard(const CKeptDrawing& kept) {

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "host/console/drawings.h"
+#include "platform/windows/descriptor.h"
 
 #include <filesystem>
-#include <map>
 #include <optional>
+#include <set>
 
 /// A drawing kept by a run that ended without its care.
 struct CKeptDrawing {
@@ -33,6 +34,9 @@ public:
 
     /// What runs that are over left.
     std::vector<CKeptDrawing> Left() const;
+    /// The right to ask the user for one, held as long as the file is open: of programs that start at once
+    /// one has it. A closed one when another program has it, or the drawing is there no longer.
+    static CDescriptor Claim(const CKeptDrawing& kept);
     static void Discard(const CKeptDrawing& kept);
 
 private:
@@ -41,7 +45,6 @@ private:
 
     std::filesystem::path m_folder;
     std::string m_strRun;
-    int m_nLock = -1; // held while the run lives
-    std::map<const AcApDocument*, int> m_mapNumbers;
-    int m_nLast = 0;
+    int m_nLock = -1;        // held while the run lives
+    std::set<int> m_setKept; // numbers of the drawings that have copies
 };

@@ -2,24 +2,16 @@
 
 #include "host/console/answers.h"
 #include "host/desktop/desktop.h"
+#include "host/desktop_entry.h"
 #include "host/interface_font.h"
+#include "host/kept_locale.h"
 
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <array>
-#include <clocale>
 
 namespace {
-
-/// Qt takes the user's locale over, with its decimal comma; numbers are read and written with a point here.
-class CKeptLocale {
-public:
-    ~CKeptLocale() { std::setlocale(LC_ALL, m_strLocale.c_str()); }
-
-private:
-    std::string m_strLocale = std::setlocale(LC_ALL, nullptr);
-};
 
 /// Never deleted: fonts held by other statics need it to the last.
 void StartWindowedQt() {
@@ -32,6 +24,7 @@ void StartWindowedQt() {
     QApplication::setQuitOnLastWindowClosed(false); // QUIT ends the run
     QApplication::setStyle(u"Fusion"_qs);
     UseInterfaceFont();
+    UseDesktopEntry(u"tvcad"_qs);
 }
 
 } // namespace

@@ -13,6 +13,7 @@ void CDocumentView::TakeSelection() {
 }
 
 void CDocumentView::Sync() {
+    m_view = Drawing().View();
     if (!m_scene.Sync(Drawing())) return;
     std::vector<AcDbObjectId> arGone;
     for (const AcDbObjectId& id : Selection())
@@ -41,6 +42,11 @@ void CDocumentView::SelectAll() {
 void CDocumentView::ClearSelection() {
     m_selection.Clear();
     TakeSelection();
+}
+
+void CDocumentView::SetFrame(const CViewFrame& frame) {
+    m_view = ViewOf(frame);
+    Drawing().SetView(m_view);
 }
 
 std::string CDocumentView::SelectionWord() const {

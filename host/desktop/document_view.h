@@ -5,12 +5,14 @@
 #include "host/desktop/view_frame.h"
 #include "platform/acad/ap_document.h"
 
-/// One drawing before the user: what is shown of it, and what is selected in it.
+/// One drawing before the user: what is shown of it, and what is selected in it. It can be painted when a
+/// command has closed the drawing already.
 class CDocumentView {
 public:
     CDocumentView(AcApDocument& document, CFonts& fonts)
         : m_document(document)
-        , m_scene(fonts) {}
+        , m_scene(fonts)
+        , m_view(Drawing().View()) {}
 
     AcDbDatabase& Drawing() const { return *m_document.database(); }
     CScene& Scene() { return m_scene; }
@@ -22,7 +24,7 @@ public:
     void Sync();
 
     const std::vector<AcDbObjectId>& Selection() const { return m_selection.Ids(); }
-    bool IsSelected(AcDbObjectId id) const { return m_selection.Contains(id); }
+    bool IsSelected(AcDbHandle handle) const { return m_selection.Contains(handle); }
     void Select(const std::vector<AcDbObjectId>& ids); ///< besides those that are
     void Deselect(const std::vector<AcDbObjectId>& ids);
     void SelectAll();
@@ -33,8 +35,8 @@ public:
     /// Another number, and none that any drawing had, whenever what is shown or selected may be other.
     unsigned Revision() const { return m_nRevision; }
 
-    CViewFrame Frame(const QSize& size) const { return FrameOf(Drawing().View(), size); }
-    void SetFrame(const CViewFrame& frame) const { Drawing().SetView(ViewOf(frame)); }
+    CViewFrame Frame(const QSize& size) const { return FrameOf(m_view, size); }
+    void SetFrame(const CViewFrame& frame);
 
 private:
     void TakeSelection();
@@ -43,5 +45,6 @@ private:
     CScene m_scene;
     CPickedEntities m_selection;
     CGrips m_grips;
+    CDbView m_view; // the drawing's, as it was after the last command
     unsigned m_nRevision = 0;
 };

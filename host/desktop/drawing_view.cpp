@@ -115,7 +115,7 @@ void CDrawingView::paintEvent(QPaintEvent*) {
     }
     const double dRatio = devicePixelRatioF();
     const auto colorOf = [this](const CSceneItem& item) {
-        return m_pView->IsSelected(item.m_id) ? std::optional(m_colors.m_selected) : std::nullopt;
+        return m_pView->IsSelected(item.m_handle) ? std::optional(m_colors.m_selected) : std::nullopt;
     };
     m_image.Show({m_pView->Scene(), colorOf, m_pView->Revision()}, Frame(), m_colors, dRatio);
     painter.scale(1.0 / dRatio, 1.0 / dRatio); // device pixels from here on

@@ -37,6 +37,8 @@ bool IsKeptAnew(CHost& host, const CKeptDrawing& kept, CAutosave& autosave) {
 
 void OfferKeptDrawings(CHost& host, CAutosave& autosave, QWidget* pParent) {
     for (const CKeptDrawing& kept : autosave.Left()) {
+        const CDescriptor claim = CAutosave::Claim(kept);
+        if (!claim) continue;
         const auto button = QMessageBox::question(
             pParent, u"Tervo"_qs,
             u"%1 was changed and not saved when the program ended.\nOpen what was kept of it?"_qs.arg(

@@ -188,11 +188,9 @@ void CMainWindow::Do(CWindowDeed deed) {
     case CWindowDeed::Export:
         return Export();
     case CWindowDeed::PrintPreview:
-        if (CurrentView()) PreviewPrint(m_pHost->Drawing(), m_pHost->m_fonts, this);
-        return;
+        return Print(PreviewPrint);
     case CWindowDeed::Print:
-        if (CurrentView()) PrintDrawing(m_pHost->Drawing(), m_pHost->m_fonts, this);
-        return;
+        return Print(PrintDrawing);
     case CWindowDeed::SelectAll:
         return m_pView->SelectAll();
     case CWindowDeed::ZoomExtents:
@@ -220,6 +218,12 @@ void CMainWindow::Do(CWindowDeed deed) {
     case CWindowDeed::CommandHelp:
         return TellCommands();
     }
+}
+
+void CMainWindow::Print(std::string (*pfnPrint)(AcDbDatabase&, CFonts&, QWidget*)) {
+    if (!CurrentView()) return;
+    const std::string strReason = pfnPrint(m_pHost->Drawing(), m_pHost->m_fonts, this);
+    if (!strReason.empty()) m_pAnswers->Print(strReason);
 }
 
 void CMainWindow::Export() {

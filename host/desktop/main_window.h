@@ -46,6 +46,7 @@ private:
     void Start(const QString& strCommandLine);
     void Open(const QString& strPath);
     void Do(CWindowDeed deed);
+    void Print(std::string (*pfnPrint)(AcDbDatabase& drawing, CFonts& fonts, QWidget* pParent));
     void Export();
     void Activate(qsizetype nIndex);
     void ActivateNext(int nStep);
@@ -53,6 +54,7 @@ private:
     void SetDark(bool bDark);
 
     void RefreshDocuments();
+    void ForgetClosed();
     void RefreshTabs();
     CDocumentView* CurrentView();
     QStringList CommandNames() const;
@@ -61,7 +63,7 @@ private:
     CWindowSettings m_settings;
     CWindowAnswers* m_pAnswers = nullptr;
     CHost* m_pHost = nullptr;
-    std::map<const AcApDocument*, CDocumentView> m_mapViews;
+    std::map<int, CDocumentView> m_mapViews; // by the number of the drawing
     QTabBar* m_pTabs;
     CDrawingView* m_pView;
     CCommandLine* m_pCommandLine;

@@ -9,6 +9,8 @@
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QTabBar>
 
+#include <set>
+
 namespace {
 
 QString NameOf(const AcApDocument& document) {
@@ -23,10 +25,7 @@ QString TabText(const AcApDocument& document) {
 } // namespace
 
 void CMainWindow::RefreshDocuments() {
-    const std::vector<AcApDocument*> documents = m_pHost->m_drawings.Documents();
-    std::erase_if(m_mapViews, [&](const auto& shown) {
-        return std::find(documents.begin(), documents.end(), shown.first) == documents.end();
-    });
+    ForgetClosed();
     RefreshTabs();
     CDocumentView* const pView = CurrentView();
     if (m_pView->Document() != pView) m_pView->Show(pView);
@@ -35,11 +34,19 @@ void CMainWindow::RefreshDocuments() {
     const AcApDocument* const pCurrent = m_pHost->m_drawings.CurrentDocument();
     setWindowTitle(pCurrent ? NameOf(*pCurrent) + u"[*] - Tervo"_qs : u"Tervo"_qs);
     setWindowModified(pCurrent && pCurrent->database()->IsModified());
-    bool bNewFile = false;
-    for (const AcApDocument* const pDocument : documents)
-        if (pDocument->isNamedDrawing() && pDocument == pCurrent)
-            bNewFile = m_settings.NoteFile(NameOf(*pDocument));
-    if (bNewFile) m_actions.SetRecentFiles(m_settings.RecentFiles());
+    if (pCurrent && pCurrent->isNamedDrawing() && m_settings.NoteFile(NameOf(*pCurrent)))
+        m_actions.SetRecentFiles(m_settings.RecentFiles());
+}
+
+void CMainWindow::ForgetClosed() {
+    std::set<int> setOpen;
+    for (const AcApDocument* const pDocument : m_pHost->m_drawings.Documents())
+        setOpen.insert(m_pHost->m_drawings.NumberOf(*pDocument));
+    std::erase_if(m_mapViews, [&](const auto& shown) {
+        const bool bClosed = !setOpen.contains(shown.first);
+        if (bClosed && m_pView->Document() == &shown.second) m_pView->Show(nullptr);
+        return bClosed;
+    });
 }
 
 void CMainWindow::RefreshTabs() {
@@ -60,7 +67,8 @@ void CMainWindow::RefreshTabs() {
 CDocumentView* CMainWindow::CurrentView() {
     AcApDocument* const pDocument = m_pHost ? m_pHost->m_drawings.CurrentDocument() : nullptr;
     if (!pDocument) return nullptr;
-    return &m_mapViews.try_emplace(pDocument, *pDocument, m_pHost->m_fonts).first->second;
+    const int nNumber = m_pHost->m_drawings.NumberOf(*pDocument);
+    return &m_mapViews.try_emplace(nNumber, *pDocument, m_pHost->m_fonts).first->second;
 }
 
 void CMainWindow::Activate(qsizetype nIndex) {

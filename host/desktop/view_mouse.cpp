@@ -27,6 +27,7 @@ void CViewMouse::SetDocument(CDocumentView* pView) {
 void CViewMouse::SetQuestion(const CQuestion* pQuestion, bool bCommand) {
     m_pQuestion = pQuestion;
     m_bCommand = bCommand;
+    if (!m_bCommand && IsDragging()) EndDrag(); // a command has begun, and the next click is its own
     if (IsPicking()) return;
     m_idHovered = AcDbObjectId::kNull;
     m_ptCorner.reset();
@@ -39,7 +40,7 @@ bool CViewMouse::IsPicking() const {
 bool CViewMouse::Move(const CViewFrame& frame, const QPointF& at) {
     m_ptCursor = frame.ToDrawing(at);
     if (!m_pView) return false;
-    if (m_pView->Grips().IsDragging()) {
+    if (IsDragging()) {
         ShowDrag();
         return true;
     }
@@ -54,7 +55,7 @@ bool CViewMouse::Press(const CViewFrame& frame, const QPointF& at, Qt::KeyboardM
     if (!m_pView || !m_pQuestion) return false;
     m_ptCursor = frame.ToDrawing(at);
     m_ptPressed = at;
-    if (m_pView->Grips().IsDragging()) {
+    if (IsDragging()) {
         FinishDrag(m_ptCursor);
         return true;
     }
@@ -78,6 +79,7 @@ bool CViewMouse::PressAtCommand(const CViewFrame& frame, Qt::KeyboardModifiers m
         grips.Toggle(*pGrip);
     } else {
         grips.BeginDrag(*pGrip);
+        m_dragged.reset();
         m_idHovered = AcDbObjectId::kNull;
         ShowDrag();
     }
@@ -95,7 +97,7 @@ bool CViewMouse::PressOnEntities(const CViewFrame& frame, Qt::KeyboardModifiers 
 bool CViewMouse::Release(const CViewFrame& frame, const QPointF& at, Qt::KeyboardModifiers modifiers) {
     if (!m_pView || (at - m_ptPressed).manhattanLength() < g_dDragBegins) return false;
     m_ptCursor = frame.ToDrawing(at);
-    if (m_pView->Grips().IsDragging()) {
+    if (IsDragging()) {
         FinishDrag(m_ptCursor);
     } else if (m_ptCorner) {
         FinishBox(modifiers);
@@ -128,13 +130,12 @@ void CViewMouse::FinishBox(Qt::KeyboardModifiers modifiers) {
 
 void CViewMouse::FinishDrag(const QPointF& ptTo) {
     const std::string strLine = m_pView->Grips().CommandFor(ptTo);
-    m_pView->Grips().EndDrag();
-    m_dragged.reset();
+    EndDrag();
     m_sinks.m_fnStart(strLine);
 }
 
 bool CViewMouse::TakeTyped(const std::string& strText) {
-    if (!m_pView || !m_pView->Grips().IsDragging()) return false;
+    if (!IsDragging()) return false;
     const QPointF from = m_pView->Grips().From();
     AcGePoint3d point;
     if (!ParsePoint(strText, AcGePoint3d(from.x(), from.y(), 0.0), &point)) return false;
@@ -147,13 +148,11 @@ bool CViewMouse::Escape() {
         m_ptCorner.reset();
         return true;
     }
-    if (!m_pView) return false;
-    if (m_pView->Grips().IsDragging()) {
-        m_pView->Grips().EndDrag();
-        m_dragged.reset();
+    if (IsDragging()) {
+        EndDrag();
         return true;
     }
-    if (!m_bCommand || m_pView->Selection().empty()) return false;
+    if (!m_pView || !m_bCommand || m_pView->Selection().empty()) return false;
     m_pView->ClearSelection();
     return true;
 }
@@ -168,6 +167,15 @@ void CViewMouse::ShowDrag() {
     if (pItem && picture) m_dragged = m_pView->Scene().LayOut(m_pView->Drawing(), *pItem, *picture);
 }
 
+void CViewMouse::EndDrag() {
+    m_pView->Grips().EndDrag();
+    m_dragged.reset();
+}
+
+const CLoosePicture* CViewMouse::Dragged() const {
+    return IsDragging() && m_dragged ? &*m_dragged : nullptr; // another selection ends the drag of its own
+}
+
 std::optional<CPageBox> CViewMouse::SelectionBox() const {
     if (!m_ptCorner) return std::nullopt;
     const auto [left, right] = std::minmax({m_ptCorner->x(), m_ptCursor.x()});
@@ -176,7 +184,7 @@ std::optional<CPageBox> CViewMouse::SelectionBox() const {
 }
 
 std::optional<QLineF> CViewMouse::Band() const {
-    if (m_pView && m_pView->Grips().IsDragging()) return QLineF(m_pView->Grips().From(), m_ptCursor);
+    if (IsDragging()) return QLineF(m_pView->Grips().From(), m_ptCursor);
     if (!IsAskedForPoint() || !m_pQuestion->m_ptFrom) return std::nullopt;
     return QLineF(QPointF(m_pQuestion->m_ptFrom->x, m_pQuestion->m_ptFrom->y), m_ptCursor);
 }

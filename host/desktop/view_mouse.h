@@ -38,7 +38,7 @@ public:
 
     // What is shown besides the drawing.
     AcDbObjectId Hovered() const { return m_idHovered; }
-    const std::optional<CLoosePicture>& Dragged() const { return m_dragged; }
+    const CLoosePicture* Dragged() const;         ///< the picture of the grip drag under way; null for none
     std::optional<CPageBox> SelectionBox() const; ///< of drawing units, while one is drawn
     bool IsCrossing() const { return m_ptCursor.x() < m_ptCorner->x(); } ///< it is drawn to the left
     std::optional<QLineF> Band() const; ///< of drawing units, from the point given before
@@ -53,7 +53,9 @@ private:
     void FinishBox(Qt::KeyboardModifiers modifiers);
     void FinishDrag(const QPointF& ptTo);
     void AnswerPoint(const QPointF& point);
+    bool IsDragging() const { return m_pView && m_pView->Grips().IsDragging(); }
     void ShowDrag();
+    void EndDrag();
 
     CSinks m_sinks;
     CDocumentView* m_pView = nullptr;
@@ -64,5 +66,5 @@ private:
     QPointF m_ptPressed;               // pixels
     std::optional<QPointF> m_ptCorner; // of the box that is drawn, in the drawing
     AcDbObjectId m_idHovered;
-    std::optional<CLoosePicture> m_dragged;
+    std::optional<CLoosePicture> m_dragged; // what was drawn last for a drag
 };

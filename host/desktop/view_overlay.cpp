@@ -52,7 +52,7 @@ void PaintBand(const COverlay& overlay, const QLineF& band) {
 void PaintOverlay(const COverlay& overlay, const CDocumentView& view, const CViewMouse& mouse) {
     overlay.m_painter.setRenderHint(QPainter::Antialiasing);
     if (const CSceneItem* const pItem = view.Scene().Find(mouse.Hovered())) PaintHovered(overlay, *pItem);
-    if (mouse.Dragged()) PaintDragged(overlay, *mouse.Dragged());
+    if (const CLoosePicture* const pDragged = mouse.Dragged()) PaintDragged(overlay, *pDragged);
     PaintGrips(overlay, view.Grips(), mouse.Aperture());
     if (const std::optional<CPageBox> box = mouse.SelectionBox())
         PaintSelectionBox(overlay, *box, mouse.IsCrossing());

@@ -17,9 +17,10 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-# What no program is linked with: the faces of Chinese texts, and the driver of projects on a server.
+# What no program is linked with: the faces of Chinese texts; what shows the windows' icon, the driver of projects
+# on a server, and windows on Wayland.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-arphic-gbsn00lp, fonts-babelstone-han")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "odbc-postgresql, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libqt6svg6, odbc-postgresql, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_DEBIAN_COMPRESSION_TYPE gzip) # for a moment: it is packed again, without CPack's scripts

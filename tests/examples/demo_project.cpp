@@ -5,9 +5,7 @@
 
 CDemoProject::CDemoProject() {
     setenv("TERVO_BIN", TERVO_BIN, 1);
-    m_program.Do("init \"$ROOT\"");
-    MakeDemoProject(m_program, "DEMO-01");
-    m_program.Do("open --root \"$ROOT\" --number DEMO-01");
+    OpenDemoProject(m_program);
 }
 
 CRun CDemoProject::Example(const std::string& strWords) const {
@@ -39,12 +37,4 @@ CJson CDemoProject::Values(const std::string& strZKBH, const std::string& strQYB
     for (const CJson& row : CJson::parse(strRows))
         if (row["ZKBH"] == strZKBH && row["QYBH"] == strQYBH) return row;
     return nullptr;
-}
-
-void MakeDemoProject(const CProgram& program, const std::string& strNumber, int nStandard) {
-    program.Do("new --root \"$ROOT\" --number '" + strNumber + "' --name " + Utf8(u8"三轴试验示例工程") +
-               " --standard " + std::to_string(nStandard));
-    program.Do("import --root \"$ROOT\" --number '" + strNumber +
-               "' " TERVO_EXAMPLES "/demo/samples.csv " TERVO_EXAMPLES "/demo/layers.csv " TERVO_EXAMPLES
-               "/demo/readings.csv");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/programs.h"
+#include "tests/support/demo.h"
 
 #include <nlohmann/json.hpp>
 
@@ -24,6 +24,3 @@ public:
     const CTempFolder& Folder() const { return m_program.Folder(); }
     const CProgram m_program;
 };
-
-/// A project with the readings of the demo in the installation of another one, under a number of its own.
-void MakeDemoProject(const CProgram& program, const std::string& strNumber, int nStandard = 0);

@@ -51,13 +51,7 @@ private:
 
 TEST_F(Kill, DuringAnImportLeavesAllOfItOrNothing) {
     MakeProject(g_arOneSample);
-    const CTempFolder& folder = Project().m_program.Folder();
-    const CImportRows rows = LargeRows();
-    folder.Write("samples.csv", "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
-    folder.Write("layers.csv", "ZKBH,TCCDSD,TCHD,TCMC\n" + rows.m_strLayers);
-    folder.Write("readings.csv",
-                 "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
-                     rows.m_strReadings);
+    WriteImportFiles(Project().m_program.Folder(), LargeRows());
     const std::string strCounts = "SELECT (SELECT COUNT(*) FROM z_c_SanZhouCSXM WHERE ZKBH='large'), (SELECT "
                                   "COUNT(*) FROM z_c_QuYang WHERE "
                                   "ZKBH='large'), (SELECT COUNT(*) FROM z_c_SanZhou WHERE ZKBH='large'), "

@@ -70,13 +70,7 @@ protected:
     }
     void MakeProject(const std::string& strNumber, const CImportRows& rows) const {
         const std::string strWord = "--number " + ShellWord(strNumber) + " ";
-        m_program.Folder().Write("samples.csv",
-                                 "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
-        m_program.Folder().Write("layers.csv", "ZKBH,TCCDSD,TCHD,TCMC\n" + rows.m_strLayers);
-        m_program.Folder().Write(
-            "readings.csv",
-            "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
-                rows.m_strReadings);
+        WriteImportFiles(m_program.Folder(), rows);
         EXPECT_EQ(Tvdata("new", strWord + "--name '$(touch seen)'").m_nStatus, 0);
         const CRun run = Tvdata("import", strWord + "samples.csv layers.csv readings.csv");
         EXPECT_EQ(run.m_nStatus, 0) << run.m_strErrors;

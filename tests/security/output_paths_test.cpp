@@ -95,12 +95,8 @@ TEST_F(OutputPaths, AreNotThoseOfTheInstallationItself) {
 
 TEST_F(OutputPaths, OfSheetsStayBelowTheirFolderWhateverTheirNumbersAre) {
     const CImportRows rows = RowsOf(CSamples{{"../../../../outside/a", "1"}, {"..", ".."}, {"b", "/c"}});
-    m_program.Folder().Write("more.csv",
-                             "ZKBH,QYBH,QYSD,QYHD,QYHSL,QYLX,QYSY,QYYX,SYFF\n" + rows.m_strSamples);
-    m_program.Folder().Write(
-        "readings.csv", "ZKBH,QYBH,SJBH,SHJHXH,WY,SYGD,SYZJ,CLHXS,GJKXYL,CLHDS,ZXBX,JQPS,KXYL,GJPS,JLLX\n" +
-                            rows.m_strReadings);
-    m_program.Do("import --root \"$ROOT\" --number GC1 \"$ROOT/../more.csv\" \"$ROOT/../readings.csv\"");
+    WriteImportFiles(m_program.Folder(), rows);
+    m_program.Do("import --root \"$ROOT\" --number GC1 \"$ROOT/../samples.csv\" \"$ROOT/../readings.csv\"");
     const auto run = [&](const std::string& strZKBH, const std::string& strQYBH) {
         return m_program.Tvcad("BREN\n" + Selection(strZKBH, strQYBH) + "0,0\nSAVECHARTS\n");
     };

@@ -10,7 +10,7 @@
 #include "host/datamanager/resident_calls.h"
 #include "host/datamanager/results.h"
 #include "host/datamanager/terminal_text.h"
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 #include "platform/windows/file_bytes.h"
 #include "platform/windows/installation_root.h"
 

@@ -10,7 +10,7 @@
 #include "host/datamanager/window/import_dialog.h"
 #include "host/datamanager/window/import_tables.h"
 #include "host/datamanager/window/new_project_dialog.h"
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 
 template <class Work, class Done>
 void CDataWindow::Do(const QString& strWhat, Work fnWork, Done fnDone) {

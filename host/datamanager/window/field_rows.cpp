@@ -1,6 +1,6 @@
 #include "host/datamanager/window/field_rows.h"
 
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 
 std::vector<CTextColumn> FieldColumns(std::span<const std::string_view> arNames,
                                       std::span<const char16_t* const> arMeanings, std::size_t nFirstNumber) {

@@ -8,7 +8,7 @@
 
 #include "host/datamanager/window/import_tables.h"
 #include "host/datamanager/window/labelled.h"
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 
 namespace {
 
@@ -17,10 +17,13 @@ constexpr int g_nProgressInterval = 50; // ms
 
 /// What a check found, in a sentence.
 QString OutcomeText(const CImportOutcome& outcome) {
-    if (outcome.m_nRefusals == 0) return u"To come in: "_qs + CountsLine(outcome.m_counts);
-    QString strText =
-        u"Refusals: %1. Nothing is imported while any row is refused."_qs.arg(outcome.m_nRefusals);
-    if (outcome.m_nRefusals > g_nMostRemarks) strText += u" The first %1 are shown."_qs.arg(g_nMostRemarks);
+    QString strText = u"To come in: "_qs + CountsLine(outcome.m_counts);
+    if (outcome.m_nRefusals > 0)
+        strText = u"Refusals: %1. Nothing is imported while any row is refused."_qs.arg(outcome.m_nRefusals);
+    const std::size_t nRemarks = outcome.m_nRefusals + outcome.m_nWarnings;
+    if (nRemarks > outcome.m_arRemarks.size())
+        strText +=
+            u"\nOf %1 refusals and warnings %2 are shown."_qs.arg(nRemarks).arg(outcome.m_arRemarks.size());
     return strText;
 }
 
@@ -207,11 +210,11 @@ void CImportDialog::ShowRemarkedRow() {
     const int nRemark = m_pRemarks->Chosen();
     if (nRemark < 0) return;
     const CImportRemark& remark = m_outcome.m_arRemarks[static_cast<std::size_t>(nRemark)];
-    for (std::size_t i = 0; i < m_outcome.m_arPreviews.size(); ++i)
-        if (m_outcome.m_arPreviews[i].m_strFile == remark.m_strFile) {
-            m_pFiles->setCurrentRow(static_cast<int>(i));
-            m_pPreview->Choose(PreviewRowOf(m_outcome.m_arPreviews[i], remark.m_nLine));
-        }
+    const auto arItems = m_pFiles->findItems(QString::fromStdString(remark.m_strFile), Qt::MatchExactly);
+    if (arItems.isEmpty()) return; // removed since the check
+    m_pFiles->setCurrentItem(arItems.front());
+    for (const CFilePreview& preview : m_outcome.m_arPreviews)
+        if (preview.m_strFile == remark.m_strFile) m_pPreview->Choose(PreviewRowOf(preview, remark.m_nLine));
 }
 
 void CImportDialog::ShowProgress() {

@@ -25,7 +25,8 @@ CImportOutcome Import(const CImportTask& task, CImportWatch& watch, CImportCall 
     watch.m_nWhole = WholeSize(task.m_arFiles);
     CImportReport report(
         [&](const CImportRemark& remark) {
-            if (outcome.m_arRemarks.size() < g_nMostRemarks) outcome.m_arRemarks.push_back(remark);
+            std::size_t& nOfKind = remark.m_bRefusal ? outcome.m_nRefusals : outcome.m_nWarnings;
+            if (++nOfKind <= g_nMostRemarks) outcome.m_arRemarks.push_back(remark);
         },
         [&](std::uintmax_t nRead) {
             watch.m_nRead = nRead;
@@ -36,7 +37,6 @@ CImportOutcome Import(const CImportTask& task, CImportWatch& watch, CImportCall 
     outcome.m_counts = AtProjectDatabase(installation, project, [&](CDbConnection& database) {
         return pfnCall(database, project.m_nGCSY, task.m_arFiles, task.m_bReplace, &report);
     });
-    outcome.m_nRefusals = report.Refusals();
     return outcome;
 }
 

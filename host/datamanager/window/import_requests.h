@@ -29,12 +29,12 @@ struct CFilePreview {
 
 struct CImportOutcome {
     CImportCounts m_counts;
-    std::size_t m_nRefusals = 0;
-    std::vector<CImportRemark> m_arRemarks; ///< the first of many
+    std::size_t m_nRefusals = 0, m_nWarnings = 0;
+    std::vector<CImportRemark> m_arRemarks; ///< the first refusals and the first warnings
     std::vector<CFilePreview> m_arPreviews; ///< of a check, one a file
 };
 
-/// So many remarks and rows of a file are kept for the eye; what is beyond is only counted.
+/// So many refusals, warnings and rows of a file are kept for the eye; what is beyond is only counted.
 inline constexpr std::size_t g_nMostRemarks = 5000;
 inline constexpr std::size_t g_nPreviewRows = 200;
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "host/datamanager/window/labelled.h"
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 
 namespace {
 

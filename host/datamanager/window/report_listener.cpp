@@ -1,6 +1,6 @@
 #include "host/datamanager/window/report_listener.h"
 
-#include "host/datamanager/window/texts.h"
+#include "host/window_text.h"
 #include "platform/ado/report.h"
 
 CReportListener::CReportListener(std::function<void(const QString& strLine)> fnListener) {

@@ -2,10 +2,6 @@
 
 #include "platform/windows/code_page.h"
 
-QString FromGbk(std::string_view strText) {
-    return QString::fromStdWString(WideFromGbk(strText));
-}
-
 QString CaptionFromGbk(std::string_view strCaption) {
     return FromGbk(strCaption).remove(u'\r');
 }

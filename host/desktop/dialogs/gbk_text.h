@@ -2,11 +2,10 @@
 
 #include <QtCore/QString>
 
+#include "host/window_text.h"
 #include "platform/mfc/string.h"
 
-/// Text of the process on the screen; bytes that are no character become U+FFFD.
-QString FromGbk(std::string_view strText);
-/// The same for a caption, whose lines may end as in a module's resources.
+/// FromGbk for a caption, whose lines may end as in a module's resources.
 QString CaptionFromGbk(std::string_view strCaption);
 
 /// Whether the code page has every character of the text.

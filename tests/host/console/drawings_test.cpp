@@ -38,6 +38,17 @@ TEST(Drawings, ANewOneBecomesCurrentAndTheOthersStay) {
     EXPECT_EQ(Names(drawings.ChangedDocuments()), CNames{"Drawing1"});
 }
 
+TEST(Drawings, HaveNumbersThatNoLaterOneGets) {
+    CDrawings drawings;
+    EXPECT_EQ(drawings.NumberOf(*drawings.CurrentDocument()), 1);
+    drawings.AddNew();
+    EXPECT_EQ(drawings.NumberOf(*drawings.CurrentDocument()), 2);
+    drawings.Close(*drawings.CurrentDocument());
+    drawings.AddNew();
+    EXPECT_EQ(drawings.NumberOf(*drawings.CurrentDocument()), 3);
+    EXPECT_EQ(drawings.NumberOf(*drawings.Documents()[0]), 1);
+}
+
 TEST(Drawings, ThatOneIsCurrentThatIsMadeSo) {
     CDrawings drawings;
     drawings.AddNew();

@@ -101,6 +101,22 @@ TEST(Autosave, FindsWhatADeadRunLeft) {
     EXPECT_EQ(autosave.Left().size(), 1U);
 }
 
+TEST(Autosave, OneProgramAtATimeHasTheClaimToADrawing) {
+    const CTempFolder folder;
+    DieWithAChange(folder.Path(), L"/drawings/one.dwg");
+    const CAutosave autosave(folder.Path());
+    const std::vector<CKeptDrawing> arLeft = autosave.Left();
+    ASSERT_EQ(arLeft.size(), 1U);
+    {
+        const CDescriptor first = CAutosave::Claim(arLeft[0]);
+        EXPECT_TRUE(first);
+        EXPECT_FALSE(CAutosave::Claim(arLeft[0]));
+    }
+    EXPECT_TRUE(CAutosave::Claim(arLeft[0]));
+    CAutosave::Discard(arLeft[0]);
+    EXPECT_FALSE(CAutosave::Claim(arLeft[0]));
+}
+
 TEST(Autosave, RemovesTheLockOfARunThatDiedWithNothingToKeepAndNoLivingOnes) {
     const CTempFolder folder;
     Die(folder.Path(), [](AcDbDatabase&) {});
@@ -164,4 +180,15 @@ TEST(KeptDrawings, AreAskedForAgainAfterCancelAndGoAfterNo) {
             EXPECT_EQ(user.Shown(), 0U);
         });
     EXPECT_EQ(FilesIn(folder.Path()), 0U);
+}
+
+TEST(KeptDrawings, AreNotOfferedWhileAnotherWindowAsksForThem) {
+    const CTempFolder folder;
+    DieWithAChange(folder.Path(), L"/drawings/one.dwg");
+    const CDescriptor others = CAutosave::Claim(CAutosave(folder.Path()).Left().at(0));
+    AtDesktop({.m_strRoot = "/nowhere", .m_strKept = folder.Path()}, [&](const CDesktopUser& user) {
+        user.Do([] { EXPECT_EQ(QApplication::activeModalWidget(), nullptr); });
+        EXPECT_EQ(user.Prompt(), "Ready");
+    });
+    EXPECT_EQ(CAutosave(folder.Path()).Left().size(), 1U);
 }

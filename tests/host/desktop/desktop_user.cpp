@@ -1,6 +1,7 @@
 #include "tests/host/desktop/desktop_user.h"
 
 #include "platform/windows/installation_root.h"
+#include "tests/host/desktop/dialogs/user_hand.h"
 #include "tests/temp_folder.h"
 
 #include <QtTest/QtTest>
@@ -14,9 +15,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <atomic>
-#include <clocale>
 #include <iostream>
 #include <thread>
 
@@ -49,13 +48,7 @@ QWidget* Focused(CMainWindow& window) {
 
 void StartTestQt() {
     if (qApp) return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int s_nArguments = 1;
-    static std::array<char, 5> s_szProgram = {"test"};
-    static std::array<char*, 2> s_arArguments = {s_szProgram.data(), nullptr};
-    [[maybe_unused]] static QApplication& s_application =
-        *new QApplication(s_nArguments, s_arArguments.data());
-    std::setlocale(LC_ALL, "C"); // as the program has it
+    StartWidgets();
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& strText) {
         if (!strText.startsWith(u"This plugin does not support"_qs))
             std::cerr << qFormatLogMessage(type, context, strText).toStdString() << std::endl;

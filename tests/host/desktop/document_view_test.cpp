@@ -1,5 +1,8 @@
 #include "tests/host/desktop/desktop_user.h"
 
+#include "host/console/redraw.h"
+#include "platform/acad/db_line.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -39,4 +42,26 @@ TEST(DocumentView, WhatACommandErasesIsNoLongerSelectedAndTheRestIs) {
         EXPECT_EQ(user.Shown(), 0U);
         EXPECT_EQ(user.Selected(), 0);
     });
+}
+
+TEST(DocumentView, IsPaintedAsBeforeWhenACommandHasClosedItsDrawing) {
+    StartTestQt();
+    CFonts fonts{{}};
+    auto pDocument = std::make_unique<AcApDocument>(std::make_unique<AcDbDatabase>(), L"Drawing1");
+    auto* const pLine = new AcDbLine({10.0, 10.0, 0.0}, {300.0, 200.0, 0.0});
+    AcDbObjectId id;
+    ASSERT_EQ(CDbOpen<AcDbBlockTableRecord>(pDocument->database()->ModelSpaceId(), AcDb::kForWrite)
+                  ->appendAcDbEntity(id, pLine),
+              Acad::eOk);
+    pLine->close();
+    DrawAll(*pDocument->database());
+    CDocumentView document(*pDocument, fonts);
+    CDrawingView view({});
+    view.Show(&document);
+    view.Refresh();
+    view.SelectAll();
+    const QImage before = view.grab().toImage();
+    pDocument.reset();
+    view.SetColors(DarkColors()); // all is painted anew
+    EXPECT_EQ(view.grab().toImage(), before);
 }

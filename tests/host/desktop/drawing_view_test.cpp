@@ -181,6 +181,31 @@ TEST(DrawingView, AGripIsDraggedByPressAndReleaseByTwoClicksOrATypedPoint) {
     });
 }
 
+TEST(DrawingView, AnotherSelectionEndsTheDragOfAGripAndItsPicture) {
+    AtDesktop(NoInstallation(), [](const CDesktopUser& user) {
+        user.Say("LINE 50,50 100,50");
+        user.Click({80.0, 50.0});
+        user.Click({100.0, 50.0});
+        user.Move({120.0, 80.0});
+        user.Menu("Select all");
+        user.Do([&] { EXPECT_FALSE(user.Desktop().Window().View().Mouse().Dragged()); });
+        EXPECT_FALSE(Band(user));
+        user.Click({200.0, 100.0});
+        EXPECT_EQ(Lines(user), "50 50 100 50 ");
+    });
+}
+
+TEST(DrawingView, ACommandGivesUpTheDragOfAGripAndGetsTheNextClick) {
+    AtDesktop(NoInstallation(), [](const CDesktopUser& user) {
+        user.Say("LINE 50,50 100,50");
+        user.Click({80.0, 50.0});
+        user.Click({100.0, 50.0});
+        user.Say("LINE 150,100");
+        user.Click({200.0, 100.0});
+        EXPECT_EQ(Lines(user), "50 50 100 50 150 100 200 100 ") << user.Said();
+    });
+}
+
 TEST(DrawingView, GripsMadeHotWithShiftMoveTogether) {
     AtDesktop(NoInstallation(), [](const CDesktopUser& user) {
         user.Say("LINE 50,50 100,50");

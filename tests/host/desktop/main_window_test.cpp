@@ -92,6 +92,21 @@ TEST(MainWindow, InSingleDocumentModeANewDrawingTakesThePlaceOfTheCurrentOne) {
     });
 }
 
+TEST(MainWindow, ADrawingInThePlaceOfAnotherHasNothingOfItsSelection) {
+    AtDesktop(NoInstallation(), [](const CDesktopUser& user) {
+        user.Say("SETVAR SDI 1");
+        for (int i = 0; i < 10; ++i) { // one of the new drawings may lie where the former one lay
+            user.Say("LINE 0,0 10,10");
+            user.Key(Qt::Key_A, Qt::ControlModifier);
+            EXPECT_EQ(user.Selected(), 1);
+            user.Menu("New");
+            PressButton(user, QMessageBox::No);
+            EXPECT_EQ(user.Selected(), 0);
+        }
+        user.Say("SETVAR SDI 0");
+    });
+}
+
 TEST(MainWindow, ACommandFromTheMenuEndsTheOneThatAsks) {
     AtDesktop(NoInstallation(), [](const CDesktopUser& user) {
         user.Say("LINE");

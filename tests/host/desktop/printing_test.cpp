@@ -6,6 +6,7 @@
 #include "host/console/progress.h"
 
 #include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrintPreviewDialog>
 #include <QtPrintSupport/QPrintPreviewWidget>
 #include <QtPrintSupport/QPrinter>
 #include <QtTest/QtTest>
@@ -33,17 +34,20 @@ std::string Sheet(int nX, const std::string& strScale) {
            Group(1, "at" + std::to_string(nX));
 }
 
-/// A drawing of two sheets of A3 and one of A5, lying, each with a text, in a folder of its own.
+/// A drawing of two sheets of A3 and one of A5, lying, each with a text, in a folder of its own; the first
+/// one in another scale, if one is given.
 class CSheets {
 public:
-    CSheets() {
-        m_folder.Write("sheets.dxf",
-                       Group(0, "SECTION") + Group(2, "BLOCKS") + Group(0, "BLOCK") + Group(2, "BRMB") +
-                           Group(10, "0") + Group(20, "0") + Line(420.0, 297.0) + Group(0, "ENDBLK") +
-                           Group(0, "ENDSEC") + Group(0, "SECTION") + Group(2, "ENTITIES") + Sheet(0, "1") +
-                           Sheet(500, "1") + Sheet(1000, "0.5") + Group(0, "ENDSEC") + Group(0, "EOF"));
+    explicit CSheets(const std::string& strFirst = "1") {
+        m_folder.Write("sheets.dxf", Group(0, "SECTION") + Group(2, "BLOCKS") + Group(0, "BLOCK") +
+                                         Group(2, "BRMB") + Group(10, "0") + Group(20, "0") +
+                                         Line(420.0, 297.0) + Group(0, "ENDBLK") + Group(0, "ENDSEC") +
+                                         Group(0, "SECTION") + Group(2, "ENTITIES") + Sheet(0, strFirst) +
+                                         Sheet(500, "1") + Sheet(1000, "0.5") + Group(0, "ENDSEC") +
+                                         Group(0, "EOF"));
     }
     CDesktopStart Start() const { return {"/nowhere", "none", m_folder.Path("sheets.dxf")}; }
+    std::string Folder() const { return m_folder.Path(); }
     std::string Pdf() const { return m_folder.Path("printed.pdf"); }
     /// What a program of Poppler's says of the file printed.
     std::string Poppler(const std::string& strProgram) const {
@@ -118,6 +122,25 @@ TEST(Printing, GivenUpItLeavesNoFile) {
     EXPECT_FALSE(std::filesystem::exists(sheets.Pdf()));
 }
 
+TEST(Printing, APrinterThatDoesNotTakeThePagesIsTold) {
+    const CSheets sheets;
+    const std::string strGone = sheets.Folder() + "/gone";
+    std::filesystem::create_directory(strGone);
+    AtDesktop(sheets.Start(), [&](const CDesktopUser& user) {
+        user.Do([&] {
+            SetProgressSink([&](const std::string&, std::size_t, std::size_t) {
+                std::filesystem::remove_all(strGone); // after the dialog has looked whether it can be written
+                return true;
+            });
+        });
+        user.Menu("Print...");
+        PrintTo(user, strGone + "/printed.pdf");
+        EXPECT_NE(user.Said().find("cannot print to " + strGone + "/printed.pdf"), std::string::npos)
+            << user.Said();
+        user.Do([] { SetProgressSink({}); });
+    });
+}
+
 TEST(Printing, ThePreviewHasThePagesAndEscapeClosesIt) {
     const CSheets sheets;
     AtDesktop(sheets.Start(), [&](const CDesktopUser& user) {
@@ -133,5 +156,20 @@ TEST(Printing, ThePreviewHasThePagesAndEscapeClosesIt) {
         });
         user.Do([] { EXPECT_EQ(QApplication::activeModalWidget(), nullptr); });
         EXPECT_EQ(user.Prompt(), "Ready");
+    });
+}
+
+TEST(Printing, ThePreviewsPaperHasRoomForALargerSheetThanTheFirst) {
+    const CSheets sheets("0.5");
+    AtDesktop(sheets.Start(), [&](const CDesktopUser& user) {
+        user.Menu("Print preview...");
+        user.Act([] {
+            auto* const pDialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(pDialog);
+            const QPageLayout paper = pDialog->printer()->pageLayout();
+            EXPECT_EQ(paper.pageSize().id(), QPageSize::A3);
+            EXPECT_EQ(paper.orientation(), QPageLayout::Landscape);
+            QTest::keyClick(pDialog, Qt::Key_Escape);
+        });
     });
 }

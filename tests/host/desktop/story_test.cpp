@@ -2,7 +2,7 @@
 
 #include "tests/host/desktop/desktop_user.h"
 #include "tests/host/desktop/dialogs/user_hand.h"
-#include "tests/support/programs.h"
+#include "tests/support/demo.h"
 
 #include <gtest/gtest.h>
 
@@ -20,14 +20,7 @@ struct COutcome {
 /// The demo project, running in an installation of its own; one at a time.
 class CDemoProject {
 public:
-    CDemoProject() {
-        m_program.Do("init \"$ROOT\"");
-        m_program.Do("new --root \"$ROOT\" --number DEMO-01 --name " + Utf8(u8"三轴试验示例工程"));
-        m_program.Do("import --root \"$ROOT\" --number DEMO-01 " TERVO_EXAMPLES
-                     "/demo/samples.csv " TERVO_EXAMPLES "/demo/layers.csv " TERVO_EXAMPLES
-                     "/demo/readings.csv");
-        m_program.Do("open --root \"$ROOT\" --number DEMO-01");
-    }
+    CDemoProject() { OpenDemoProject(m_program); }
     /// The commands that write what Outcome reads.
     std::vector<std::string> LastCommands() const {
         return {"DUMP " + m_program.Folder().Path("dump.json"),

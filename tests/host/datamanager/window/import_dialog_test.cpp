@@ -131,6 +131,17 @@ TEST_F(ImportDialog, ShowsWarningsAndImportsAllTheSame) {
     EXPECT_TRUE(Button(u"&Import"_qs).isEnabled());
 }
 
+TEST_F(ImportDialog, SaysOfMoreRemarksThanItShowsHowManyThereAre) {
+    std::string strSamples = "ZKBH,QYBH,SYFF\n";
+    for (std::size_t i = 0; i <= g_nMostRemarks; ++i)
+        strSamples += "ZK1," + std::to_string(i) + ",other\n";
+    OpenDialog();
+    Add(m_program.Folder().Write("samples.csv", strSamples));
+    EXPECT_EQ(static_cast<std::size_t>(Rows(u"Remarks"_qs).size()), g_nMostRemarks);
+    EXPECT_EQ(State(), u"To come in: readings: 0, samples: 5001, layers: 0\n"
+                       "Of 5001 refusals and warnings 5000 are shown."_qs);
+}
+
 TEST_F(ImportDialog, TellsOfAFileThatCannotBeRead) {
     const std::string strPath = m_program.Folder().Write("gone.csv", g_strLayers);
     OpenDialog();
@@ -161,6 +172,27 @@ TEST_F(ImportDialog, CancelsAnImportAndLeavesNothingOfIt) {
     PressInDialog(Qt::Key_Return); // once more, to the end
     AwaitClosed();
     EXPECT_EQ(m_program.Sql("Projects/A/project.db", "SELECT COUNT(*) FROM z_c_SanZhouCSXM"), "911\n");
+}
+
+TEST_F(ImportDialog, ShowsTheFileOfARemarkThoughAnotherOneWasRemovedSinceTheCheck) {
+    const std::string strSound = m_program.Folder().Write("sound.csv", g_strLayers + "ZK1,4,4,clay\n");
+    const std::string strWrong = m_program.Folder().Write("wrong.csv", g_strLayers + "ZK2,x,4,clay\n");
+    OpenDialog();
+    Add(strSound);
+    Add(strWrong);
+    // Another program holds the lock, so that the next check is under way for as long as the test needs.
+    const auto pOther =
+        OpenDbConnection("Provider=SQLite;Data Source=" + m_program.Root() + "/Projects/A/project.db");
+    pOther->Execute("BEGIN EXCLUSIVE");
+    auto& files = Find<QListWidget>(u"Files"_qs);
+    files.setCurrentRow(0);
+    QTest::mouseClick(&Button(u"Re&move"_qs), Qt::LeftButton);
+    Table(u"Remarks"_qs).Choose(0);
+    ASSERT_TRUE(files.currentItem());
+    EXPECT_EQ(files.currentItem()->text(), QString::fromStdString(strWrong));
+    EXPECT_EQ(Table(u"Preview"_qs).Chosen(), 0);
+    pOther->Execute("ROLLBACK");
+    AwaitIdle();
 }
 
 TEST_F(ImportDialog, ShowsWhatOthersWroteSinceTheCheck) {

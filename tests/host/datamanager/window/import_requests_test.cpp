@@ -60,6 +60,18 @@ TEST_F(ImportRequests, KeepTheFirstOfManyRemarksAndCountAll) {
     EXPECT_EQ(outcome.m_arRemarks.size(), g_nMostRemarks);
 }
 
+TEST_F(ImportRequests, KeepARefusalThatStandsBehindManyWarnings) {
+    std::string strSamples = "ZKBH,QYBH,SYFF\n";
+    for (std::size_t i = 0; i < g_nMostRemarks + 10; ++i)
+        strSamples += "ZK1," + std::to_string(i) + ",other\n";
+    const std::string strFile = m_program.Folder().Write("samples.csv", strSamples + "ZK1,,\n");
+    const CImportOutcome outcome = CheckImport({"A", {strFile}}, m_watch);
+    EXPECT_EQ(outcome.m_nWarnings, g_nMostRemarks + 10);
+    EXPECT_EQ(outcome.m_nRefusals, 1U);
+    ASSERT_EQ(outcome.m_arRemarks.size(), g_nMostRemarks + 1);
+    EXPECT_TRUE(outcome.m_arRemarks.back().m_bRefusal);
+}
+
 TEST_F(ImportRequests, AreGivenUpByTheWatcher) {
     m_watch.m_bGivenUp = true;
     EXPECT_THROW(RunImport({"A", {File(10)}}, m_watch), CFailure);

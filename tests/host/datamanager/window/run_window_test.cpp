@@ -8,7 +8,10 @@
 
 namespace {
 const std::string g_strNowhere = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM ";
-const std::string g_strUntilStopped = "timeout --preserve-status -s TERM 5 $T";
+/// Runs the program until its window's worker is at work, and stops it then.
+const std::string g_strUntilStopped =
+    "$T & for TRY in $(seq 600); do grep -qs QThread /proc/$!/task/*/comm && break; sleep 0.1; done; "
+    "kill -TERM $! && wait $!";
 } // namespace
 
 TEST(RunWindow, PrintsTheUsageWhereThereIsNoDisplay) {

@@ -1,11 +1,12 @@
 #include "tests/host/datamanager/window/window_test.h"
 
+#include "host/kept_locale.h"
+
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 
 #include <array>
-#include <clocale>
 
 namespace {
 constexpr int g_nPatience = 60000; // ms
@@ -13,6 +14,7 @@ constexpr int g_nPatience = 60000; // ms
 
 void CWindowTest::SetUpTestSuite() {
     if (QCoreApplication::instance()) return;
+    const CKeptLocale locale;
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     static std::array<char, 7> s_szProgram = {"tvdata"};
     static std::array<char*, 2> s_arArguments = {s_szProgram.data(), nullptr};
@@ -20,7 +22,6 @@ void CWindowTest::SetUpTestSuite() {
     // Never deleted: fonts held by other statics need it to the last.
     [[maybe_unused]] static QApplication& s_application =
         *new QApplication(s_nArguments, s_arArguments.data());
-    std::setlocale(LC_ALL, "C");
 }
 
 QStringList CWindowTest::Texts(const QAbstractItemView& view) {
@@ -62,8 +63,7 @@ void CDataWindowTest::Open() {
 }
 
 void CDataWindowTest::OpenDemo() {
-    m_program.Do("import --root \"$ROOT\" --number A '" + Demo("samples.csv") + "' '" + Demo("layers.csv") +
-                 "' '" + Demo("readings.csv") + "'");
+    ImportDemo(m_program, "A");
     Open();
 }
 

@@ -13,7 +13,7 @@
 #include <string>
 
 #include "host/datamanager/window/data_window.h"
-#include "tests/support/programs.h"
+#include "tests/support/demo.h"
 
 /// Shows in a failed comparison.
 inline void PrintTo(const QString& strText, std::ostream* pOut) {

@@ -13,11 +13,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <clocale>
 
 #include "host/console/dialog_text.h"
 #include "host/desktop/dialogs/dialog_presenter.h"
 #include "host/desktop/dialogs/gbk_text.h"
+#include "host/kept_locale.h"
 #include "platform/windows/code_page.h"
 
 namespace {
@@ -101,7 +101,7 @@ void ActivateBehindBox() {
 
 void StartWidgets() {
     if (QCoreApplication::instance()) return;
-    const std::string strLocale = std::setlocale(LC_ALL, nullptr);
+    const CKeptLocale locale;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static int s_nArguments = 1;
     static std::array<char, 6> s_szProgram = {"tests"};
@@ -109,7 +109,6 @@ void StartWidgets() {
     // Never deleted: fonts held by other statics need it to the last.
     [[maybe_unused]] static QApplication& s_application =
         *new QApplication(s_nArguments, s_arArguments.data());
-    std::setlocale(LC_ALL, strLocale.c_str());
 }
 
 QWidget& CUserHand::Window() {

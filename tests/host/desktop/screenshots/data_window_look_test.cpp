@@ -21,8 +21,7 @@ protected:
 } // namespace
 
 TEST_F(DataWindowLook, IsGoodOfReadingsAndResults) {
-    m_program.Do("import --root \"$ROOT\" --number A '" + Demo("samples.csv") + "' '" + Demo("layers.csv") +
-                 "' '" + Demo("readings.csv") + "'");
+    ImportDemo(m_program, "A");
     OpenDbConnection("Provider=SQLite;Data Source=" + m_program.Root() + "/Projects/A/project.db")
         ->Execute(
             "INSERT INTO z_c_SanZhou VALUES (1,'ZK1','1-2','固结不排水剪','2024年3月9日',NULL,NULL,20.5,"

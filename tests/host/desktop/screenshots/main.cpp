@@ -1,6 +1,7 @@
 // Windows on a real X server: TERVO_SCREEN is its size, 1280x800 without it.
 
 #include "host/interface_font.h"
+#include "host/kept_locale.h"
 #include "tests/host/desktop/screenshots/virtual_display.h"
 #include "tests/temp_folder.h"
 
@@ -8,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
+#include <optional>
 
 int main(int nArguments, char** ppArguments) {
     testing::InitGoogleTest(&nArguments, ppArguments);
@@ -17,8 +18,9 @@ int main(int nArguments, char** ppArguments) {
     const CVirtualDisplay display(qEnvironmentVariable("TERVO_SCREEN", u"1280x800"_qs).toStdString());
     qputenv("DISPLAY", QByteArray::fromStdString(display.Name()));
     qputenv("QT_QPA_PLATFORM", "xcb");
+    std::optional<CKeptLocale> locale(std::in_place);
     const QApplication application(nArguments, ppArguments);
-    std::setlocale(LC_ALL, "C"); // as the programs have it
+    locale.reset();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(u"Fusion"_qs);
     UseInterfaceFont();

@@ -5,11 +5,7 @@
 #include <gtest/gtest.h>
 
 CSheetProject::CSheetProject() {
-    m_program.Do("init \"$ROOT\"");
-    m_program.Do("new --root \"$ROOT\" --number DEMO-01 --name " + Utf8(u8"三轴试验示例工程"));
-    m_program.Do("import --root \"$ROOT\" --number DEMO-01 " TERVO_DEMO "/samples.csv " TERVO_DEMO
-                 "/layers.csv " TERVO_DEMO "/readings.csv");
-    m_program.Do("open --root \"$ROOT\" --number DEMO-01");
+    OpenDemoProject(m_program);
 }
 
 CDesktopStart CSheetProject::Start() const {

@@ -2,7 +2,7 @@
 // The demo project at the window, and the sheet of its consolidated undrained test.
 
 #include "tests/host/desktop/desktop_user.h"
-#include "tests/support/programs.h"
+#include "tests/support/demo.h"
 
 /// The demo project, running in an installation of its own.
 class CSheetProject {

@@ -2,12 +2,11 @@
 
 #include <QtCore/QString>
 
-#include <string>
 #include <string_view>
 
 #include "platform/windows/code_page.h"
 
-/// Code page text for the window.
+/// Text of the process for windows; bytes that are no character become U+FFFD.
 inline QString FromGbk(std::string_view strGbk) {
-    return QString::fromStdString(ToUtf8(strGbk));
+    return QString::fromStdWString(WideFromGbk(strGbk));
 }
