@@ -7,8 +7,8 @@
 #include <limits>
 
 #include "platform/ado/error.h"
+#include "platform/ado/gbk_name.h"
 #include "platform/ado/report.h"
-#include "platform/ado/text.h"
 
 namespace {
 
@@ -74,7 +74,7 @@ std::string CellText(const CDbCell& cell) {
 
 std::optional<std::size_t> CDbCursor::FindColumn(std::string_view strName) const {
     for (std::size_t i = 0; i < m_arColumns.size(); ++i)
-        if (EqualNoCase(m_arColumns[i].m_strName, strName)) return i;
+        if (SameGbkName(m_arColumns[i].m_strName, strName)) return i;
     return std::nullopt;
 }
 
