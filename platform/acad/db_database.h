@@ -131,14 +131,14 @@ public:
                                          bool deferXlation = false);
     /// A new drawing, the caller's to delete also when something could not be cloned: like this one; of the
     /// entities of a block, with its base point (eNotThatKindOfClass, eWrongDatabase); of some entities, with
-    /// a base point. eNoDatabase, and no new drawing, for one that holds nothing at all.
+    /// a base point. Null where no new drawing is made: eNoDatabase for one that holds nothing at all.
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
                              const AcGePoint3d& basePoint);
     /// Makes a block of what another drawing has in model space, and brings all its layers, styles, line
     /// types and registered applications along. A block of that name gets this content in place of its own.
-    /// The source is preserved in any case. eNullObjectPointer, eNoDatabase for one that holds nothing at
+    /// The source is preserved in any case. eNullObjectPointer, eNoDatabase where either holds nothing at
     /// all, eInvalidInput for this drawing itself, for no name and for a space's; eSelfReference for a
     /// content that the block itself is part of.
     Acad::ErrorStatus insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,

@@ -20,11 +20,7 @@ const AcDbTextStyleTableRecord* StyleOf(AcDbObjectId idStyle, const AcDbDatabase
     if (!pDatabase) pDatabase = acdbHostApplicationServices()->workingDatabase();
     if (!pDatabase) return nullptr;
     const auto* const pStyles = PeekObject<AcDbTextStyleTable>(pDatabase->textStyleTableId());
-    for (const AcDbObjectId& id : pStyles->RecordIds()) {
-        const auto* const pStyle = PeekObject<AcDbTextStyleTableRecord>(id);
-        if (pStyle && pStyle->Name() == L"Standard") return pStyle;
-    }
-    return nullptr;
+    return pStyles ? PeekObject<AcDbTextStyleTableRecord>(pStyles->Find(L"Standard")) : nullptr;
 }
 
 template <class Mode>

@@ -136,6 +136,7 @@ Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput) {
 }
 
 Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock) {
+    pOutput = nullptr;
     const auto* const pBlock = PeekObject<AcDbBlockTableRecord>(idBlock);
     if (!pBlock) return Acad::eNotThatKindOfClass;
     if (idBlock.database() != this) return Acad::eWrongDatabase;
@@ -152,6 +153,8 @@ Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, AcDbObjectId idBl
 
 Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
                                        const AcGePoint3d& basePoint) {
+    pOutput = nullptr;
+    if (m_mapStubs.empty()) return Acad::eNoDatabase;
     auto pNew = std::make_unique<AcDbDatabase>();
     AcDbIdMapping mapping;
     CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);
@@ -167,7 +170,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
                                        bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this || !blockName || !*blockName) return Acad::eInvalidInput;
-    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
+    if (m_mapStubs.empty() || pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     if (LeadsTo(blockName, *pSource, *this)) return Acad::eSelfReference;
     const Acad::ErrorStatus prepared = EmptyBlock(*this, blockName, pSource->insbase(), idBlock);
     if (prepared != Acad::eOk) return prepared;
@@ -181,7 +184,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
 Acad::ErrorStatus AcDbDatabase::insert(const AcGeMatrix3d& xform, AcDbDatabase* pSource, bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this) return Acad::eInvalidInput;
-    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
+    if (m_mapStubs.empty() || pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     AcDbIdMapping mapping;
     CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
     CloneStyles(*pSource, cloner);

@@ -68,7 +68,7 @@ CIds EntitiesOf(AcDbObjectId idBlock) {
 CIds ModelAndPaperSpace(const AcDbDatabase& drawing) {
     CIds ids = EntitiesOf(drawing.ModelSpaceId());
     const auto* const pBlocks = PeekObject<AcDbBlockTable>(drawing.blockTableId());
-    const CIds paper = EntitiesOf(pBlocks->Find(ACDB_PAPER_SPACE));
+    const CIds paper = pBlocks ? EntitiesOf(pBlocks->Find(ACDB_PAPER_SPACE)) : CIds();
     ids.insert(ids.end(), paper.begin(), paper.end());
     return ids;
 }

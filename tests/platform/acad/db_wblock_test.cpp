@@ -79,10 +79,30 @@ TEST_F(DbWblock, OfABlockGivesADrawingOfItsEntitiesAndItsBasePoint) {
     EXPECT_EQ(Entities(output->ModelSpaceId()).size(), 1U);
     EXPECT_EQ(output->insbase(), AcGePoint3d(4, 5, 0));
     EXPECT_FALSE(HasLayer(*output, L"UNUSED"));
-    pOutput = nullptr;
     EXPECT_EQ(m_source.wblock(pOutput, m_source.clayer()), Acad::eNotThatKindOfClass);
+    EXPECT_EQ(pOutput, nullptr);
+    pOutput = output.get();
     EXPECT_EQ(m_source.wblock(pOutput, m_target.ModelSpaceId()), Acad::eWrongDatabase);
     EXPECT_EQ(pOutput, nullptr);
+}
+
+TEST_F(DbWblock, OfADrawingThatHoldsNothingAtAllGivesNone) {
+    AcDbDatabase empty(false);
+    AcDbDatabase* pOutput = &m_target;
+    EXPECT_EQ(empty.wblock(pOutput), Acad::eNoDatabase);
+    EXPECT_EQ(pOutput, nullptr);
+    pOutput = &m_target;
+    EXPECT_EQ(empty.wblock(pOutput, AcDbObjectIdArray(), {0, 0, 0}), Acad::eNoDatabase);
+    EXPECT_EQ(pOutput, nullptr);
+}
+
+TEST_F(DbWblock, NothingIsInsertedIntoADrawingThatHoldsNothingAtAll) {
+    Append(m_source, new AcDbBlockReference({0, 0, 0}, AddBlock(m_source, L"B")));
+    AcDbDatabase empty(false);
+    EXPECT_EQ(empty.insert(m_idBlock, L"FRAME", &m_source), Acad::eNoDatabase);
+    EXPECT_EQ(empty.insert(AcGeMatrix3d(), &m_source), Acad::eNoDatabase);
+    EXPECT_TRUE(m_idBlock.isNull());
+    EXPECT_TRUE(empty.ObjectIds().empty());
 }
 
 TEST_F(DbWblock, OfSomeEntitiesGivesADrawingOfTheseAndTheBasePoint) {

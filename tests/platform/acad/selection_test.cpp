@@ -72,6 +72,15 @@ TEST_F(Selection, XTakesModelAndPaperSpaceInDatabaseOrderAndLeavesErasedOnesOut)
     EXPECT_EQ(Get(L"X"), (CIds{second, third}));
 }
 
+TEST_F(Selection, OfADrawingWithoutTablesIsEmpty) {
+    AcDbDatabase empty(false);
+    acdbHostApplicationServices()->setWorkingDatabase(&empty);
+    EXPECT_EQ(Get(L"X"), CIds{});
+    EXPECT_EQ(Get(L"L"), CIds{});
+    ads_name name = {};
+    EXPECT_EQ(acdbEntLast(name), RTERROR);
+}
+
 TEST_F(Selection, AnEntityThatIsOpenForWritingIsSelectedTooAndSoIsOneOfAnOpenBlock) {
     const AcDbObjectId id = AddLine({0, 0, 0}, {1, 0, 0});
     const CDbOpen<AcDbEntity> line(id, AcDb::kForWrite);
