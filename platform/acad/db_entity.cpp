@@ -8,17 +8,6 @@
 
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbEntity, AcDbObject)
 
-namespace {
-
-/// Whether an entity of the drawing (null: a free one) may refer to this record.
-template <class T>
-Acad::ErrorStatus CheckRecord(AcDbObjectId idRecord, const AcDbDatabase* pDatabase) {
-    if (!PeekObject<T>(idRecord)) return Acad::eNotThatKindOfClass;
-    return pDatabase && idRecord.database() != pDatabase ? Acad::eWrongDatabase : Acad::eOk;
-}
-
-} // namespace
-
 Acad::ErrorStatus AcDbEntity::setColorIndex(Adesk::UInt16 color, Adesk::Boolean) {
     assertWriteEnabled();
     if (color > g_nColorByLayer) return Acad::eInvalidInput;

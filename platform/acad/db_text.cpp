@@ -84,8 +84,10 @@ Acad::ErrorStatus AcDbText::setOblique(double radians) {
 
 Acad::ErrorStatus AcDbText::setTextStyle(AcDbObjectId idStyle) {
     assertWriteEnabled();
-    if (!idStyle.isNull() && !PeekObject<AcDbTextStyleTableRecord>(idStyle)) return Acad::eNotThatKindOfClass;
-    if (!idStyle.isNull() && database() && idStyle.database() != database()) return Acad::eWrongDatabase;
+    if (!idStyle.isNull()) {
+        const Acad::ErrorStatus status = CheckRecord<AcDbTextStyleTableRecord>(idStyle, database());
+        if (status != Acad::eOk) return status;
+    }
     m_idStyle = idStyle;
     return Acad::eOk;
 }
