@@ -71,7 +71,10 @@ Acad::ErrorStatus AcDbEntity::dwgInFields(AcDbDwgFiler* pFiler) {
 
 Acad::ErrorStatus AcDbEntity::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    const AcDbExtents box = m_pPicture ? ExtentsOf(*m_pPicture) : AcDbExtents();
+    return GiveExtents(m_pPicture ? ExtentsOf(*m_pPicture) : AcDbExtents(), extents);
+}
+
+Acad::ErrorStatus AcDbEntity::GiveExtents(const AcDbExtents& box, AcDbExtents& extents) {
     if (box.isEmpty()) return Acad::eInvalidExtents;
     extents = box;
     return Acad::eOk;

@@ -77,6 +77,8 @@ public:
 protected:
     /// The extents of a custom entity are those of the picture it drew last.
     virtual Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const;
+    /// Hands a box out; eInvalidExtents, and extents as they were, for an empty one.
+    static Acad::ErrorStatus GiveExtents(const AcDbExtents& box, AcDbExtents& extents);
     virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d&) { return Acad::eNotApplicable; }
     virtual Acad::ErrorStatus subExplode(AcDbVoidPtrArray&) const { return Acad::eNotApplicable; }
     virtual Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray&, AcDbIntArray&, AcDbIntArray&) const {

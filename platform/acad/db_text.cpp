@@ -233,13 +233,7 @@ Adesk::Boolean AcDbText::subWorldDraw(AcGiWorldDraw* pMode) {
 
 Acad::ErrorStatus AcDbText::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    const auto corners = TextBox(Primitive());
-    if (!corners) return Acad::eInvalidExtents;
-    AcDbExtents box;
-    for (const AcGePoint3d& corner : *corners)
-        box.addPoint(corner);
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(ExtentsOfShape(Primitive()), extents);
 }
 
 Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& xform) {

@@ -114,6 +114,10 @@ void Add(AcDbExtents& box, const CSplinePrimitive& shape) {
     }
 }
 
+void AddShape(AcDbExtents& box, const CShape& shape) {
+    std::visit([&box](const auto& kind) { Add(box, kind); }, shape);
+}
+
 } // namespace
 
 CArcFrame::CArcFrame(const CArcPrimitive& arc)
@@ -129,9 +133,15 @@ std::vector<CBezier> CSplinePrimitive::Pieces() const {
     return m_arFitPoints.empty() ? PiecesOf(m_nurbs) : NaturalSpline(m_arFitPoints);
 }
 
+AcDbExtents ExtentsOfShape(const CShape& shape) {
+    AcDbExtents box;
+    AddShape(box, shape);
+    return box;
+}
+
 AcDbExtents ExtentsOf(const CDisplayList& list) {
     AcDbExtents box;
     for (const CPrimitive& primitive : list)
-        std::visit([&box](const auto& shape) { Add(box, shape); }, primitive.m_shape);
+        AddShape(box, primitive.m_shape);
     return box;
 }

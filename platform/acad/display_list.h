@@ -60,18 +60,21 @@ struct CSplinePrimitive {
     std::vector<CBezier> Pieces() const; ///< the curve as it is painted
 };
 
+using CShape =
+    std::variant<CPolylinePrimitive, CPlinePrimitive, CArcPrimitive, CTextPrimitive, CSplinePrimitive>;
+
 struct CPrimitive {
     Adesk::UInt16 m_nColor = 256;
     std::string m_strLinetype = "ByLayer"; ///< empty for a null line type
     Adesk::GsMarker m_nMarker = 0;
-    std::variant<CPolylinePrimitive, CPlinePrimitive, CArcPrimitive, CTextPrimitive, CSplinePrimitive>
-        m_shape;
+    CShape m_shape;
 };
 
 using CDisplayList = std::vector<CPrimitive>;
 
 /// The box of all primitives; line widths count, coordinates that are no finite number don't.
 AcDbExtents ExtentsOf(const CDisplayList& list);
+AcDbExtents ExtentsOfShape(const CShape& shape); ///< of one alone
 
 /// True when the picture passes within distance (drawing units) of the point, seen from above. A wide line
 /// fills its width, a text its rectangle.

@@ -6,8 +6,6 @@
 
 namespace {
 
-using CShape = decltype(CPrimitive::m_shape);
-
 constexpr int g_nChordsOfTurn = 128;
 constexpr double g_dTurn = 2.0 * std::numbers::pi;
 
