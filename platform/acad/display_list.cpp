@@ -10,16 +10,11 @@ namespace {
 
 constexpr double g_dQuarter = std::numbers::pi / 2.0;
 
-/// Half of a width; one that is not set or no number draws a thin line.
-double Half(double width) {
-    return width > 0.0 ? width / 2.0 : 0.0;
-}
-
 void AddStraight(AcDbExtents& box, const CPolylineVertex& from, const CPolylineVertex& to) {
     const double dx = to.m_pt.x - from.m_pt.x, dy = to.m_pt.y - from.m_pt.y, length = std::hypot(dx, dy);
     const double nx = length > 0.0 ? -dy / length : 0.0, ny = length > 0.0 ? dx / length : 0.0;
     for (const double side : {-1.0, 1.0}) {
-        const double start = side * Half(from.m_dStartWidth), end = side * Half(from.m_dEndWidth);
+        const double start = side * HalfWidth(from.m_dStartWidth), end = side * HalfWidth(from.m_dEndWidth);
         box.addPoint({from.m_pt.x + nx * start, from.m_pt.y + ny * start, 0.0});
         box.addPoint({to.m_pt.x + nx * end, to.m_pt.y + ny * end, 0.0});
     }
@@ -27,12 +22,12 @@ void AddStraight(AcDbExtents& box, const CPolylineVertex& from, const CPolylineV
 
 /// Both edges of the band at a place (0 to 1) of the arc.
 void AddBandAt(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& from, double place) {
-    const double angle = arc.m_dStart + arc.m_dSweep * place;
-    const double start = Half(from.m_dStartWidth), end = Half(from.m_dEndWidth);
+    const double start = HalfWidth(from.m_dStartWidth), end = HalfWidth(from.m_dEndWidth);
     const double half = start + (end - start) * place;
-    for (const double radius : {arc.m_dRadius - half, arc.m_dRadius + half})
-        box.addPoint(
-            {arc.m_ptCenter.x + radius * std::cos(angle), arc.m_ptCenter.y + radius * std::sin(angle), 0.0});
+    for (const double outside : {-half, half}) {
+        const AcGePoint2d edge = arc.At(place, outside);
+        box.addPoint({edge.x, edge.y, 0.0});
+    }
 }
 
 void AddBulged(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& from) {
@@ -41,7 +36,7 @@ void AddBulged(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& fr
     for (int quarter = 0; quarter < 4; ++quarter)
         if (const auto place = PlaceInSweep(quarter * g_dQuarter, arc.m_dStart, arc.m_dSweep))
             AddBandAt(box, arc, from, *place);
-    if (Half(from.m_dStartWidth) == Half(from.m_dEndWidth)) return;
+    if (HalfWidth(from.m_dStartWidth) == HalfWidth(from.m_dEndWidth)) return;
     constexpr int steps = 64; // a tapering band bulges beside the quarters
     for (int step = 1; step < steps; ++step)
         AddBandAt(box, arc, from, static_cast<double>(step) / steps);
@@ -53,11 +48,11 @@ void Add(AcDbExtents& box, const CPolylinePrimitive& shape) {
 }
 
 void Add(AcDbExtents& box, const CPlinePrimitive& shape) {
-    const std::size_t count = shape.m_arVertices.size();
     for (const CPolylineVertex& vertex : shape.m_arVertices)
         box.addPoint({vertex.m_pt.x, vertex.m_pt.y, 0.0});
-    for (std::size_t i = 0; i < (shape.m_bClosed ? count : std::max<std::size_t>(count, 1) - 1); ++i) {
-        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.m_arVertices[(i + 1) % count];
+    const std::size_t count = shape.SegmentCount();
+    for (std::size_t i = 0; i < count; ++i) {
+        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.NextVertex(i);
         if (const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge)) {
             AddBulged(box, *arc, from);
         } else {
@@ -119,6 +114,14 @@ void AddShape(AcDbExtents& box, const CShape& shape) {
 }
 
 } // namespace
+
+double HalfWidth(double width) {
+    return width > 0.0 ? width / 2.0 : 0.0;
+}
+
+std::size_t CPlinePrimitive::SegmentCount() const {
+    return m_bClosed || m_arVertices.empty() ? m_arVertices.size() : m_arVertices.size() - 1;
+}
 
 CArcFrame::CArcFrame(const CArcPrimitive& arc)
     : m_ptCenter(arc.m_ptCenter)

@@ -20,9 +20,18 @@ struct CPolylinePrimitive {
     std::vector<AcGePoint3d> m_arPoints;
 };
 
+/// Half of a width; one that is not set or no number draws a thin line.
+double HalfWidth(double width);
+
 struct CPlinePrimitive {
     std::vector<CPolylineVertex> m_arVertices;
     bool m_bClosed = false;
+
+    /// The number of segments; each runs from the vertex of its number to the next one.
+    std::size_t SegmentCount() const;
+    const CPolylineVertex& NextVertex(std::size_t i) const {
+        return m_arVertices[(i + 1) % m_arVertices.size()];
+    }
 };
 
 struct CArcPrimitive {
