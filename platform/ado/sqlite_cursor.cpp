@@ -6,7 +6,7 @@
 
 #include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
-#include "platform/ado/sql_dialect.h"
+#include "platform/ado/plain_select.h"
 #include "platform/ado/text.h"
 
 namespace {
