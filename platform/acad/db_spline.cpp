@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_filer.h"
 #include "platform/acad/rx_class.h"
+#include "platform/acad/spline_crossings.h"
 
 ACRX_DEFINE_MEMBERS(AcDbSpline, AcDbEntity, L"SPLINE")
 

@@ -1,6 +1,7 @@
 #include "platform/acad/display_list.h"
 
 #include "platform/acad/bulge_arc.h"
+#include "platform/acad/spline_curve.h"
 #include "platform/acad/text_box.h"
 
 #include <algorithm>
