@@ -185,6 +185,19 @@ TEST_F(Selection, MembersAreAddedOnceFoundAndTakenAway) {
     EXPECT_EQ(Members(ss).size(), 1u);
 }
 
+TEST_F(Selection, ASetOfWhatIsThereTakesMembersOnceAndGivesThemUp) {
+    const AcDbObjectId first = AddLine({0, 0, 0}, {1, 0, 0}), second = AddLine({0, 0, 0}, {2, 0, 0});
+    ads_name name, ss, same;
+    ASSERT_EQ(acedSSGet(L"X", nullptr, nullptr, nullptr, ss), RTNORM);
+    acdbGetAdsName(name, first);
+    EXPECT_EQ(acedSSMemb(name, ss), RTNORM);
+    EXPECT_EQ(acedSSAdd(name, ss, same), RTNORM);
+    EXPECT_EQ(acedSSDel(name, ss), RTNORM);
+    EXPECT_EQ(acedSSMemb(name, ss), RTERROR);
+    EXPECT_EQ(acedSSAdd(name, ss, same), RTNORM);
+    EXPECT_EQ(Members(ss), (CIds{second, first}));
+}
+
 TEST_F(Selection, AReleasedSetAnEntityAndAnIndexOutsideAreRefused) {
     ads_name entity, ss, name;
     acdbGetAdsName(entity, AddLine({0, 0, 0}, {1, 0, 0}));
