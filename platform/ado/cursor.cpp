@@ -1,13 +1,12 @@
 #include "platform/ado/cursor.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstring>
 #include <limits>
 
 #include "platform/ado/error.h"
 #include "platform/ado/gbk_name.h"
+#include "platform/ado/number_text.h"
 #include "platform/ado/report.h"
 
 namespace {
@@ -33,12 +32,6 @@ bool FitsWhole(DBTYPE wType, std::int64_t nValue) {
     default:
         return false;
     }
-}
-
-template <class Number>
-std::string NumberText(Number value) {
-    std::array<char, 64> szText{};
-    return {szText.data(), std::to_chars(szText.data(), szText.data() + szText.size(), value).ptr};
 }
 
 std::string Hexadecimal(std::span<const unsigned char> arBytes) {
@@ -67,8 +60,8 @@ CDbCell CellOf(const CDbValue& value) {
 
 std::string CellText(const CDbCell& cell) {
     if (const auto* pText = std::get_if<std::string_view>(&cell)) return std::string(*pText);
-    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return NumberText(*pWhole);
-    if (const auto* pReal = std::get_if<double>(&cell)) return NumberText(*pReal);
+    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return ShortestText(*pWhole);
+    if (const auto* pReal = std::get_if<double>(&cell)) return ShortestText(*pReal);
     return Hexadecimal(BytesBehind(cell));
 }
 

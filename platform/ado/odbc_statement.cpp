@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
 #include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
+#include "platform/ado/number_text.h"
 #include "platform/ado/odbc_text.h"
 #include "platform/ado/text.h"
 
@@ -61,19 +61,13 @@ DBTYPE TypeOf(SQLHSTMT hStatement, SQLUSMALLINT nColumn, SQLSMALLINT nType) {
     return bShort && IsTruthType(hStatement, nColumn) ? DBTYPE_BOOL : DBTYPE_BSTR;
 }
 
-template <class Number>
-std::string NumberText(Number value) {
-    std::array<char, 64> szText{};
-    return {szText.data(), std::to_chars(szText.data(), szText.data() + szText.size(), value).ptr};
-}
-
 /// A number as every column takes it: a whole one without exponent, also for columns of whole numbers.
 std::string RealText(double dValue) {
     constexpr double dWholeBelow = 1e15;
     const bool bNegativeZero = dValue == 0.0 && std::signbit(dValue);
     if (std::abs(dValue) < dWholeBelow && dValue == std::trunc(dValue) && !bNegativeZero)
-        return NumberText(static_cast<std::int64_t>(dValue));
-    return NumberText(dValue);
+        return ShortestText(static_cast<std::int64_t>(dValue));
+    return ShortestText(dValue);
 }
 
 } // namespace
@@ -136,7 +130,7 @@ void COdbcStatement::BindOne(SQLUSMALLINT nPlace, const CDbValue& value, CParame
         return;
     }
     if (const auto* pWhole = std::get_if<std::int64_t>(&value))
-        parameter.m_strText = Utf16FromUtf8(NumberText(*pWhole));
+        parameter.m_strText = Utf16FromUtf8(ShortestText(*pWhole));
     else if (const auto* pReal = std::get_if<double>(&value))
         parameter.m_strText = Utf16FromUtf8(RealText(*pReal));
     else if (const auto* pText = std::get_if<std::string>(&value))
