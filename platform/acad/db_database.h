@@ -101,8 +101,8 @@ public:
 
     std::vector<AcDbObjectId> ObjectIds() const; ///< of all objects in database order, erased ones left out
     AcDbHandle handseed() const { return AcDbHandle(m_nNextHandle); } ///< what the next object gets
-    /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed,
-    /// for a handle that an object has.
+    /// Lets the next object have this handle, for a drawing that is being read; those after it pass over
+    /// handles in use. False, and nothing changed, for a handle that an object has.
     bool SetHandseed(AcDbHandle handle);
     /// Gives an object of this drawing another handle, as a file has it, before anything refers to the former
     /// one. eInvalidInput for one that is taken, null or beyond 63 bits; eWrongDatabase.
@@ -160,12 +160,14 @@ public:
 
 private:
     friend class AcDbObject;
+    using CStubs = std::map<AcDbHandle, std::unique_ptr<CDbStub>>; // handle order is database order
+    void PassUsedHandles(CStubs::const_iterator stub);
     void TakeContents(AcDbDatabase& other);
     void NoteChanged(CDbStub& stub);
     template <class T>
     Acad::ErrorStatus SetCurrent(AcDbObjectId CDbVariables::*pVariable, AcDbObjectId id);
 
-    std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
+    CStubs m_mapStubs;
     Adesk::UInt64 m_nNextHandle = 1;
     AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idRegAppTable;
     AcDbObjectId m_idModelSpace, m_idNamedObjects;
