@@ -60,15 +60,6 @@ bool LeadsTo(const ACHAR* name, const AcDbDatabase& source, const AcDbDatabase& 
     return false;
 }
 
-Acad::ErrorStatus EraseContents(const AcDbBlockTableRecord& block) {
-    for (const AcDbObjectId id : block.EntityIds()) {
-        const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
-        if (!entity) return entity.Status();
-        entity->erase();
-    }
-    return Acad::eOk;
-}
-
 /// Makes the block of that name, or takes out what it holds; it gets a base point.
 Acad::ErrorStatus EmptyBlock(const AcDbDatabase& drawing, const ACHAR* name, const AcGePoint3d& base,
                              AcDbObjectId& idBlock) {
@@ -85,9 +76,10 @@ Acad::ErrorStatus EmptyBlock(const AcDbDatabase& drawing, const ACHAR* name, con
     if (idThere == drawing.ModelSpaceId() || idThere == PaperSpaceId(drawing)) return Acad::eInvalidInput;
     const CDbOpen<AcDbBlockTableRecord> block(idThere, AcDb::kForWrite);
     if (!block) return block.Status();
+    const Acad::ErrorStatus status = EraseContents(*block.Get());
+    if (status != Acad::eOk) return status;
     idBlock = idThere;
-    block->setOrigin(base);
-    return EraseContents(*block.Get());
+    return block->setOrigin(base);
 }
 
 /// Tables whose records come along with an inserted drawing even where nothing uses them.

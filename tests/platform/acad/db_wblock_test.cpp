@@ -166,9 +166,12 @@ TEST_F(DbWblock, InsertGivesABlockThatIsThereAnotherContent) {
 
 TEST_F(DbWblock, InsertLeavesABlockWhoseContentIsInUse) {
     const AcDbObjectId idThere = AddBlock(m_target, L"FRAME");
+    AppendTo(idThere, new AcDbLine({0, 0, 0}, {8, 8, 0}));
     const CDbOpen<AcDbLine> line(AppendTo(idThere, new AcDbLine({0, 0, 0}, {9, 9, 0})));
     EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eWasOpenForRead);
-    EXPECT_EQ(Entities(idThere).size(), 1U);
+    EXPECT_EQ(Entities(idThere).size(), 2U);
+    EXPECT_EQ(CDbOpen<AcDbBlockTableRecord>(idThere)->origin(), AcGePoint3d());
+    EXPECT_TRUE(m_idBlock.isNull());
 }
 
 TEST_F(DbWblock, InsertRefusesAContentThatTheBlockIsPartOf) {
