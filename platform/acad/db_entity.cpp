@@ -45,6 +45,9 @@ Acad::ErrorStatus AcDbEntity::setPropertiesFrom(const AcDbEntity* pOther) {
     assertWriteEnabled();
     if (!pOther) return Acad::eNullObjectPointer;
     if (database() && pOther->database() && pOther->database() != database()) return Acad::eWrongDatabase;
+    // Those of a free entity may be of any drawing.
+    for (const AcDbObjectId& id : {pOther->m_idLayer, pOther->m_idLinetype})
+        if (database() && !id.isNull() && id.database() != database()) return Acad::eWrongDatabase;
     m_nColorIndex = pOther->m_nColorIndex;
     m_idLayer = pOther->m_idLayer;
     m_idLinetype = pOther->m_idLinetype;

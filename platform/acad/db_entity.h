@@ -38,7 +38,8 @@ public:
     /// A free entity may be given the layer of any drawing; appending one without gives it the current layer.
     Acad::ErrorStatus setLayer(AcDbObjectId idLayer);
     std::string LayerName() const; ///< "0" for none
-    /// Takes colour, layer and line type of another entity. eNullObjectPointer, eWrongDatabase.
+    /// Takes colour, layer and line type of another entity. eNullObjectPointer, eWrongDatabase; nothing
+    /// changed then.
     Acad::ErrorStatus setPropertiesFrom(const AcDbEntity* pOther);
 
     /// The box of what the entity shows. eInvalidExtents when it shows nothing finite.
