@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
+#include "platform/acad/selection.h"
 #include "platform/acad/standard_handles.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/host_assert.h"
@@ -71,6 +72,7 @@ AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) {
 
 AcDbDatabase::~AcDbDatabase() {
     std::erase(OpenDrawings(), this);
+    ForgetSelections(*this);
     AcDbHostApplicationServices* const pServices = acdbHostApplicationServices();
     if (pServices->workingDatabase() == this) pServices->setWorkingDatabase(nullptr);
     // All objects go before the first stub does: an id held by one of them stays good until the last is gone.

@@ -51,19 +51,29 @@ private:
 
 constexpr std::intptr_t g_nSetMark = 1; // second part of a set's name
 
-std::map<std::intptr_t, CSelectionSet> g_mapSets;
-std::intptr_t g_nLastSet = 0;
-std::map<const AcDbDatabase*, CIds> g_mapPrevious;
+/// The sets made and not yet released, and what was selected before in each drawing.
+struct CSelections {
+    std::map<std::intptr_t, CSelectionSet> m_mapSets;
+    std::intptr_t m_nLastSet = 0;
+    std::map<const AcDbDatabase*, CIds> m_mapPrevious;
+};
+
+CSelections& Selections() {
+    static auto* const pSelections = new CSelections; // a static drawing may outlive any other
+    return *pSelections;
+}
 
 CSelectionSet* Find(const ads_name ss) {
     if (!ss || ss[1] != g_nSetMark) return nullptr;
-    const auto found = g_mapSets.find(ss[0]);
-    return found == g_mapSets.end() ? nullptr : &found->second;
+    std::map<std::intptr_t, CSelectionSet>& sets = Selections().m_mapSets;
+    const auto found = sets.find(ss[0]);
+    return found == sets.end() ? nullptr : &found->second;
 }
 
 void NewSet(const AcDbDatabase& drawing, CIds ids, ads_name ss) {
-    g_mapSets[++g_nLastSet] = CSelectionSet(drawing, std::move(ids));
-    ss[0] = g_nLastSet;
+    CSelections& selections = Selections();
+    selections.m_mapSets[++selections.m_nLastSet] = CSelectionSet(drawing, std::move(ids));
+    ss[0] = selections.m_nLastSet;
     ss[1] = g_nSetMark;
 }
 
@@ -104,7 +114,7 @@ CIds LastOf(const CIds& ids) {
 }
 
 CIds Previous(const AcDbDatabase& drawing) {
-    CIds ids = g_mapPrevious[&drawing];
+    CIds ids = Selections().m_mapPrevious[&drawing];
     std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
     return ids;
 }
@@ -179,14 +189,14 @@ int acedSSGet(const ACHAR* mode, const void* pt1, const void* pt2, const resbuf*
         return !PassesFilter(*PeekObject<AcDbEntity>(id), pFilter);
     });
     if (ids->empty()) return RTERROR;
-    if (strMode != L"X") g_mapPrevious[pDrawing] = *ids;
+    if (strMode != L"X") Selections().m_mapPrevious[pDrawing] = *ids;
     NewSet(*pDrawing, std::move(*ids), ss);
     return RTNORM;
 }
 
 int acedSSFree(const ads_name ss) {
     if (!Find(ss)) return RTERROR;
-    g_mapSets.erase(ss[0]);
+    Selections().m_mapSets.erase(ss[0]);
     return RTNORM;
 }
 
@@ -234,6 +244,8 @@ int acedSSMemb(const ads_name entity, const ads_name ss) {
 }
 
 void ForgetSelections(const AcDbDatabase& drawing) {
-    std::erase_if(g_mapSets, [&drawing](const auto& set) { return set.second.Drawing() == &drawing; });
-    g_mapPrevious.erase(&drawing);
+    CSelections& selections = Selections();
+    std::erase_if(selections.m_mapSets,
+                  [&drawing](const auto& set) { return set.second.Drawing() == &drawing; });
+    selections.m_mapPrevious.erase(&drawing);
 }

@@ -13,7 +13,6 @@ namespace {
 class Selection : public testing::Test {
 protected:
     Selection() { acdbHostApplicationServices()->setWorkingDatabase(&m_drawing); }
-    ~Selection() override { ForgetSelections(m_drawing); }
 
     AcDbObjectId AddLine(const AcGePoint3d& from, const AcGePoint3d& to) {
         auto* const pLine = new AcDbLine(from, to);
@@ -222,6 +221,18 @@ TEST_F(Selection, ADrawingTakesItsSetsWithIt) {
     Adesk::Int32 nLength = 0;
     EXPECT_EQ(acedSSLength(ss, &nLength), RTERROR);
     EXPECT_EQ(Get(L"P"), CIds{});
+}
+
+TEST_F(Selection, ADrawingThatIsNoDocumentTakesItsSetsWithItToo) {
+    ads_name ss;
+    {
+        AcDbDatabase beside;
+        acdbHostApplicationServices()->setWorkingDatabase(&beside);
+        Append(beside, new AcDbLine({0, 0, 0}, {1, 0, 0}));
+        ASSERT_EQ(acedSSGet(L"L", nullptr, nullptr, nullptr, ss), RTNORM);
+    }
+    Adesk::Int32 nLength = 0;
+    EXPECT_EQ(acedSSLength(ss, &nLength), RTERROR);
 }
 
 TEST_F(Selection, EntSelGivesNameAndPointOfThePick) {
