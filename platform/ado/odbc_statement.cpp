@@ -39,10 +39,6 @@ constexpr std::array g_arDriverTypes = {
 
 constexpr std::size_t g_nFirstBuffer = 256; // characters; what is longer is read in several goes
 
-SQLWCHAR* Wide(std::u16string& strText) {
-    return reinterpret_cast<SQLWCHAR*>(strText.data());
-}
-
 /// A driver gives truth values as texts of one character; the name of the type tells them.
 bool IsTruthType(SQLHSTMT hStatement, SQLUSMALLINT nColumn) {
     std::u16string strName(32, u'\0');
@@ -86,13 +82,13 @@ void COdbcStatement::Run(std::string_view strSql, std::span<const CDbValue> arPa
     Bind(arParameters);
     std::u16string strWide = Utf16FromUtf8(strSql);
     const SQLRETURN nResult =
-        SQLExecDirectW(m_hStatement, Wide(strWide), static_cast<SQLINTEGER>(strWide.size()));
+        SQLExecDirectW(m_hStatement, OdbcText(strWide), static_cast<SQLINTEGER>(strWide.size()));
     Note(nResult);
 }
 
 void COdbcStatement::Prepare(std::string_view strSql) {
     std::u16string strWide = Utf16FromUtf8(strSql);
-    Check(SQLPrepareW(m_hStatement, Wide(strWide), static_cast<SQLINTEGER>(strWide.size())));
+    Check(SQLPrepareW(m_hStatement, OdbcText(strWide), static_cast<SQLINTEGER>(strWide.size())));
 }
 
 void COdbcStatement::Run(std::span<const CDbValue> arParameters) {
@@ -160,8 +156,9 @@ std::vector<COdbcColumn> COdbcStatement::Columns() const {
         SQLULEN nSize = 0;
         SQLSMALLINT nDigits = 0;
         SQLSMALLINT nNullable = 0;
-        Check(SQLDescribeColW(m_hStatement, nPlace, Wide(strName), static_cast<SQLSMALLINT>(strName.size()),
-                              &nLength, &nType, &nSize, &nDigits, &nNullable));
+        Check(SQLDescribeColW(m_hStatement, nPlace, OdbcText(strName),
+                              static_cast<SQLSMALLINT>(strName.size()), &nLength, &nType, &nSize, &nDigits,
+                              &nNullable));
         strName.resize(std::min(strName.size() - 1, static_cast<std::size_t>(std::max<int>(nLength, 0))));
         arColumns[i] = {Utf8FromUtf16(strName), TypeOf(m_hStatement, nPlace, nType)};
     }
