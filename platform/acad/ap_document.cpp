@@ -1,7 +1,6 @@
 #include "platform/acad/ap_document.h"
 
 #include "platform/acad/ap_document_manager.h"
-#include "platform/acad/selection.h"
 
 #include <algorithm>
 
@@ -13,7 +12,6 @@ AcApDocument::AcApDocument(std::unique_ptr<AcDbDatabase> pDatabase, std::wstring
 
 AcApDocument::~AcApDocument() {
     acDocManagerPtr()->Forget(*this);
-    ForgetSelections(*m_pDatabase);
 }
 
 bool AcApDocument::isNamedDrawing() const {

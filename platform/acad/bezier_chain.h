@@ -1,7 +1,9 @@
 #pragma once
 // A curve of Bézier pieces under one parameter: piece i holds the parameters i to i + 1.
 
-#include "platform/acad/spline_curve.h"
+#include "platform/acad/bezier.h"
+
+#include <vector>
 
 /// A box about a part of a curve.
 struct CFlatBox {

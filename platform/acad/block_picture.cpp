@@ -106,9 +106,7 @@ Acad::ErrorStatus AcDbBlockReference::subGetGeomExtents(AcDbExtents& extents) co
     AcDbExtents box = BlockExtents();
     for (const AcDbObjectId& id : AttributeIds())
         AddExtents(id, AcGeMatrix3d(), box);
-    if (box.isEmpty()) return Acad::eInvalidExtents;
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(box, extents);
 }
 
 Acad::ErrorStatus AcDbBlockReference::AddPart(AcDbObjectId id, const AcGeMatrix3d& xform, CParts& parts) {

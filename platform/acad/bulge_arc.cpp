@@ -16,6 +16,11 @@ std::optional<CBulgeArc> ArcOfBulge(const AcGePoint2d& from, const AcGePoint2d& 
     return arc;
 }
 
+AcGePoint2d CBulgeArc::At(double place, double outside) const {
+    const double angle = m_dStart + m_dSweep * place, radius = m_dRadius + outside;
+    return {m_ptCenter.x + radius * std::cos(angle), m_ptCenter.y + radius * std::sin(angle)};
+}
+
 std::optional<double> PlaceInSweep(double angle, double start, double sweep) {
     constexpr double full = 2.0 * std::numbers::pi;
     const double size = std::fabs(sweep);

@@ -76,13 +76,9 @@ Adesk::Boolean AcDbArc::subWorldDraw(AcGiWorldDraw* pMode) {
 
 Acad::ErrorStatus AcDbArc::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    CPrimitive primitive;
-    primitive.m_shape = CArcPrimitive{
-        m_ptCenter, m_dRadius, normal(), {std::cos(m_dStartAngle), std::sin(m_dStartAngle), 0.0}, Sweep()};
-    const AcDbExtents box = ExtentsOf({primitive});
-    if (box.isEmpty()) return Acad::eInvalidExtents;
-    extents = box;
-    return Acad::eOk;
+    const AcGeVector3d start(std::cos(m_dStartAngle), std::sin(m_dStartAngle), 0.0);
+    return GiveExtents(ExtentsOfShape(CArcPrimitive{m_ptCenter, m_dRadius, normal(), start, Sweep()}),
+                       extents);
 }
 
 Acad::ErrorStatus AcDbArc::subTransformBy(const AcGeMatrix3d& xform) {

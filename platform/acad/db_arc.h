@@ -16,8 +16,8 @@ public:
     double startAngle() const { return m_dStartAngle; }
     double endAngle() const { return m_dEndAngle; }
     AcGeVector3d normal() const { return AcGeVector3d::kZAxis; }
-    // eInvalidInput for a number that is not finite, and a radius that is not above 0.
     Acad::ErrorStatus setCenter(const AcGePoint3d& center);
+    // eInvalidInput for a number that is not finite, and a radius that is not above 0.
     Acad::ErrorStatus setRadius(double radius);
     Acad::ErrorStatus setStartAngle(double radians);
     Acad::ErrorStatus setEndAngle(double radians);

@@ -23,8 +23,8 @@ bool IsFinite(const AcGeScale3d& scale) {
 
 Acad::ErrorStatus AcDbBlockReference::setBlockTableRecord(AcDbObjectId idBlock) {
     assertWriteEnabled();
-    if (!PeekObject<AcDbBlockTableRecord>(idBlock)) return Acad::eNotThatKindOfClass;
-    if (database() && idBlock.database() != database()) return Acad::eWrongDatabase;
+    const Acad::ErrorStatus status = CheckRecord<AcDbBlockTableRecord>(idBlock, database());
+    if (status != Acad::eOk) return status;
     m_idBlock = idBlock;
     Changed();
     return Acad::eOk;

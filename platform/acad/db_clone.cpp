@@ -2,6 +2,8 @@
 
 #include "platform/acad/db_stub.h"
 
+#include <deque>
+
 namespace {
 
 /// What every drawing has one of.
@@ -19,11 +21,6 @@ std::vector<AcDbObjectId> ContentsOf(AcDbObjectId idBlock) {
     return block ? block->EntityIds() : std::vector<AcDbObjectId>();
 }
 
-void EraseContents(AcDbObjectId idBlock) {
-    for (const AcDbObjectId& id : ContentsOf(idBlock))
-        if (const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite); entity) entity->erase();
-}
-
 /// Puts a clone into a dictionary under the name that its original has in its own.
 Acad::ErrorStatus PlaceInDictionary(AcDbObjectId idSource, AcDbObject& clone, AcDbDictionary& dictionary,
                                     AcDbObjectId& id) {
@@ -34,6 +31,15 @@ Acad::ErrorStatus PlaceInDictionary(AcDbObjectId idSource, AcDbObject& clone, Ac
 }
 
 } // namespace
+
+Acad::ErrorStatus EraseContents(const AcDbBlockTableRecord& block) {
+    std::deque<CDbOpen<AcDbEntity>> entities; // all of them before the first goes
+    for (const AcDbObjectId& id : block.EntityIds())
+        if (!entities.emplace_back(id, AcDb::kForWrite)) return entities.back().Status();
+    for (const CDbOpen<AcDbEntity>& entity : entities)
+        entity->erase();
+    return Acad::eOk;
+}
 
 void CCloner::Note(Acad::ErrorStatus status) {
     if (m_status == Acad::eOk) m_status = status;
@@ -103,14 +109,23 @@ Acad::ErrorStatus CCloner::Place(AcDbObjectId idSource, AcDbObject& clone, AcDbO
     return m_target.AddObject(id, &clone, idOwner);
 }
 
+/// Readies a record that is there for becoming like another one of its name. False when it has to stay.
+bool CCloner::MakeRoomFor(const AcDbSymbolTableRecord& original, AcDbObjectId idPresent) {
+    if (IsSpace(original)) return false;
+    if (!PeekObject<AcDbBlockTableRecord>(idPresent)) return true;
+    const CDbOpen<AcDbBlockTableRecord> block(idPresent);
+    const Acad::ErrorStatus status = block ? EraseContents(*block.Get()) : block.Status();
+    Note(status);
+    return status == Acad::eOk;
+}
+
 void CCloner::CloneRecord(AcDbObjectId id, bool bPrimary) {
     if (id.isErased() || !CloneOf(id).isNull()) return;
     const auto& original = *PeekObject<AcDbSymbolTableRecord>(id);
     const AcDbObjectId idTable = CloneOf(original.ownerId());
     const AcDbObjectId idPresent = PeekObject<AcDbSymbolTable>(idTable)->Find(original.Name().c_str());
     if (!idPresent.isNull()) {
-        const bool bReplaced = m_drc == AcDb::kDrcReplace && !IsSpace(original);
-        if (bReplaced && PeekObject<AcDbBlockTableRecord>(idPresent)) EraseContents(idPresent);
+        const bool bReplaced = m_drc == AcDb::kDrcReplace && MakeRoomFor(original, idPresent);
         m_mapping.assign(AcDbIdPair(id, idPresent, bReplaced, bPrimary));
         return;
     }

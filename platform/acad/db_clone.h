@@ -5,6 +5,9 @@
 #include "platform/acad/db_database.h"
 #include "platform/acad/memory_filer.h"
 
+/// Erases the entities of a block that is open; none of them where one cannot be opened, and then why.
+Acad::ErrorStatus EraseContents(const AcDbBlockTableRecord& block);
+
 /// One cloning. An object is made anew by its class and reads the record of its original, in which each
 /// reference stands for the clone of what it referred to. What an object owns is cloned with it. Into another
 /// drawing, so is what it refers to hard; there records of tables are known by their names, and a soft
@@ -35,6 +38,7 @@ private:
     bool IsAcross() const { return &m_source != &m_target; }
     void CloneObject(AcDbObjectId id, AcDbObjectId idOwner, bool bPrimary);
     void CloneRecord(AcDbObjectId id, bool bPrimary);
+    bool MakeRoomFor(const AcDbSymbolTableRecord& original, AcDbObjectId idPresent);
     Acad::ErrorStatus Place(AcDbObjectId idSource, AcDbObject& clone, AcDbObjectId idOwner, AcDbObjectId& id);
     void BringAlong(const CFiledId& reference, AcDbObjectId idHolder);
     CDbRecord RecordWithFollowers(const AcDbIdPair& pair);

@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_stub.h"
 #include "platform/acad/host_application.h"
+#include "platform/acad/selection.h"
 #include "platform/acad/standard_handles.h"
 #include "platform/windows/code_page.h"
 #include "platform/windows/host_assert.h"
@@ -71,6 +72,7 @@ AcDbDatabase::AcDbDatabase(bool buildDefaultDrawing) {
 
 AcDbDatabase::~AcDbDatabase() {
     std::erase(OpenDrawings(), this);
+    ForgetSelections(*this);
     AcDbHostApplicationServices* const pServices = acdbHostApplicationServices();
     if (pServices->workingDatabase() == this) pServices->setWorkingDatabase(nullptr);
     // All objects go before the first stub does: an id held by one of them stays good until the last is gone.
@@ -184,15 +186,21 @@ Acad::ErrorStatus AcDbDatabase::AddObject(AcDbObjectId& id, AcDbObject* pObject,
     if (!idOwner.isNull() && idOwner.database() != this) return Acad::eWrongDatabase;
     auto pStub = std::make_unique<CDbStub>();
     pStub->m_pDatabase = this;
-    pStub->m_handle = AcDbHandle(m_nNextHandle++);
+    pStub->m_handle = AcDbHandle(m_nNextHandle);
     pStub->m_pObject.reset(pObject);
     pStub->m_bWriting = pStub->m_bModified = true;
     id = AcDbObjectId(pStub.get());
     pObject->m_id = id;
     pObject->m_idOwner = idOwner;
     m_undoLog.NoteAppended(*pStub);
-    m_mapStubs.emplace(pStub->m_handle, std::move(pStub));
+    PassUsedHandles(m_mapStubs.emplace(pStub->m_handle, std::move(pStub)).first);
     return Acad::eOk;
+}
+
+/// The seed may have been set below handles in use; what the next object gets never is.
+void AcDbDatabase::PassUsedHandles(CStubs::const_iterator stub) {
+    for (; stub != m_mapStubs.end() && stub->first.Value() == m_nNextHandle; ++stub)
+        ++m_nNextHandle;
 }
 
 Acad::ErrorStatus AcDbDatabase::SetHandle(AcDbObjectId id, AcDbHandle handle) {
@@ -202,8 +210,9 @@ Acad::ErrorStatus AcDbDatabase::SetHandle(AcDbObjectId id, AcDbHandle handle) {
         return Acad::eInvalidInput;
     auto node = m_mapStubs.extract(id.handle());
     node.key() = node.mapped()->m_handle = handle;
-    m_mapStubs.insert(std::move(node));
-    m_nNextHandle = std::max(m_nNextHandle, handle.Value() + 1);
+    const auto place = m_mapStubs.insert(std::move(node)).position;
+    m_nNextHandle = std::max(m_nNextHandle, handle.Value());
+    PassUsedHandles(place);
     return Acad::eOk;
 }
 

@@ -101,8 +101,8 @@ public:
 
     std::vector<AcDbObjectId> ObjectIds() const; ///< of all objects in database order, erased ones left out
     AcDbHandle handseed() const { return AcDbHandle(m_nNextHandle); } ///< what the next object gets
-    /// Lets the next object have this handle, for a drawing that is being read. False, and nothing changed,
-    /// for a handle that an object has.
+    /// Lets the next object have this handle, for a drawing that is being read; those after it pass over
+    /// handles in use. False, and nothing changed, for a handle that an object has.
     bool SetHandseed(AcDbHandle handle);
     /// Gives an object of this drawing another handle, as a file has it, before anything refers to the former
     /// one. eInvalidInput for one that is taken, null or beyond 63 bits; eWrongDatabase.
@@ -131,14 +131,14 @@ public:
                                          bool deferXlation = false);
     /// A new drawing, the caller's to delete also when something could not be cloned: like this one; of the
     /// entities of a block, with its base point (eNotThatKindOfClass, eWrongDatabase); of some entities, with
-    /// a base point. eNoDatabase, and no new drawing, for one that holds nothing at all.
+    /// a base point. Null where no new drawing is made: eNoDatabase for one that holds nothing at all.
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock);
     Acad::ErrorStatus wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
                              const AcGePoint3d& basePoint);
     /// Makes a block of what another drawing has in model space, and brings all its layers, styles, line
     /// types and registered applications along. A block of that name gets this content in place of its own.
-    /// The source is preserved in any case. eNullObjectPointer, eNoDatabase for one that holds nothing at
+    /// The source is preserved in any case. eNullObjectPointer, eNoDatabase where either holds nothing at
     /// all, eInvalidInput for this drawing itself, for no name and for a space's; eSelfReference for a
     /// content that the block itself is part of.
     Acad::ErrorStatus insert(AcDbObjectId& idBlock, const ACHAR* blockName, AcDbDatabase* pSource,
@@ -160,12 +160,14 @@ public:
 
 private:
     friend class AcDbObject;
+    using CStubs = std::map<AcDbHandle, std::unique_ptr<CDbStub>>; // handle order is database order
+    void PassUsedHandles(CStubs::const_iterator stub);
     void TakeContents(AcDbDatabase& other);
     void NoteChanged(CDbStub& stub);
     template <class T>
     Acad::ErrorStatus SetCurrent(AcDbObjectId CDbVariables::*pVariable, AcDbObjectId id);
 
-    std::map<AcDbHandle, std::unique_ptr<CDbStub>> m_mapStubs; // handle order is database order
+    CStubs m_mapStubs;
     Adesk::UInt64 m_nNextHandle = 1;
     AcDbObjectId m_idBlockTable, m_idLayerTable, m_idLinetypeTable, m_idTextStyleTable, m_idRegAppTable;
     AcDbObjectId m_idModelSpace, m_idNamedObjects;

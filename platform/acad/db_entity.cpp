@@ -8,17 +8,6 @@
 
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbEntity, AcDbObject)
 
-namespace {
-
-/// Whether an entity of the drawing (null: a free one) may refer to this record.
-template <class T>
-Acad::ErrorStatus CheckRecord(AcDbObjectId idRecord, const AcDbDatabase* pDatabase) {
-    if (!PeekObject<T>(idRecord)) return Acad::eNotThatKindOfClass;
-    return pDatabase && idRecord.database() != pDatabase ? Acad::eWrongDatabase : Acad::eOk;
-}
-
-} // namespace
-
 Acad::ErrorStatus AcDbEntity::setColorIndex(Adesk::UInt16 color, Adesk::Boolean) {
     assertWriteEnabled();
     if (color > g_nColorByLayer) return Acad::eInvalidInput;
@@ -56,6 +45,9 @@ Acad::ErrorStatus AcDbEntity::setPropertiesFrom(const AcDbEntity* pOther) {
     assertWriteEnabled();
     if (!pOther) return Acad::eNullObjectPointer;
     if (database() && pOther->database() && pOther->database() != database()) return Acad::eWrongDatabase;
+    // Those of a free entity may be of any drawing.
+    for (const AcDbObjectId& id : {pOther->m_idLayer, pOther->m_idLinetype})
+        if (database() && !id.isNull() && id.database() != database()) return Acad::eWrongDatabase;
     m_nColorIndex = pOther->m_nColorIndex;
     m_idLayer = pOther->m_idLayer;
     m_idLinetype = pOther->m_idLinetype;
@@ -82,7 +74,10 @@ Acad::ErrorStatus AcDbEntity::dwgInFields(AcDbDwgFiler* pFiler) {
 
 Acad::ErrorStatus AcDbEntity::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    const AcDbExtents box = m_pPicture ? ExtentsOf(*m_pPicture) : AcDbExtents();
+    return GiveExtents(m_pPicture ? ExtentsOf(*m_pPicture) : AcDbExtents(), extents);
+}
+
+Acad::ErrorStatus AcDbEntity::GiveExtents(const AcDbExtents& box, AcDbExtents& extents) {
     if (box.isEmpty()) return Acad::eInvalidExtents;
     extents = box;
     return Acad::eOk;

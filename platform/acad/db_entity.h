@@ -38,7 +38,8 @@ public:
     /// A free entity may be given the layer of any drawing; appending one without gives it the current layer.
     Acad::ErrorStatus setLayer(AcDbObjectId idLayer);
     std::string LayerName() const; ///< "0" for none
-    /// Takes colour, layer and line type of another entity. eNullObjectPointer, eWrongDatabase.
+    /// Takes colour, layer and line type of another entity. eNullObjectPointer, eWrongDatabase; nothing
+    /// changed then.
     Acad::ErrorStatus setPropertiesFrom(const AcDbEntity* pOther);
 
     /// The box of what the entity shows. eInvalidExtents when it shows nothing finite.
@@ -77,6 +78,8 @@ public:
 protected:
     /// The extents of a custom entity are those of the picture it drew last.
     virtual Acad::ErrorStatus subGetGeomExtents(AcDbExtents& extents) const;
+    /// Hands a box out; eInvalidExtents, and extents as they were, for an empty one.
+    static Acad::ErrorStatus GiveExtents(const AcDbExtents& box, AcDbExtents& extents);
     virtual Acad::ErrorStatus subTransformBy(const AcGeMatrix3d&) { return Acad::eNotApplicable; }
     virtual Acad::ErrorStatus subExplode(AcDbVoidPtrArray&) const { return Acad::eNotApplicable; }
     virtual Acad::ErrorStatus subGetGripPoints(AcGePoint3dArray&, AcDbIntArray&, AcDbIntArray&) const {

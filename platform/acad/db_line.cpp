@@ -43,9 +43,7 @@ Acad::ErrorStatus AcDbLine::subGetGeomExtents(AcDbExtents& extents) const {
     AcDbExtents box;
     box.addPoint(m_ptStart);
     box.addPoint(m_ptEnd);
-    if (box.isEmpty()) return Acad::eInvalidExtents;
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(box, extents);
 }
 
 Acad::ErrorStatus AcDbLine::subTransformBy(const AcGeMatrix3d& xform) {

@@ -143,12 +143,7 @@ Adesk::Boolean AcDbPolyline::subWorldDraw(AcGiWorldDraw* pMode) {
 
 Acad::ErrorStatus AcDbPolyline::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    CPrimitive primitive;
-    primitive.m_shape = CPlinePrimitive{m_arVertices, m_bClosed};
-    const AcDbExtents box = ExtentsOf({primitive});
-    if (box.isEmpty()) return Acad::eInvalidExtents;
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(ExtentsOfShape(CPlinePrimitive{m_arVertices, m_bClosed}), extents);
 }
 
 Acad::ErrorStatus AcDbPolyline::subTransformBy(const AcGeMatrix3d& xform) {

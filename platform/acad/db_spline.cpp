@@ -2,6 +2,7 @@
 
 #include "platform/acad/db_filer.h"
 #include "platform/acad/rx_class.h"
+#include "platform/acad/spline_crossings.h"
 
 ACRX_DEFINE_MEMBERS(AcDbSpline, AcDbEntity, L"SPLINE")
 
@@ -155,12 +156,7 @@ Adesk::Boolean AcDbSpline::subWorldDraw(AcGiWorldDraw* pMode) {
 
 Acad::ErrorStatus AcDbSpline::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    CPrimitive primitive;
-    primitive.m_shape = Primitive();
-    const AcDbExtents box = ExtentsOf({primitive});
-    if (box.isEmpty()) return Acad::eInvalidExtents;
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(ExtentsOfShape(Primitive()), extents);
 }
 
 Acad::ErrorStatus AcDbSpline::subTransformBy(const AcGeMatrix3d& xform) {

@@ -28,3 +28,11 @@ template <class T>
 T* PeekObject(AcDbObjectId id) {
     return id.isNull() ? nullptr : T::cast(id.Stub()->m_pObject.get());
 }
+
+/// Whether an object of a drawing (null: a free one) may refer to a record, which is of class T:
+/// eNotThatKindOfClass, also for a null id, eWrongDatabase.
+template <class T>
+Acad::ErrorStatus CheckRecord(AcDbObjectId idRecord, const AcDbDatabase* pDatabase) {
+    if (!PeekObject<T>(idRecord)) return Acad::eNotThatKindOfClass;
+    return pDatabase && idRecord.database() != pDatabase ? Acad::eWrongDatabase : Acad::eOk;
+}

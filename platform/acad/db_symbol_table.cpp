@@ -7,6 +7,7 @@
 #include "platform/acad/wide_names.h"
 
 #include <algorithm>
+#include <utility>
 
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbSymbolTableRecord, AcDbObject)
 ACRX_DEFINE_ABSTRACT_MEMBERS(AcDbSymbolTable, AcDbObject)
@@ -24,8 +25,7 @@ Acad::ErrorStatus AcDbSymbolTableRecord::setName(const ACHAR* name) {
         const AcDbObjectId idOther = pTable->Find(name);
         if (!idOther.isNull() && idOther != objectId()) return Acad::eDuplicateKey;
     }
-    m_strName = name;
-    TellTable();
+    Rename(name);
     return Acad::eOk;
 }
 
@@ -36,25 +36,31 @@ Acad::ErrorStatus AcDbSymbolTableRecord::dwgOutFields(AcDbDwgFiler* pFiler) cons
 
 Acad::ErrorStatus AcDbSymbolTableRecord::dwgInFields(AcDbDwgFiler* pFiler) {
     if (const Acad::ErrorStatus status = AcDbObject::dwgInFields(pFiler); status != Acad::eOk) return status;
-    const Acad::ErrorStatus status = ReadText(pFiler, m_strName);
-    TellTable();
+    std::wstring strName;
+    const Acad::ErrorStatus status = ReadText(pFiler, strName);
+    Rename(std::move(strName));
     return status;
 }
 
-void AcDbSymbolTableRecord::TellTable() const {
-    if (auto* const pTable = PeekObject<AcDbSymbolTable>(ownerId())) pTable->NoteName(objectId(), m_strName);
+void AcDbSymbolTableRecord::Rename(std::wstring strName) {
+    const std::wstring strFormer = std::exchange(m_strName, std::move(strName));
+    auto* const pTable = PeekObject<AcDbSymbolTable>(ownerId());
+    if (pTable) pTable->Renamed(objectId(), strFormer, m_strName);
 }
 
-void AcDbSymbolTable::NoteName(AcDbObjectId id, const std::wstring& strName) {
-    m_mapByName.emplace(UpperName(strName), id);
+void AcDbSymbolTable::Renamed(AcDbObjectId id, const std::wstring& strFormer, const std::wstring& strName) {
+    if (SameName(strFormer, strName)) return;
+    const auto [first, last] = m_mapByName.equal_range(UpperName(strFormer));
+    const auto place = std::find_if(first, last, [id](const auto& entry) { return entry.second == id; });
+    if (place == last) return; // a record that another table took in
+    auto node = m_mapByName.extract(place);
+    node.key() = UpperName(strName);
+    m_mapByName.insert(std::move(node));
 }
 
 AcDbObjectId AcDbSymbolTable::Find(const ACHAR* name) const {
     const auto [first, last] = m_mapByName.equal_range(UpperName(name));
-    const auto found = std::find_if(first, last, [name](const auto& entry) {
-        const AcDbObjectId& id = entry.second;
-        return !id.isErased() && SameName(PeekObject<AcDbSymbolTableRecord>(id)->Name(), name);
-    });
+    const auto found = std::find_if(first, last, [](const auto& entry) { return !entry.second.isErased(); });
     return found == last ? AcDbObjectId::kNull : found->second;
 }
 
@@ -81,7 +87,7 @@ Acad::ErrorStatus AcDbSymbolTable::add(AcDbObjectId& id, AcDbSymbolTableRecord* 
     const Acad::ErrorStatus status = database()->AddObject(id, pRecord, objectId());
     if (status != Acad::eOk) return status;
     m_arIds.push_back(id);
-    NoteName(id, pRecord->Name());
+    m_mapByName.emplace(UpperName(pRecord->Name()), id);
     return Acad::eOk;
 }
 

@@ -17,7 +17,7 @@ public:
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* pFiler) override;
 
 private:
-    void TellTable() const;
+    void Rename(std::wstring strName);
 
     std::wstring m_strName;
 };
@@ -45,10 +45,11 @@ public:
 
 private:
     friend class AcDbSymbolTableRecord;
-    void NoteName(AcDbObjectId id, const std::wstring& strName);
+    void Renamed(AcDbObjectId id, const std::wstring& strFormer, const std::wstring& strName);
 
     std::vector<AcDbObjectId> m_arIds;
-    /// By each name in upper case that a record has, or had: renamed and erased ones stay.
+    /// Each record once, by its name in upper case. Erased ones stay, since an undo brings them back, so
+    /// several may have one name.
     std::unordered_multimap<std::wstring, AcDbObjectId> m_mapByName;
 };
 

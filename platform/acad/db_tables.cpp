@@ -69,10 +69,10 @@ Acad::ErrorStatus AcDbLayerTableRecord::SetColorIndex(Adesk::UInt16 color) {
 
 Acad::ErrorStatus AcDbLayerTableRecord::setLinetypeObjectId(AcDbObjectId idLinetype) {
     assertWriteEnabled();
-    if (!idLinetype.isNull() && !PeekObject<AcDbLinetypeTableRecord>(idLinetype))
-        return Acad::eNotThatKindOfClass;
-    if (!idLinetype.isNull() && database() && idLinetype.database() != database())
-        return Acad::eWrongDatabase;
+    if (!idLinetype.isNull()) {
+        const Acad::ErrorStatus status = CheckRecord<AcDbLinetypeTableRecord>(idLinetype, database());
+        if (status != Acad::eOk) return status;
+    }
     m_idLinetype = idLinetype;
     return Acad::eOk;
 }

@@ -20,11 +20,7 @@ const AcDbTextStyleTableRecord* StyleOf(AcDbObjectId idStyle, const AcDbDatabase
     if (!pDatabase) pDatabase = acdbHostApplicationServices()->workingDatabase();
     if (!pDatabase) return nullptr;
     const auto* const pStyles = PeekObject<AcDbTextStyleTable>(pDatabase->textStyleTableId());
-    for (const AcDbObjectId& id : pStyles->RecordIds()) {
-        const auto* const pStyle = PeekObject<AcDbTextStyleTableRecord>(id);
-        if (pStyle && pStyle->Name() == L"Standard") return pStyle;
-    }
-    return nullptr;
+    return pStyles ? PeekObject<AcDbTextStyleTableRecord>(pStyles->Find(L"Standard")) : nullptr;
 }
 
 template <class Mode>
@@ -88,8 +84,10 @@ Acad::ErrorStatus AcDbText::setOblique(double radians) {
 
 Acad::ErrorStatus AcDbText::setTextStyle(AcDbObjectId idStyle) {
     assertWriteEnabled();
-    if (!idStyle.isNull() && !PeekObject<AcDbTextStyleTableRecord>(idStyle)) return Acad::eNotThatKindOfClass;
-    if (!idStyle.isNull() && database() && idStyle.database() != database()) return Acad::eWrongDatabase;
+    if (!idStyle.isNull()) {
+        const Acad::ErrorStatus status = CheckRecord<AcDbTextStyleTableRecord>(idStyle, database());
+        if (status != Acad::eOk) return status;
+    }
     m_idStyle = idStyle;
     return Acad::eOk;
 }
@@ -235,13 +233,7 @@ Adesk::Boolean AcDbText::subWorldDraw(AcGiWorldDraw* pMode) {
 
 Acad::ErrorStatus AcDbText::subGetGeomExtents(AcDbExtents& extents) const {
     assertReadEnabled();
-    const auto corners = TextBox(Primitive());
-    if (!corners) return Acad::eInvalidExtents;
-    AcDbExtents box;
-    for (const AcGePoint3d& corner : *corners)
-        box.addPoint(corner);
-    extents = box;
-    return Acad::eOk;
+    return GiveExtents(ExtentsOfShape(Primitive()), extents);
 }
 
 Acad::ErrorStatus AcDbText::subTransformBy(const AcGeMatrix3d& xform) {

@@ -39,9 +39,9 @@ public:
     AcGePoint3d alignmentPoint() const { return m_ptAlignment; } ///< without meaning while left on the base
     bool isDefaultAlignment() const; ///< left on the base line: the position alone counts
 
-    // eInvalidInput for a number that is not finite, a negative height, a width factor that is not above 0.
     Acad::ErrorStatus setPosition(const AcGePoint3d& position);
-    Acad::ErrorStatus setTextString(const ACHAR* text);
+    Acad::ErrorStatus setTextString(const ACHAR* text); ///< eInvalidInput for null
+    // eInvalidInput for a number that is not finite, a negative height, a width factor that is not above 0.
     Acad::ErrorStatus setHeight(double height);
     Acad::ErrorStatus setRotation(double radians);
     Acad::ErrorStatus setWidthFactor(double factor);

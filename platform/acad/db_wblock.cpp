@@ -60,15 +60,6 @@ bool LeadsTo(const ACHAR* name, const AcDbDatabase& source, const AcDbDatabase& 
     return false;
 }
 
-Acad::ErrorStatus EraseContents(const AcDbBlockTableRecord& block) {
-    for (const AcDbObjectId id : block.EntityIds()) {
-        const CDbOpen<AcDbEntity> entity(id, AcDb::kForWrite);
-        if (!entity) return entity.Status();
-        entity->erase();
-    }
-    return Acad::eOk;
-}
-
 /// Makes the block of that name, or takes out what it holds; it gets a base point.
 Acad::ErrorStatus EmptyBlock(const AcDbDatabase& drawing, const ACHAR* name, const AcGePoint3d& base,
                              AcDbObjectId& idBlock) {
@@ -85,9 +76,10 @@ Acad::ErrorStatus EmptyBlock(const AcDbDatabase& drawing, const ACHAR* name, con
     if (idThere == drawing.ModelSpaceId() || idThere == PaperSpaceId(drawing)) return Acad::eInvalidInput;
     const CDbOpen<AcDbBlockTableRecord> block(idThere, AcDb::kForWrite);
     if (!block) return block.Status();
+    const Acad::ErrorStatus status = EraseContents(*block.Get());
+    if (status != Acad::eOk) return status;
     idBlock = idThere;
-    block->setOrigin(base);
-    return EraseContents(*block.Get());
+    return block->setOrigin(base);
 }
 
 /// Tables whose records come along with an inserted drawing even where nothing uses them.
@@ -136,6 +128,7 @@ Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput) {
 }
 
 Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, AcDbObjectId idBlock) {
+    pOutput = nullptr;
     const auto* const pBlock = PeekObject<AcDbBlockTableRecord>(idBlock);
     if (!pBlock) return Acad::eNotThatKindOfClass;
     if (idBlock.database() != this) return Acad::eWrongDatabase;
@@ -152,6 +145,8 @@ Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, AcDbObjectId idBl
 
 Acad::ErrorStatus AcDbDatabase::wblock(AcDbDatabase*& pOutput, const AcDbObjectIdArray& objectIds,
                                        const AcGePoint3d& basePoint) {
+    pOutput = nullptr;
+    if (m_mapStubs.empty()) return Acad::eNoDatabase;
     auto pNew = std::make_unique<AcDbDatabase>();
     AcDbIdMapping mapping;
     CCloner cloner(*this, *pNew, mapping, AcDb::kDrcReplace);
@@ -167,7 +162,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
                                        bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this || !blockName || !*blockName) return Acad::eInvalidInput;
-    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
+    if (m_mapStubs.empty() || pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     if (LeadsTo(blockName, *pSource, *this)) return Acad::eSelfReference;
     const Acad::ErrorStatus prepared = EmptyBlock(*this, blockName, pSource->insbase(), idBlock);
     if (prepared != Acad::eOk) return prepared;
@@ -181,7 +176,7 @@ Acad::ErrorStatus AcDbDatabase::insert(AcDbObjectId& idBlock, const ACHAR* block
 Acad::ErrorStatus AcDbDatabase::insert(const AcGeMatrix3d& xform, AcDbDatabase* pSource, bool) {
     if (!pSource) return Acad::eNullObjectPointer;
     if (pSource == this) return Acad::eInvalidInput;
-    if (pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
+    if (m_mapStubs.empty() || pSource->m_mapStubs.empty()) return Acad::eNoDatabase;
     AcDbIdMapping mapping;
     CCloner cloner(*pSource, *this, mapping, AcDb::kDrcIgnore);
     CloneStyles(*pSource, cloner);

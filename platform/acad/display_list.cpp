@@ -1,6 +1,7 @@
 #include "platform/acad/display_list.h"
 
 #include "platform/acad/bulge_arc.h"
+#include "platform/acad/spline_curve.h"
 #include "platform/acad/text_box.h"
 
 #include <algorithm>
@@ -22,12 +23,12 @@ void AddStraight(AcDbExtents& box, const CPolylineVertex& from, const CPolylineV
 
 /// Both edges of the band at a place (0 to 1) of the arc.
 void AddBandAt(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& from, double place) {
-    const double angle = arc.m_dStart + arc.m_dSweep * place;
     const double start = HalfWidth(from.m_dStartWidth), end = HalfWidth(from.m_dEndWidth);
     const double half = start + (end - start) * place;
-    for (const double radius : {arc.m_dRadius - half, arc.m_dRadius + half})
-        box.addPoint(
-            {arc.m_ptCenter.x + radius * std::cos(angle), arc.m_ptCenter.y + radius * std::sin(angle), 0.0});
+    for (const double outside : {-half, half}) {
+        const AcGePoint2d edge = arc.At(place, outside);
+        box.addPoint({edge.x, edge.y, 0.0});
+    }
 }
 
 void AddBulged(AcDbExtents& box, const CBulgeArc& arc, const CPolylineVertex& from) {
@@ -48,11 +49,11 @@ void Add(AcDbExtents& box, const CPolylinePrimitive& shape) {
 }
 
 void Add(AcDbExtents& box, const CPlinePrimitive& shape) {
-    const std::size_t count = shape.m_arVertices.size();
     for (const CPolylineVertex& vertex : shape.m_arVertices)
         box.addPoint({vertex.m_pt.x, vertex.m_pt.y, 0.0});
-    for (std::size_t i = 0; i < (shape.m_bClosed ? count : std::max<std::size_t>(count, 1) - 1); ++i) {
-        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.m_arVertices[(i + 1) % count];
+    const std::size_t count = shape.SegmentCount();
+    for (std::size_t i = 0; i < count; ++i) {
+        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.NextVertex(i);
         if (const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge)) {
             AddBulged(box, *arc, from);
         } else {
@@ -109,10 +110,18 @@ void Add(AcDbExtents& box, const CSplinePrimitive& shape) {
     }
 }
 
+void AddShape(AcDbExtents& box, const CShape& shape) {
+    std::visit([&box](const auto& kind) { Add(box, kind); }, shape);
+}
+
 } // namespace
 
 double HalfWidth(double width) {
     return width > 0.0 ? width / 2.0 : 0.0;
+}
+
+std::size_t CPlinePrimitive::SegmentCount() const {
+    return m_bClosed || m_arVertices.empty() ? m_arVertices.size() : m_arVertices.size() - 1;
 }
 
 CArcFrame::CArcFrame(const CArcPrimitive& arc)
@@ -128,9 +137,15 @@ std::vector<CBezier> CSplinePrimitive::Pieces() const {
     return m_arFitPoints.empty() ? PiecesOf(m_nurbs) : NaturalSpline(m_arFitPoints);
 }
 
+AcDbExtents ExtentsOfShape(const CShape& shape) {
+    AcDbExtents box;
+    AddShape(box, shape);
+    return box;
+}
+
 AcDbExtents ExtentsOf(const CDisplayList& list) {
     AcDbExtents box;
     for (const CPrimitive& primitive : list)
-        std::visit([&box](const auto& shape) { Add(box, shape); }, primitive.m_shape);
+        AddShape(box, primitive.m_shape);
     return box;
 }

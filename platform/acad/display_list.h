@@ -20,9 +20,18 @@ struct CPolylinePrimitive {
     std::vector<AcGePoint3d> m_arPoints;
 };
 
+/// Half of a width; one that is not set or no number draws a thin line.
+double HalfWidth(double width);
+
 struct CPlinePrimitive {
     std::vector<CPolylineVertex> m_arVertices;
     bool m_bClosed = false;
+
+    /// The number of segments; each runs from the vertex of its number to the next one.
+    std::size_t SegmentCount() const;
+    const CPolylineVertex& NextVertex(std::size_t i) const {
+        return m_arVertices[(i + 1) % m_arVertices.size()];
+    }
 };
 
 struct CArcPrimitive {
@@ -60,21 +69,21 @@ struct CSplinePrimitive {
     std::vector<CBezier> Pieces() const; ///< the curve as it is painted
 };
 
+using CShape =
+    std::variant<CPolylinePrimitive, CPlinePrimitive, CArcPrimitive, CTextPrimitive, CSplinePrimitive>;
+
 struct CPrimitive {
     Adesk::UInt16 m_nColor = 256;
     std::string m_strLinetype = "ByLayer"; ///< empty for a null line type
     Adesk::GsMarker m_nMarker = 0;
-    std::variant<CPolylinePrimitive, CPlinePrimitive, CArcPrimitive, CTextPrimitive, CSplinePrimitive>
-        m_shape;
+    CShape m_shape;
 };
 
 using CDisplayList = std::vector<CPrimitive>;
 
-/// Half of a line's width; 0, a thin line, for one that is not set or no number.
-double HalfWidth(double width);
-
 /// The box of all primitives; line widths count, coordinates that are no finite number don't.
 AcDbExtents ExtentsOf(const CDisplayList& list);
+AcDbExtents ExtentsOfShape(const CShape& shape); ///< of one alone
 
 /// True when the picture passes within distance (drawing units) of the point, seen from above. A wide line
 /// fills its width, a text its rectangle.

@@ -33,10 +33,7 @@ struct CPick {
 
 private:
     bool NearEnd(const CBulgeArc& arc, double place, double half) const {
-        const double angle = arc.m_dStart + arc.m_dSweep * place;
-        const AcGePoint2d end(arc.m_ptCenter.x + arc.m_dRadius * std::cos(angle),
-                              arc.m_ptCenter.y + arc.m_dRadius * std::sin(angle));
-        return m_pt.distanceTo(end) <= m_dDistance + half;
+        return m_pt.distanceTo(arc.At(place)) <= m_dDistance + half;
     }
 };
 
@@ -53,10 +50,11 @@ bool IsNear(const CPick& pick, const Shape& shape) {
 
 /// Here widths count, and arcs are taken as what they are.
 bool IsNear(const CPick& pick, const CPlinePrimitive& shape) {
-    const std::size_t count = shape.m_arVertices.size();
-    if (count == 1) return pick.Near(shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt);
-    for (std::size_t i = 0; i < (shape.m_bClosed ? count : std::max<std::size_t>(count, 1) - 1); ++i) {
-        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.m_arVertices[(i + 1) % count];
+    if (shape.m_arVertices.size() == 1)
+        return pick.Near(shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt);
+    const std::size_t count = shape.SegmentCount();
+    for (std::size_t i = 0; i < count; ++i) {
+        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.NextVertex(i);
         const double start = HalfWidth(from.m_dStartWidth), end = HalfWidth(from.m_dEndWidth);
         const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge);
         if (arc ? pick.NearArc(*arc, start, end) : pick.Near(from.m_pt, to.m_pt, start, end)) return true;

@@ -13,7 +13,7 @@ CDisplayRecorder::CDisplayRecorder(const AcDbEntity& entity, bool bDragging)
     m_traits.m_strLinetype = entity.LinetypeName();
 }
 
-Adesk::Boolean CDisplayRecorder::Add(decltype(CPrimitive::m_shape) shape) {
+Adesk::Boolean CDisplayRecorder::Add(CShape shape) {
     CPrimitive& primitive = m_list.emplace_back();
     primitive.m_nColor = m_traits.m_nColor;
     primitive.m_strLinetype = m_traits.m_strLinetype;

@@ -30,7 +30,7 @@ private:
     void setLineType(AcDbObjectId idLinetype) override;
     void setSelectionMarker(Adesk::GsMarker marker) override { m_traits.m_nMarker = marker; }
     Adesk::UInt16 color() const override { return m_traits.m_nColor; }
-    Adesk::Boolean Add(decltype(CPrimitive::m_shape) shape);
+    Adesk::Boolean Add(CShape shape);
 
     bool m_bDragging;
     CPrimitive m_traits; // its shape is never looked at

@@ -36,21 +36,18 @@ std::vector<CSegment> Segments(const CPolylinePrimitive& shape) {
 std::vector<CSegment> Segments(const CPlinePrimitive& shape) {
     constexpr int steps = 64;
     std::vector<CSegment> segments;
-    const std::size_t count = shape.m_arVertices.size();
-    if (count == 1) segments.push_back({shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt});
-    for (std::size_t i = 0; i < (shape.m_bClosed ? count : std::max<std::size_t>(count, 1) - 1); ++i) {
-        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.m_arVertices[(i + 1) % count];
+    if (shape.m_arVertices.size() == 1)
+        segments.push_back({shape.m_arVertices[0].m_pt, shape.m_arVertices[0].m_pt});
+    const std::size_t count = shape.SegmentCount();
+    for (std::size_t i = 0; i < count; ++i) {
+        const CPolylineVertex &from = shape.m_arVertices[i], &to = shape.NextVertex(i);
         const auto arc = ArcOfBulge(from.m_pt, to.m_pt, from.m_dBulge);
-        if (!arc) {
+        if (arc) {
+            AppendChords(
+                steps, [&arc](double place) { return arc->At(place); }, &segments);
+        } else {
             segments.push_back({from.m_pt, to.m_pt});
-            continue;
         }
-        const auto at = [&arc](double place) -> AcGePoint2d {
-            const double angle = arc->m_dStart + arc->m_dSweep * place;
-            return {arc->m_ptCenter.x + arc->m_dRadius * std::cos(angle),
-                    arc->m_ptCenter.y + arc->m_dRadius * std::sin(angle)};
-        };
-        AppendChords(steps, at, &segments);
     }
     return segments;
 }

@@ -6,8 +6,6 @@
 
 namespace {
 
-using CShape = decltype(CPrimitive::m_shape);
-
 constexpr int g_nChordsOfTurn = 128;
 constexpr double g_dTurn = 2.0 * std::numbers::pi;
 
@@ -42,10 +40,7 @@ CPlinePrimitive Straightened(const CPlinePrimitive& shape) {
         straight.m_arVertices.push_back(Piece(from, from.m_pt, 0.0, 1.0 / chords));
         for (int chord = 1; chord < chords; ++chord) {
             const double place = static_cast<double>(chord) / chords;
-            const double angle = arc->m_dStart + arc->m_dSweep * place;
-            const AcGePoint2d at(arc->m_ptCenter.x + arc->m_dRadius * std::cos(angle),
-                                 arc->m_ptCenter.y + arc->m_dRadius * std::sin(angle));
-            straight.m_arVertices.push_back(Piece(from, at, place, place + 1.0 / chords));
+            straight.m_arVertices.push_back(Piece(from, arc->At(place), place, place + 1.0 / chords));
         }
     }
     return straight;

@@ -3,18 +3,12 @@
 #include "platform/acad/ap_document_manager.h"
 #include "platform/acad/editor.h"
 #include "platform/acad/host_application.h"
+#include "platform/ado/number_text.h"
 #include "platform/windows/code_page.h"
 
-#include <charconv>
 #include <cstdarg>
 
 namespace {
-
-template <class T>
-std::string NumberText(T value) {
-    char text[32];
-    return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
 
 std::string AnswerText(const resbuf& buffer) {
     const ads_u_val& value = buffer.resval;
@@ -22,14 +16,14 @@ std::string AnswerText(const resbuf& buffer) {
     case CResbufKind::Text:
         return GbkFromWide(value.rstring ? value.rstring : L"");
     case CResbufKind::Real:
-        return NumberText(value.rreal);
+        return ShortestText(value.rreal);
     case CResbufKind::Point:
-        return NumberText(value.rpoint[0]) + "," + NumberText(value.rpoint[1]) + "," +
-               NumberText(value.rpoint[2]);
+        return ShortestText(value.rpoint[0]) + "," + ShortestText(value.rpoint[1]) + "," +
+               ShortestText(value.rpoint[2]);
     case CResbufKind::Short:
-        return NumberText(value.rint);
+        return ShortestText(value.rint);
     case CResbufKind::Long:
-        return NumberText(value.rlong);
+        return ShortestText(value.rlong);
     case CResbufKind::None:
         break;
     }

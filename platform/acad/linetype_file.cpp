@@ -12,23 +12,11 @@
 
 namespace {
 
-/// Where an encoding is told from the bytes, UTF-8 is trusted only when each character beyond ASCII takes
-/// three bytes or more: two-byte forms are common GBK pairs.
-bool IsUtf8(std::string_view bytes) {
-    std::size_t position = 0;
-    while (position < bytes.size()) {
-        char32_t character = 0;
-        if (!NextUtf8(bytes, &position, &character)) return false;
-        if (character > 0x7F && character < 0x800) return false;
-    }
-    return true;
-}
-
 std::wstring DecodeText(std::string_view bytes) {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
     const bool bMarked = bytes.substr(0, mark.size()) == mark;
     if (bMarked) bytes.remove_prefix(mark.size());
-    if (!bMarked && !IsUtf8(bytes)) return WideFromGbk(bytes);
+    if (!bMarked && !LooksLikeUtf8(bytes)) return WideFromGbk(bytes);
     std::wstring text;
     for (std::size_t position = 0; position < bytes.size();) {
         char32_t character = 0xFFFD;

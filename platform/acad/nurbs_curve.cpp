@@ -1,5 +1,7 @@
 #include "platform/acad/nurbs_curve.h"
 
+#include "platform/acad/spline_curve.h"
+
 #include <algorithm>
 
 namespace {
@@ -61,12 +63,6 @@ void AppendChords(const CNurbs& nurbs, std::size_t span, std::vector<CBezier>& p
     }
 }
 
-bool IsFinite(const CBezier& piece) {
-    return std::all_of(piece.m_arPoints.begin(), piece.m_arPoints.end(), [](const AcGePoint2d& point) {
-        return std::isfinite(point.x) && std::isfinite(point.y);
-    });
-}
-
 } // namespace
 
 bool CNurbs::IsCurve() const {
@@ -117,5 +113,6 @@ std::vector<CBezier> PiecesOf(const CNurbs& nurbs) {
             AppendChords(nurbs, span, pieces);
         }
     }
-    return std::all_of(pieces.begin(), pieces.end(), IsFinite) ? pieces : std::vector<CBezier>();
+    const bool bFinite = std::ranges::all_of(pieces, &CBezier::IsFinite);
+    return bFinite ? pieces : std::vector<CBezier>();
 }

@@ -1,7 +1,9 @@
 #pragma once
 // B-spline curves by control points and knots (C. de Boor, A Practical Guide to Splines, ch. IX).
 
-#include "platform/acad/spline_curve.h"
+#include "platform/acad/bezier.h"
+
+#include <vector>
 
 /// A B-spline. It is one when the knots never fall and there are as many as control points plus degree plus
 /// one, and the weights, where there are any, are above 0 and one for each control point.

@@ -9,31 +9,71 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <unordered_set>
 
 namespace {
 
 using CIds = std::vector<AcDbObjectId>;
 
-struct CSelectionSet {
-    const AcDbDatabase* m_pDrawing;
+/// Entities of a drawing, each once, in the order they came.
+class CSelectionSet {
+public:
+    CSelectionSet() = default;
+    CSelectionSet(const AcDbDatabase& drawing, CIds ids)
+        : m_pDrawing(&drawing)
+        , m_arIds(std::move(ids)) {}
+
+    const AcDbDatabase* Drawing() const { return m_pDrawing; }
+    const CIds& Ids() const { return m_arIds; }
+    bool Has(AcDbObjectId id) { return Members().contains(id.Stub()); }
+    void Add(AcDbObjectId id) {
+        if (Members().insert(id.Stub()).second) m_arIds.push_back(id);
+    }
+    bool Remove(AcDbObjectId id) { return Members().erase(id.Stub()) && std::erase(m_arIds, id); }
+
+private:
+    using CMembers = std::unordered_set<const CDbStub*>;
+
+    /// Made when first asked for: most sets are only walked.
+    CMembers& Members() {
+        if (!m_members) {
+            m_members.emplace();
+            for (const AcDbObjectId& id : m_arIds)
+                m_members->insert(id.Stub());
+        }
+        return *m_members;
+    }
+
+    const AcDbDatabase* m_pDrawing = nullptr;
     CIds m_arIds;
+    std::optional<CMembers> m_members;
 };
 
 constexpr std::intptr_t g_nSetMark = 1; // second part of a set's name
 
-std::map<std::intptr_t, CSelectionSet> g_mapSets;
-std::intptr_t g_nLastSet = 0;
-std::map<const AcDbDatabase*, CIds> g_mapPrevious;
+/// The sets made and not yet released, and what was selected before in each drawing.
+struct CSelections {
+    std::map<std::intptr_t, CSelectionSet> m_mapSets;
+    std::intptr_t m_nLastSet = 0;
+    std::map<const AcDbDatabase*, CIds> m_mapPrevious;
+};
+
+CSelections& Selections() {
+    static auto* const pSelections = new CSelections; // a static drawing may outlive any other
+    return *pSelections;
+}
 
 CSelectionSet* Find(const ads_name ss) {
     if (!ss || ss[1] != g_nSetMark) return nullptr;
-    const auto found = g_mapSets.find(ss[0]);
-    return found == g_mapSets.end() ? nullptr : &found->second;
+    std::map<std::intptr_t, CSelectionSet>& sets = Selections().m_mapSets;
+    const auto found = sets.find(ss[0]);
+    return found == sets.end() ? nullptr : &found->second;
 }
 
 void NewSet(const AcDbDatabase& drawing, CIds ids, ads_name ss) {
-    g_mapSets[++g_nLastSet] = {&drawing, std::move(ids)};
-    ss[0] = g_nLastSet;
+    CSelections& selections = Selections();
+    selections.m_mapSets[++selections.m_nLastSet] = CSelectionSet(drawing, std::move(ids));
+    ss[0] = selections.m_nLastSet;
     ss[1] = g_nSetMark;
 }
 
@@ -41,10 +81,6 @@ void PutName(AcDbObjectId id, ads_name name) {
     ads_name made = {};
     acdbGetAdsName(made, id);
     std::copy_n(made, 2, name);
-}
-
-void AddOnce(AcDbObjectId id, CIds& ids) {
-    if (std::find(ids.begin(), ids.end(), id) == ids.end()) ids.push_back(id);
 }
 
 bool IsBefore(const AcDbObjectId& a, const AcDbObjectId& b) {
@@ -68,7 +104,7 @@ CIds EntitiesOf(AcDbObjectId idBlock) {
 CIds ModelAndPaperSpace(const AcDbDatabase& drawing) {
     CIds ids = EntitiesOf(drawing.ModelSpaceId());
     const auto* const pBlocks = PeekObject<AcDbBlockTable>(drawing.blockTableId());
-    const CIds paper = EntitiesOf(pBlocks->Find(ACDB_PAPER_SPACE));
+    const CIds paper = pBlocks ? EntitiesOf(pBlocks->Find(ACDB_PAPER_SPACE)) : CIds();
     ids.insert(ids.end(), paper.begin(), paper.end());
     return ids;
 }
@@ -78,7 +114,7 @@ CIds LastOf(const CIds& ids) {
 }
 
 CIds Previous(const AcDbDatabase& drawing) {
-    CIds ids = g_mapPrevious[&drawing];
+    CIds ids = Selections().m_mapPrevious[&drawing];
     std::erase_if(ids, [](const AcDbObjectId& id) { return id.isErased(); });
     return ids;
 }
@@ -153,29 +189,29 @@ int acedSSGet(const ACHAR* mode, const void* pt1, const void* pt2, const resbuf*
         return !PassesFilter(*PeekObject<AcDbEntity>(id), pFilter);
     });
     if (ids->empty()) return RTERROR;
-    if (strMode != L"X") g_mapPrevious[pDrawing] = *ids;
+    if (strMode != L"X") Selections().m_mapPrevious[pDrawing] = *ids;
     NewSet(*pDrawing, std::move(*ids), ss);
     return RTNORM;
 }
 
 int acedSSFree(const ads_name ss) {
     if (!Find(ss)) return RTERROR;
-    g_mapSets.erase(ss[0]);
+    Selections().m_mapSets.erase(ss[0]);
     return RTNORM;
 }
 
 int acedSSLength(const ads_name ss, Adesk::Int32* pLength) {
     const CSelectionSet* const pSet = Find(ss);
     if (!pSet || !pLength) return RTERROR;
-    *pLength = static_cast<Adesk::Int32>(pSet->m_arIds.size());
+    *pLength = static_cast<Adesk::Int32>(pSet->Ids().size());
     return RTNORM;
 }
 
 int acedSSName(const ads_name ss, Adesk::Int32 index, ads_name entity) {
     const CSelectionSet* const pSet = Find(ss);
-    if (!pSet || !entity || index < 0 || static_cast<std::size_t>(index) >= pSet->m_arIds.size())
+    if (!pSet || !entity || index < 0 || static_cast<std::size_t>(index) >= pSet->Ids().size())
         return RTERROR;
-    PutName(pSet->m_arIds[static_cast<std::size_t>(index)], entity);
+    PutName(pSet->Ids()[static_cast<std::size_t>(index)], entity);
     return RTNORM;
 }
 
@@ -189,26 +225,27 @@ int acedSSAdd(const ads_name entity, const ads_name ss, ads_name result) {
     } else {
         NewSet(*pDrawing, {}, result);
     }
-    if (entity) AddOnce(id, Find(result)->m_arIds);
+    if (entity) Find(result)->Add(id);
     return RTNORM;
 }
 
 int acedSSDel(const ads_name entity, const ads_name ss) {
-    if (acedSSMemb(entity, ss) != RTNORM) return RTERROR;
+    CSelectionSet* const pSet = Find(ss);
     AcDbObjectId id;
-    acdbGetObjectId(id, entity);
-    std::erase(Find(ss)->m_arIds, id);
-    return RTNORM;
+    if (!pSet || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
+    return pSet->Remove(id) ? RTNORM : RTERROR;
 }
 
 int acedSSMemb(const ads_name entity, const ads_name ss) {
-    const CSelectionSet* const pSet = Find(ss);
+    CSelectionSet* const pSet = Find(ss);
     AcDbObjectId id;
     if (!pSet || !entity || acdbGetObjectId(id, entity) != Acad::eOk) return RTERROR;
-    return std::count(pSet->m_arIds.begin(), pSet->m_arIds.end(), id) ? RTNORM : RTERROR;
+    return pSet->Has(id) ? RTNORM : RTERROR;
 }
 
 void ForgetSelections(const AcDbDatabase& drawing) {
-    std::erase_if(g_mapSets, [&drawing](const auto& set) { return set.second.m_pDrawing == &drawing; });
-    g_mapPrevious.erase(&drawing);
+    CSelections& selections = Selections();
+    std::erase_if(selections.m_mapSets,
+                  [&drawing](const auto& set) { return set.second.Drawing() == &drawing; });
+    selections.m_mapPrevious.erase(&drawing);
 }

@@ -29,5 +29,5 @@ int acedSSAdd(const ads_name entity, const ads_name ss, ads_name result);
 int acedSSDel(const ads_name entity, const ads_name ss);  ///< RTERROR when it is no member
 int acedSSMemb(const ads_name entity, const ads_name ss); ///< RTNORM when it is a member
 
-/// For a document that closes: the sets of its drawing go with it.
+/// For a drawing that goes: its sets go with it.
 void ForgetSelections(const AcDbDatabase& drawing);

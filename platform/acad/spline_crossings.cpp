@@ -3,6 +3,8 @@
 // cannot be told apart down to the smallest part is a contact along a tangent (or a common stretch); there
 // the sides decide on which the curves come and go.
 
+#include "platform/acad/spline_crossings.h"
+
 #include "platform/acad/bezier_chain.h"
 
 #include <algorithm>
@@ -351,17 +353,11 @@ std::vector<CBezier> Moved(std::vector<CBezier> pieces, const AcGePoint2d& origi
     return pieces;
 }
 
-bool IsFinite(const std::vector<CBezier>& pieces) {
-    for (const CBezier& piece : pieces)
-        for (const AcGePoint2d& point : piece.m_arPoints)
-            if (!std::isfinite(point.x) || !std::isfinite(point.y)) return false;
-    return true;
-}
-
 } // namespace
 
 std::vector<AcGePoint2d> Crossings(const std::vector<CBezier>& a, const std::vector<CBezier>& b) {
-    if (a.empty() || b.empty() || !IsFinite(a) || !IsFinite(b)) return {};
+    if (a.empty() || b.empty()) return {};
+    if (!std::ranges::all_of(a, &CBezier::IsFinite) || !std::ranges::all_of(b, &CBezier::IsFinite)) return {};
     const CBezierChain original(a);
     const CFlatBox boxA = original.Box(), boxB = CBezierChain(b).Box();
     const AcGePoint2d origin((boxA.m_dMinX + boxA.m_dMaxX) / 2.0, (boxA.m_dMinY + boxA.m_dMaxY) / 2.0);

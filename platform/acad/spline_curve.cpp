@@ -1,10 +1,8 @@
 #include "platform/acad/spline_curve.h"
 
-namespace {
+#include <array>
 
-bool IsFinite(const AcGePoint2d& point) {
-    return std::isfinite(point.x) && std::isfinite(point.y);
-}
+namespace {
 
 /// The points that differ from the one before them; nothing when a number is not finite.
 std::vector<AcGePoint2d> DifferentNeighbours(const std::vector<AcGePoint3d>& points) {
@@ -46,21 +44,6 @@ std::array<double, 2> InnerValues(double from, double to, double secondFrom, dou
 
 } // namespace
 
-AcGePoint2d CBezier::At(double t) const {
-    const double u = 1.0 - t;
-    const double b0 = u * u * u, b1 = 3.0 * u * u * t, b2 = 3.0 * u * t * t, b3 = t * t * t;
-    const auto& p = m_arPoints;
-    return {b0 * p[0].x + b1 * p[1].x + b2 * p[2].x + b3 * p[3].x,
-            b0 * p[0].y + b1 * p[1].y + b2 * p[2].y + b3 * p[3].y};
-}
-
-AcGeVector2d CBezier::SlopeAt(double t) const {
-    const double u = 1.0 - t, b0 = 3.0 * u * u, b1 = 6.0 * u * t, b2 = 3.0 * t * t;
-    const auto& p = m_arPoints;
-    return {b0 * (p[1].x - p[0].x) + b1 * (p[2].x - p[1].x) + b2 * (p[3].x - p[2].x),
-            b0 * (p[1].y - p[0].y) + b1 * (p[2].y - p[1].y) + b2 * (p[3].y - p[2].y)};
-}
-
 std::vector<CBezier> NaturalSpline(const std::vector<AcGePoint3d>& points) {
     const std::vector<AcGePoint2d> knots = DifferentNeighbours(points);
     if (knots.size() < 2) return {};
@@ -77,7 +60,7 @@ std::vector<CBezier> NaturalSpline(const std::vector<AcGePoint3d>& points) {
         const auto x = InnerValues(xs[i], xs[i + 1], xSecond[i], xSecond[i + 1], h[i]);
         const auto y = InnerValues(ys[i], ys[i + 1], ySecond[i], ySecond[i + 1], h[i]);
         pieces.push_back({{knots[i], AcGePoint2d(x[0], y[0]), AcGePoint2d(x[1], y[1]), knots[i + 1]}});
-        if (!IsFinite(pieces.back().m_arPoints[1]) || !IsFinite(pieces.back().m_arPoints[2])) return {};
+        if (!pieces.back().IsFinite()) return {};
     }
     return pieces;
 }

@@ -15,19 +15,13 @@ CTableKeeper::CTableKeeper(AcDbDatabase& drawing)
     : m_drawing(drawing)
     , m_bModified(drawing.IsModified())
     , m_bRecording(drawing.UndoLog().IsRecording())
-    , m_dLtscale(drawing.ltscale())
-    , m_idCeltype(drawing.celtype())
-    , m_idClayer(drawing.clayer())
-    , m_idTextstyle(drawing.textstyle()) {
+    , m_variables(drawing.Variables()) {
     m_drawing.UndoLog().SetRecording(false);
     KeepTables();
 }
 
 CTableKeeper::~CTableKeeper() {
-    m_drawing.setLtscale(m_dLtscale);
-    m_drawing.setCeltype(m_idCeltype);
-    m_drawing.setClayer(m_idClayer);
-    m_drawing.setTextstyle(m_idTextstyle);
+    m_drawing.SetVariables(m_variables);
     for (const CStyle& style : m_arStyles)
         PutBack(style);
     for (const CLinetype& linetype : m_arLinetypes)

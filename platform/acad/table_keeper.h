@@ -41,8 +41,7 @@ private:
 
     AcDbDatabase& m_drawing;
     bool m_bModified, m_bRecording;
-    double m_dLtscale;
-    AcDbObjectId m_idCeltype, m_idClayer, m_idTextstyle;
+    CDbVariables m_variables;
     std::set<AcDbHandle> m_setRecords; // of all tables
     std::vector<CStyle> m_arStyles;
     std::vector<CLinetype> m_arLinetypes;

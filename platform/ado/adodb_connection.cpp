@@ -15,8 +15,7 @@ namespace {
 std::string WithKey(const std::string& strText, const char* pszKey, const std::wstring& strValue) {
     const std::string strGbk = GbkOrRaise(strValue);
     if (strGbk.empty() || !CConnectionText(strText).Value(pszKey).empty()) return strText;
-    const bool bQuoted = strGbk.find_first_of(";{}= ") != std::string::npos;
-    return strText + ";" + pszKey + "=" + (bQuoted ? "{" + strGbk + "}" : strGbk);
+    return strText + ";" + ConnectionPair(pszKey, strGbk);
 }
 
 } // namespace

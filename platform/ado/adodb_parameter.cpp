@@ -4,7 +4,7 @@
 
 #include "platform/ado/com_error.h"
 #include "platform/ado/data_type.h"
-#include "platform/ado/text.h"
+#include "platform/ado/gbk_name.h"
 #include "platform/ado/variant_value.h"
 #include "platform/windows/code_page.h"
 
@@ -27,7 +27,7 @@ void Parameters::Append(const ParameterPtr& pParameter) {
 ParameterPtr Parameters::GetItem(const std::wstring& strName) const {
     const std::string strGbk = GbkFromWide(strName);
     for (const ParameterPtr& pParameter : m_arParameters)
-        if (EqualNoCase(GbkFromWide(pParameter->GetName()), strGbk)) return pParameter;
+        if (SameGbkName(GbkFromWide(pParameter->GetName()), strGbk)) return pParameter;
     RaiseAdoError(adErrItemNotFound, "There is no parameter \"" + strGbk + "\".");
 }
 

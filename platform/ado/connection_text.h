@@ -6,8 +6,9 @@
 #include <vector>
 
 /// A connection text `key=value;key=value`, GBK. Keys compare without case, blanks around keys and values do
-/// not count. A value in single or double quotes (or, as drivers want it, braces) may hold semicolons; single
-/// and double quotes are taken off. Of a key given twice the last one counts.
+/// not count. A value in single or double quotes (or, as drivers want it, braces, of which a closing one
+/// inside is doubled) may hold semicolons; single and double quotes are taken off. Of a key given twice the
+/// last one counts.
 class CConnectionText {
 public:
     explicit CConnectionText(std::string_view strText);
@@ -25,3 +26,6 @@ private:
     };
     std::vector<CPair> m_arPairs;
 };
+
+/// `key=value` for a connection text, GBK; the value is in braces where it would be read otherwise without.
+std::string ConnectionPair(std::string_view strKey, std::string_view strValue);

@@ -1,14 +1,13 @@
 #include "platform/ado/cursor.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstring>
 #include <limits>
 
 #include "platform/ado/error.h"
+#include "platform/ado/gbk_name.h"
+#include "platform/ado/number_text.h"
 #include "platform/ado/report.h"
-#include "platform/ado/text.h"
 
 namespace {
 
@@ -33,12 +32,6 @@ bool FitsWhole(DBTYPE wType, std::int64_t nValue) {
     default:
         return false;
     }
-}
-
-template <class Number>
-std::string NumberText(Number value) {
-    std::array<char, 64> szText{};
-    return {szText.data(), std::to_chars(szText.data(), szText.data() + szText.size(), value).ptr};
 }
 
 std::string Hexadecimal(std::span<const unsigned char> arBytes) {
@@ -67,14 +60,14 @@ CDbCell CellOf(const CDbValue& value) {
 
 std::string CellText(const CDbCell& cell) {
     if (const auto* pText = std::get_if<std::string_view>(&cell)) return std::string(*pText);
-    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return NumberText(*pWhole);
-    if (const auto* pReal = std::get_if<double>(&cell)) return NumberText(*pReal);
+    if (const auto* pWhole = std::get_if<std::int64_t>(&cell)) return ShortestText(*pWhole);
+    if (const auto* pReal = std::get_if<double>(&cell)) return ShortestText(*pReal);
     return Hexadecimal(BytesBehind(cell));
 }
 
 std::optional<std::size_t> CDbCursor::FindColumn(std::string_view strName) const {
     for (std::size_t i = 0; i < m_arColumns.size(); ++i)
-        if (EqualNoCase(m_arColumns[i].m_strName, strName)) return i;
+        if (SameGbkName(m_arColumns[i].m_strName, strName)) return i;
     return std::nullopt;
 }
 

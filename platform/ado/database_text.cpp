@@ -58,3 +58,14 @@ std::string QuotedName(std::string_view strName) {
         strQuoted.append(c == '"' ? 2 : 1, c);
     return strQuoted + '"';
 }
+
+std::string InsertStatement(std::string_view strTable, const std::vector<std::string>& arColumns) {
+    std::string strSql = "INSERT INTO " + std::string(strTable);
+    if (arColumns.empty()) return strSql + " DEFAULT VALUES";
+    std::string strPlaces;
+    for (const std::string& strColumn : arColumns) {
+        strSql.append(strPlaces.empty() ? "(" : ",").append(strColumn);
+        strPlaces += strPlaces.empty() ? "?" : ",?";
+    }
+    return strSql + ") VALUES(" + strPlaces + ")";
+}

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Text on its way between the program, GBK, and an engine, UTF-8. The providers share it; strSource is the
 // provider's name, for errors.
@@ -23,3 +24,7 @@ std::string NameFromUtf8(std::string_view strUtf8);
 
 /// A name in double quotes.
 std::string QuotedName(std::string_view strName);
+
+/// The statement that inserts a row with a parameter for each of these columns, names as they are written;
+/// without columns the row has the table's own values.
+std::string InsertStatement(std::string_view strTable, const std::vector<std::string>& arColumns);

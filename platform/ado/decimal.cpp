@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 
 #include "platform/ado/number_text.h"
@@ -92,9 +91,7 @@ std::optional<DECIMAL> DecimalFromText(std::string_view strText) {
 
 std::optional<DECIMAL> DecimalFromNumber(double dValue) {
     if (!std::isfinite(dValue)) return std::nullopt;
-    std::array<char, 64> szText{};
-    const auto result = std::to_chars(szText.data(), szText.data() + szText.size(), dValue);
-    return DecimalFromText({szText.data(), result.ptr});
+    return DecimalFromText(ShortestText(dValue));
 }
 
 std::string DecimalText(const DECIMAL& decimal) {

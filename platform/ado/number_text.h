@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <charconv>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -15,4 +17,11 @@ std::optional<Number> NumberFromText(std::string_view strText) {
     if (strText.empty() || error != std::errc() || pEnd != strText.data() + strText.size())
         return std::nullopt;
     return value;
+}
+
+/// The shortest text that reads back as this very number, e.g. "-12", "1.5e+30".
+template <class Number>
+std::string ShortestText(Number value) {
+    std::array<char, 64> szText{};
+    return {szText.data(), std::to_chars(szText.data(), szText.data() + szText.size(), value).ptr};
 }

@@ -146,14 +146,10 @@ void COdbcCursor::EraseRow(std::size_t nRow) {
 
 void COdbcCursor::AddRow(const std::vector<CDbChange>& arChanges) {
     RequireOneTable();
-    std::string strNames;
-    std::string strPlaces;
-    for (const CDbChange& change : arChanges) {
-        strNames += (strNames.empty() ? "" : ",") + WrittenName(change);
-        strPlaces += strPlaces.empty() ? "?" : ",?";
-    }
-    std::string strSql = "INSERT INTO " + m_select->Target();
-    strSql += arChanges.empty() ? " DEFAULT VALUES" : "(" + strNames + ") VALUES(" + strPlaces + ")";
+    std::vector<std::string> arNames;
+    for (const CDbChange& change : arChanges)
+        arNames.push_back(WrittenName(change));
+    std::string strSql = InsertStatement(m_select->Target(), arNames);
     strSql.append(" RETURNING ").append(m_select->m_strColumns).append(", ");
     COdbcStatement statement(m_pLink);
     statement.Run(strSql.append(m_pLink->Engine().MarkColumns()), Values(arChanges));

@@ -8,7 +8,7 @@
 
 #include "platform/ado/cursor.h"
 #include "platform/ado/odbc_statement.h"
-#include "platform/ado/sql_dialect.h"
+#include "platform/ado/plain_select.h"
 
 /// Rows of a database behind a driver. Where each row is one row of one table, and the engine is one that
 /// tells rows apart (COdbcEngine::MarkColumns), each row's mark is read along, hidden, and a write goes by

@@ -18,10 +18,6 @@ SQLPOINTER Number(std::intptr_t nValue) {
     return reinterpret_cast<SQLPOINTER>(nValue); // NOLINT(performance-no-int-to-ptr)
 }
 
-SQLWCHAR* Wide(std::u16string& strText) {
-    return reinterpret_cast<SQLWCHAR*>(strText.data());
-}
-
 /// The environment that all connections share.
 std::shared_ptr<void> Environment() {
     static const std::shared_ptr<void> s_pEnvironment = [] {
@@ -48,7 +44,7 @@ bool ReadDiagnostic(SQLSMALLINT nHandleType, SQLHANDLE hHandle, SQLSMALLINT nRec
     SQLINTEGER nNative = 0;
     SQLSMALLINT nLength = 0;
     const SQLRETURN nResult =
-        SQLGetDiagRecW(nHandleType, hHandle, nRecord, Wide(strState), &nNative, Wide(strText),
+        SQLGetDiagRecW(nHandleType, hHandle, nRecord, OdbcText(strState), &nNative, OdbcText(strText),
                        static_cast<SQLSMALLINT>(strText.size()), &nLength);
     if (!SQL_SUCCEEDED(nResult)) return false;
     strState.resize(SQL_SQLSTATE_SIZE);
@@ -134,7 +130,7 @@ COdbcLink::COdbcLink(std::string_view strConnection)
 void COdbcLink::Connect(std::string_view strConnection) {
     SQLSetConnectAttrW(m_hConnection, SQL_ATTR_LOGIN_TIMEOUT, Number(g_nLoginTimeout), 0);
     std::u16string strWide = Utf16FromUtf8(strConnection);
-    CheckOdbc(SQLDriverConnectW(m_hConnection, nullptr, Wide(strWide),
+    CheckOdbc(SQLDriverConnectW(m_hConnection, nullptr, OdbcText(strWide),
                                 static_cast<SQLSMALLINT>(strWide.size()), nullptr, 0, nullptr,
                                 SQL_DRIVER_NOPROMPT),
               SQL_HANDLE_DBC, m_hConnection);

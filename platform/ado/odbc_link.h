@@ -9,6 +9,11 @@
 
 #include "platform/ado/odbc_engine.h"
 
+/// A text as a driver takes it, or the room in which it puts one.
+inline SQLWCHAR* OdbcText(std::u16string& strText) {
+    return reinterpret_cast<SQLWCHAR*>(strText.data());
+}
+
 /// Throws the CDbError that a driver's diagnostics on a handle tell of. One line, without the names of the
 /// parts that handed it on.
 [[noreturn]] void ThrowOdbcError(SQLSMALLINT nHandleType, SQLHANDLE hHandle);

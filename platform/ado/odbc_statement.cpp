@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
 #include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
+#include "platform/ado/number_text.h"
 #include "platform/ado/odbc_text.h"
 #include "platform/ado/text.h"
 
@@ -39,10 +39,6 @@ constexpr std::array g_arDriverTypes = {
 
 constexpr std::size_t g_nFirstBuffer = 256; // characters; what is longer is read in several goes
 
-SQLWCHAR* Wide(std::u16string& strText) {
-    return reinterpret_cast<SQLWCHAR*>(strText.data());
-}
-
 /// A driver gives truth values as texts of one character; the name of the type tells them.
 bool IsTruthType(SQLHSTMT hStatement, SQLUSMALLINT nColumn) {
     std::u16string strName(32, u'\0');
@@ -61,19 +57,13 @@ DBTYPE TypeOf(SQLHSTMT hStatement, SQLUSMALLINT nColumn, SQLSMALLINT nType) {
     return bShort && IsTruthType(hStatement, nColumn) ? DBTYPE_BOOL : DBTYPE_BSTR;
 }
 
-template <class Number>
-std::string NumberText(Number value) {
-    std::array<char, 64> szText{};
-    return {szText.data(), std::to_chars(szText.data(), szText.data() + szText.size(), value).ptr};
-}
-
 /// A number as every column takes it: a whole one without exponent, also for columns of whole numbers.
 std::string RealText(double dValue) {
     constexpr double dWholeBelow = 1e15;
     const bool bNegativeZero = dValue == 0.0 && std::signbit(dValue);
     if (std::abs(dValue) < dWholeBelow && dValue == std::trunc(dValue) && !bNegativeZero)
-        return NumberText(static_cast<std::int64_t>(dValue));
-    return NumberText(dValue);
+        return ShortestText(static_cast<std::int64_t>(dValue));
+    return ShortestText(dValue);
 }
 
 } // namespace
@@ -92,13 +82,13 @@ void COdbcStatement::Run(std::string_view strSql, std::span<const CDbValue> arPa
     Bind(arParameters);
     std::u16string strWide = Utf16FromUtf8(strSql);
     const SQLRETURN nResult =
-        SQLExecDirectW(m_hStatement, Wide(strWide), static_cast<SQLINTEGER>(strWide.size()));
+        SQLExecDirectW(m_hStatement, OdbcText(strWide), static_cast<SQLINTEGER>(strWide.size()));
     Note(nResult);
 }
 
 void COdbcStatement::Prepare(std::string_view strSql) {
     std::u16string strWide = Utf16FromUtf8(strSql);
-    Check(SQLPrepareW(m_hStatement, Wide(strWide), static_cast<SQLINTEGER>(strWide.size())));
+    Check(SQLPrepareW(m_hStatement, OdbcText(strWide), static_cast<SQLINTEGER>(strWide.size())));
 }
 
 void COdbcStatement::Run(std::span<const CDbValue> arParameters) {
@@ -136,7 +126,7 @@ void COdbcStatement::BindOne(SQLUSMALLINT nPlace, const CDbValue& value, CParame
         return;
     }
     if (const auto* pWhole = std::get_if<std::int64_t>(&value))
-        parameter.m_strText = Utf16FromUtf8(NumberText(*pWhole));
+        parameter.m_strText = Utf16FromUtf8(ShortestText(*pWhole));
     else if (const auto* pReal = std::get_if<double>(&value))
         parameter.m_strText = Utf16FromUtf8(RealText(*pReal));
     else if (const auto* pText = std::get_if<std::string>(&value))
@@ -166,8 +156,9 @@ std::vector<COdbcColumn> COdbcStatement::Columns() const {
         SQLULEN nSize = 0;
         SQLSMALLINT nDigits = 0;
         SQLSMALLINT nNullable = 0;
-        Check(SQLDescribeColW(m_hStatement, nPlace, Wide(strName), static_cast<SQLSMALLINT>(strName.size()),
-                              &nLength, &nType, &nSize, &nDigits, &nNullable));
+        Check(SQLDescribeColW(m_hStatement, nPlace, OdbcText(strName),
+                              static_cast<SQLSMALLINT>(strName.size()), &nLength, &nType, &nSize, &nDigits,
+                              &nNullable));
         strName.resize(std::min(strName.size() - 1, static_cast<std::size_t>(std::max<int>(nLength, 0))));
         arColumns[i] = {Utf8FromUtf16(strName), TypeOf(m_hStatement, nPlace, nType)};
     }

@@ -1,5 +1,6 @@
 #include "platform/ado/sql_tokens.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/ado/text.h"
@@ -117,6 +118,21 @@ private:
 
 bool CSqlToken::IsWord(std::string_view strWord) const {
     return m_kind == SqlTokenKind::Word && EqualNoCase(m_strText, strWord);
+}
+
+bool IsSqlClauseWord(const CSqlToken& token) {
+    static constexpr std::array<std::string_view, 50> s_arSorted = {
+        "all",      "and",   "as",     "asc",     "between",   "by",      "cross", "delete", "desc",
+        "distinct", "else",  "escape", "except",  "exists",    "from",    "full",  "glob",   "group",
+        "having",   "in",    "inner",  "insert",  "intersect", "into",    "is",    "isnull", "join",
+        "like",     "limit", "match",  "natural", "not",       "notnull", "nulls", "offset", "on",
+        "or",       "order", "outer",  "regexp",  "returning", "select",  "set",   "then",   "union",
+        "update",   "using", "values", "when",    "where"};
+    std::array<char, 9> szLower{}; // as long as the longest
+    if (token.m_kind != SqlTokenKind::Word || token.m_strText.size() > szLower.size()) return false;
+    std::transform(token.m_strText.begin(), token.m_strText.end(), szLower.begin(), LowerAscii);
+    return std::binary_search(s_arSorted.begin(), s_arSorted.end(),
+                              std::string_view(szLower.data(), token.m_strText.size()));
 }
 
 std::vector<CSqlToken> TokenizeSql(std::string_view strSql) {

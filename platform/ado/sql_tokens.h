@@ -31,3 +31,7 @@ struct CSqlToken {
 
 /// Takes a statement, UTF-8, apart. A literal that is never closed reaches to the statement's end.
 std::vector<CSqlToken> TokenizeSql(std::string_view strSql);
+
+/// Whether the token is a word of the language that can be neither a name nor an operand, nor stand inside
+/// one.
+bool IsSqlClauseWord(const CSqlToken& token);

@@ -6,7 +6,7 @@
 
 #include "platform/ado/database_text.h"
 #include "platform/ado/error.h"
-#include "platform/ado/sql_dialect.h"
+#include "platform/ado/plain_select.h"
 #include "platform/ado/text.h"
 
 namespace {
@@ -186,15 +186,10 @@ void CSqliteCursor::EraseRow(std::size_t nRow) {
 
 void CSqliteCursor::AddRow(const std::vector<CDbChange>& arChanges) {
     RequireOneTable();
-    std::string strNames;
-    std::string strPlaces;
-    for (const CDbChange& change : arChanges) {
-        strNames += (strNames.empty() ? "" : ",") + WrittenName(change);
-        strPlaces += strPlaces.empty() ? "?" : ",?";
-    }
-    const std::string strValues =
-        arChanges.empty() ? " DEFAULT VALUES" : "(" + strNames + ") VALUES(" + strPlaces + ")";
-    CSqliteStatement statement(m_pDatabase, "INSERT INTO " + QuotedName(m_strTableUtf8) + strValues);
+    std::vector<std::string> arNames;
+    for (const CDbChange& change : arChanges)
+        arNames.push_back(WrittenName(change));
+    CSqliteStatement statement(m_pDatabase, InsertStatement(QuotedName(m_strTableUtf8), arNames));
     int nPlace = 0;
     for (const CDbChange& change : arChanges)
         statement.Bind(++nPlace, change.m_value);

@@ -17,7 +17,7 @@ constexpr bool IsBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// Equality without regard to the case of ASCII letters.
+/// Equality without regard to the case of ASCII letters: for UTF-8, and where one of the texts is ASCII.
 inline bool EqualNoCase(std::string_view strA, std::string_view strB) {
     return std::equal(strA.begin(), strA.end(), strB.begin(), strB.end(),
                       [](char a, char b) { return LowerAscii(a) == LowerAscii(b); });

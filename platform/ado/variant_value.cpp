@@ -1,7 +1,6 @@
 #include "platform/ado/variant_value.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cwchar>
 #include <limits>
@@ -161,10 +160,8 @@ CDbValue AsItIs(const CVariant& value) {
 }
 
 template <class Number>
-std::wstring ShortestText(Number value) {
-    std::array<char, 64> szText{};
-    const auto result = std::to_chars(szText.data(), szText.data() + szText.size(), value);
-    return {szText.data(), result.ptr};
+std::wstring WideShortestText(Number value) {
+    return WideFromGbk(ShortestText(value));
 }
 
 } // namespace
@@ -222,9 +219,9 @@ CDbValue ValueForColumn(const CVariant& value, DBTYPE wDeclared) {
 std::wstring VariantText(const CVariant& value) {
     switch (value.Type()) {
     case VT_R4:
-        return ShortestText(value.R4());
+        return WideShortestText(value.R4());
     case VT_R8:
-        return ShortestText(value.R8());
+        return WideShortestText(value.R8());
     case VT_DATE:
         return WideFromGbk(DateText(value.R8()));
     case VT_BSTR:
@@ -239,9 +236,9 @@ std::wstring VariantText(const CVariant& value) {
     case VT_NULL:
         return {};
     case VT_ERROR:
-        return L"Error " + ShortestText(value.I4());
+        return L"Error " + WideShortestText(value.I4());
     default:
-        return ShortestText(std::get<std::int64_t>(Number(value)));
+        return WideShortestText(std::get<std::int64_t>(Number(value)));
     }
 }
 

@@ -96,7 +96,8 @@ void AppendFloat(std::string* text, const CConversion& conversion, std::va_list*
 void AppendString(std::string* text, const CConversion& conversion, std::va_list* arguments) {
     if (conversion.m_strLength != "l")
         return AppendPiece(text, conversion.m_strStart + 's', va_arg(*arguments, const char*));
-    const std::string narrow = GbkFromWide(va_arg(*arguments, const wchar_t*));
+    const wchar_t* wide = va_arg(*arguments, const wchar_t*);
+    const std::string narrow = wide ? GbkFromWide(wide) : "(null)"; // as for narrow text
     AppendPiece(text, conversion.m_strStart + 's', narrow.c_str());
 }
 

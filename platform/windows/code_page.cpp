@@ -225,6 +225,16 @@ bool NextUtf8(std::string_view text, std::size_t* position, char32_t* character)
     return true;
 }
 
+bool LooksLikeUtf8(std::string_view bytes) {
+    bool beyondAscii = false;
+    for (std::size_t i = 0; i < bytes.size();) {
+        char32_t character = 0;
+        if (!NextUtf8(bytes, &i, &character) || (character >= 0x80 && character < 0x800)) return false;
+        beyondAscii = beyondAscii || character >= 0x80;
+    }
+    return beyondAscii;
+}
+
 void AppendUtf8(char32_t character, std::string* utf8) {
     const auto put = [utf8](char32_t byte) { utf8->push_back(static_cast<char>(byte)); };
     if (character < 0x80) {

@@ -50,6 +50,10 @@ std::size_t GbkCopy(char* buffer, std::size_t size, std::string_view text);
 /// (overlong forms and surrogates too); *position < text.size().
 bool NextUtf8(std::string_view text, std::size_t* position, char32_t* character);
 
+/// True for text beyond ASCII that is UTF-8 without a character of two bytes: common pairs of the code page
+/// look like those. For files that do not say what they are in.
+bool LooksLikeUtf8(std::string_view bytes);
+
 /// Appends a character in UTF-8.
 void AppendUtf8(char32_t character, std::string* utf8);
 

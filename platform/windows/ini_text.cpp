@@ -23,18 +23,6 @@ std::string_view WithoutQuotes(std::string_view text) {
     return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
-/// True for text beyond ASCII that is UTF-8 with no two-byte character (those are how GBK text comes to look
-/// so).
-bool LooksLikeUtf8(std::string_view bytes) {
-    bool beyondAscii = false;
-    for (std::size_t i = 0; i < bytes.size();) {
-        char32_t character = 0;
-        if (!NextUtf8(bytes, &i, &character) || (character >= 0x80 && character < 0x800)) return false;
-        beyondAscii = beyondAscii || character >= 0x80;
-    }
-    return beyondAscii;
-}
-
 /// The part before the first ']' that is no trail byte.
 std::string_view UpToBracket(std::string_view text, bool utf8) {
     for (std::size_t i = 0; i < text.size();) {

@@ -76,7 +76,7 @@ protected:
     PlotTest() { StartHeadlessQt(); }
 };
 
-inline CPrimitive Primitive(decltype(CPrimitive::m_shape) shape, Adesk::UInt16 nColor = 7,
+inline CPrimitive Primitive(CShape shape, Adesk::UInt16 nColor = 7,
                             const std::string& strLinetype = "ByLayer") {
     CPrimitive primitive;
     primitive.m_nColor = nColor;

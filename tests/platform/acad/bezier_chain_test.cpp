@@ -1,5 +1,7 @@
 #include "platform/acad/bezier_chain.h"
 
+#include "platform/acad/spline_curve.h"
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -39,6 +39,16 @@ TEST(ArcOfBulge, IsNoneForStraightDegenerateOrEndlessSegments) {
     EXPECT_FALSE(ArcOfBulge({0, 0}, {4, 0}, 1e-320));
 }
 
+TEST(BulgeArc, RunsFromVertexToVertexThroughItsMiddle) {
+    const auto arc = ArcOfBulge({0, 0}, {4, 0}, 1.0);
+    ASSERT_TRUE(arc);
+    EXPECT_NEAR(arc->At(0.0).distanceTo({0, 0}), 0.0, 1e-12);
+    EXPECT_NEAR(arc->At(0.5).distanceTo({2, -2}), 0.0, 1e-12);
+    EXPECT_NEAR(arc->At(1.0).distanceTo({4, 0}), 0.0, 1e-12);
+    EXPECT_NEAR(arc->At(0.5, 0.5).distanceTo({2, -2.5}), 0.0, 1e-12);
+    EXPECT_NEAR(arc->At(0.5, -0.5).distanceTo({2, -1.5}), 0.0, 1e-12);
+}
+
 TEST(PlaceInSweep, CountsInTheSweepsOwnDirection) {
     EXPECT_NEAR(PlaceInSweep(pi / 2, 0.0, pi).value(), 0.5, 1e-12);
     EXPECT_NEAR(PlaceInSweep(-3 * pi / 2, 0.0, pi).value(), 0.5, 1e-12);

@@ -201,6 +201,17 @@ TEST_F(DbClone, IntoAnotherDrawingReplacesTheRecordsThatAreThereWhenTold) {
     EXPECT_EQ(CDbOpen<AcDbLine>(ids[0])->endPoint(), AcGePoint3d(1, 0, 0));
 }
 
+TEST_F(DbClone, IntoAnotherDrawingLeavesABlockWhoseContentIsInUse) {
+    const AcDbObjectId idNew = AddBlock(m_source, L"B"), idOld = AddBlock(m_target, L"B");
+    AppendTo(idNew, new AcDbLine({0, 0, 0}, {1, 0, 0}));
+    const AcDbObjectId idFirst = AppendTo(idOld, new AcDbLine({0, 0, 0}, {8, 0, 0})),
+                       idSecond = AppendTo(idOld, new AcDbLine({0, 0, 0}, {9, 0, 0}));
+    const CDbOpen<AcDbLine> inUse(idSecond);
+    EXPECT_EQ(Wblock({idNew}, AcDb::kDrcReplace), Acad::eWasOpenForRead);
+    EXPECT_EQ(CDbOpen<AcDbBlockTableRecord>(idOld)->EntityIds(),
+              (std::vector<AcDbObjectId>{idFirst, idSecond}));
+}
+
 TEST_F(DbClone, IntoAnotherDrawingBringsHardReferencesAlongAndLosesSoftOnes) {
     const AcDbObjectId idHard = AddReferring(1.0), idSoft = AddReferring(2.0);
     const AcDbObjectId id = AddReferring(3.0, idHard, idSoft);

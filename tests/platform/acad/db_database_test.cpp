@@ -160,6 +160,22 @@ TEST(AcDbDatabase, GivesTheNextObjectTheHandleThatIsAskedForIfItIsFree) {
     EXPECT_EQ(database.handseed(), AcDbHandle(0x101));
 }
 
+TEST(AcDbDatabase, PassesOverHandlesInUse) {
+    AcDbDatabase database;
+    database.SetHandseed(AcDbHandle(0x101));
+    const AcDbObjectId idLater = Append(database, new AcDbPolyline);
+    database.SetHandseed(AcDbHandle(0x100));
+    const AcDbObjectId idFirst = Append(database, new AcDbPolyline);
+    EXPECT_EQ(database.handseed(), AcDbHandle(0x102));
+    const AcDbObjectId idSecond = Append(database, new AcDbPolyline);
+    EXPECT_EQ(idFirst.handle(), AcDbHandle(0x100));
+    EXPECT_EQ(idLater.handle(), AcDbHandle(0x101));
+    EXPECT_EQ(idSecond.handle(), AcDbHandle(0x102));
+    database.SetHandseed(AcDbHandle(0xF0));
+    EXPECT_EQ(database.SetHandle(idSecond, AcDbHandle(0xFF)), Acad::eOk);
+    EXPECT_EQ(database.handseed(), AcDbHandle(0x102));
+}
+
 TEST(AddObject, RefusesNothingAndWhatHasAnOwner) {
     AcDbDatabase database, other;
     AcDbObjectId id;

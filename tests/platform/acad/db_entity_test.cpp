@@ -58,6 +58,8 @@ TEST(AcDbEntity, TakesThePropertiesOfAnother) {
     EXPECT_EQ(free.setPropertiesFrom(nullptr), Acad::eNullObjectPointer);
     const CDbOpen<AcDbPolyline> foreign(idForeign, AcDb::kForWrite);
     EXPECT_EQ(foreign->setPropertiesFrom(source.Get()), Acad::eWrongDatabase);
+    EXPECT_EQ(foreign->setPropertiesFrom(&free), Acad::eWrongDatabase);
+    EXPECT_EQ(foreign->layerId(), other.clayer());
     EXPECT_EQ(foreign->colorIndex(), 256);
 }
 

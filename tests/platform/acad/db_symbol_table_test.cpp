@@ -81,6 +81,25 @@ TEST(AcDbSymbolTable, FindsARenamedRecordByItsNewNameOnlyUntilThatIsUndone) {
     EXPECT_TRUE(find(L"READINGS").isNull());
 }
 
+TEST(AcDbSymbolTable, LeavesAFormerNameToAnotherRecordAndTakesItBack) {
+    AcDbDatabase database;
+    const AcDbObjectId idTable = database.layerTableId();
+    const AcDbObjectId idFirst = AddRecord<AcDbLayerTable>(idTable, L"A", new AcDbLayerTableRecord);
+    const auto rename = [](AcDbObjectId id, const ACHAR* name) {
+        return CDbOpen<AcDbLayerTableRecord>(id, AcDb::kForWrite)->setName(name);
+    };
+    const auto find = [&](const ACHAR* name) { return CDbOpen<AcDbLayerTable>(idTable)->Find(name); };
+    EXPECT_EQ(rename(idFirst, L"B"), Acad::eOk);
+    const AcDbObjectId idSecond = AddRecord<AcDbLayerTable>(idTable, L"a", new AcDbLayerTableRecord);
+    EXPECT_EQ(find(L"A"), idSecond);
+    EXPECT_EQ(rename(idFirst, L"A"), Acad::eDuplicateKey);
+    EXPECT_EQ(rename(idSecond, L"C"), Acad::eOk);
+    EXPECT_EQ(rename(idFirst, L"A"), Acad::eOk);
+    EXPECT_EQ(find(L"a"), idFirst);
+    EXPECT_EQ(find(L"c"), idSecond);
+    EXPECT_TRUE(find(L"B").isNull());
+}
+
 TEST(AcDbSymbolTable, ForgetsTheNameOfAnErasedRecord) {
     AcDbDatabase database;
     const AcDbObjectId id =

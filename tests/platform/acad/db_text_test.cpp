@@ -95,6 +95,32 @@ TEST(AcDbText, WithoutAStyleHasStandardOfItsOwnOrTheWorkingDrawing) {
     EXPECT_EQ(metrics.m_font.m_strFont, "");
 }
 
+TEST(AcDbText, WithoutAStyleHasStandardInWhateverCaseButNoErasedOne) {
+    CFixedMetrics metrics;
+    AcDbExtents extents;
+    AcDbDatabase database;
+    {
+        CDbOpen<AcDbTextStyleTableRecord> style(database.textstyle(), AcDb::kForWrite);
+        style->setName(L"STANDARD");
+        style->setFileName(L"own.shx");
+    }
+    const AcDbObjectId id = Append(database, new AcDbText({0, 0, 0}, L"A", AcDbObjectId::kNull, 1.0));
+    CDbOpen<AcDbText>(id)->getGeomExtents(extents);
+    EXPECT_EQ(metrics.m_font.m_strFont, "own.shx");
+    CDbOpen<AcDbTextStyleTableRecord>(database.textstyle(), AcDb::kForWrite)->erase();
+    CDbOpen<AcDbText>(id)->getGeomExtents(extents);
+    EXPECT_EQ(metrics.m_font.m_strFont, "");
+}
+
+TEST(AcDbText, IsMeasuredWithoutAFontWhereTheWorkingDrawingHasNoTables) {
+    CFixedMetrics metrics;
+    AcDbExtents extents;
+    AcDbDatabase empty(false);
+    acdbHostApplicationServices()->setWorkingDatabase(&empty);
+    EXPECT_EQ(AcDbText({0, 0, 0}, L"A", AcDbObjectId::kNull, 1.0).getGeomExtents(extents), Acad::eOk);
+    EXPECT_EQ(metrics.m_font.m_strFont, "");
+}
+
 TEST(AcDbText, RefusesNumbersThatAreNone) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     AcDbDatabase database;

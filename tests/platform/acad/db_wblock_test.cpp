@@ -79,10 +79,30 @@ TEST_F(DbWblock, OfABlockGivesADrawingOfItsEntitiesAndItsBasePoint) {
     EXPECT_EQ(Entities(output->ModelSpaceId()).size(), 1U);
     EXPECT_EQ(output->insbase(), AcGePoint3d(4, 5, 0));
     EXPECT_FALSE(HasLayer(*output, L"UNUSED"));
-    pOutput = nullptr;
     EXPECT_EQ(m_source.wblock(pOutput, m_source.clayer()), Acad::eNotThatKindOfClass);
+    EXPECT_EQ(pOutput, nullptr);
+    pOutput = output.get();
     EXPECT_EQ(m_source.wblock(pOutput, m_target.ModelSpaceId()), Acad::eWrongDatabase);
     EXPECT_EQ(pOutput, nullptr);
+}
+
+TEST_F(DbWblock, OfADrawingThatHoldsNothingAtAllGivesNone) {
+    AcDbDatabase empty(false);
+    AcDbDatabase* pOutput = &m_target;
+    EXPECT_EQ(empty.wblock(pOutput), Acad::eNoDatabase);
+    EXPECT_EQ(pOutput, nullptr);
+    pOutput = &m_target;
+    EXPECT_EQ(empty.wblock(pOutput, AcDbObjectIdArray(), {0, 0, 0}), Acad::eNoDatabase);
+    EXPECT_EQ(pOutput, nullptr);
+}
+
+TEST_F(DbWblock, NothingIsInsertedIntoADrawingThatHoldsNothingAtAll) {
+    Append(m_source, new AcDbBlockReference({0, 0, 0}, AddBlock(m_source, L"B")));
+    AcDbDatabase empty(false);
+    EXPECT_EQ(empty.insert(m_idBlock, L"FRAME", &m_source), Acad::eNoDatabase);
+    EXPECT_EQ(empty.insert(AcGeMatrix3d(), &m_source), Acad::eNoDatabase);
+    EXPECT_TRUE(m_idBlock.isNull());
+    EXPECT_TRUE(empty.ObjectIds().empty());
 }
 
 TEST_F(DbWblock, OfSomeEntitiesGivesADrawingOfTheseAndTheBasePoint) {
@@ -146,9 +166,12 @@ TEST_F(DbWblock, InsertGivesABlockThatIsThereAnotherContent) {
 
 TEST_F(DbWblock, InsertLeavesABlockWhoseContentIsInUse) {
     const AcDbObjectId idThere = AddBlock(m_target, L"FRAME");
+    AppendTo(idThere, new AcDbLine({0, 0, 0}, {8, 8, 0}));
     const CDbOpen<AcDbLine> line(AppendTo(idThere, new AcDbLine({0, 0, 0}, {9, 9, 0})));
     EXPECT_EQ(m_target.insert(m_idBlock, L"FRAME", &m_source), Acad::eWasOpenForRead);
-    EXPECT_EQ(Entities(idThere).size(), 1U);
+    EXPECT_EQ(Entities(idThere).size(), 2U);
+    EXPECT_EQ(CDbOpen<AcDbBlockTableRecord>(idThere)->origin(), AcGePoint3d());
+    EXPECT_TRUE(m_idBlock.isNull());
 }
 
 TEST_F(DbWblock, InsertRefusesAContentThatTheBlockIsPartOf) {

@@ -1,5 +1,7 @@
 #include "platform/acad/nurbs_curve.h"
 
+#include "platform/acad/spline_curve.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>

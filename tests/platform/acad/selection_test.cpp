@@ -13,7 +13,6 @@ namespace {
 class Selection : public testing::Test {
 protected:
     Selection() { acdbHostApplicationServices()->setWorkingDatabase(&m_drawing); }
-    ~Selection() override { ForgetSelections(m_drawing); }
 
     AcDbObjectId AddLine(const AcGePoint3d& from, const AcGePoint3d& to) {
         auto* const pLine = new AcDbLine(from, to);
@@ -70,6 +69,15 @@ TEST_F(Selection, XTakesModelAndPaperSpaceInDatabaseOrderAndLeavesErasedOnesOut)
     EXPECT_EQ(Get(L"X"), (CIds{first, second, third}));
     CDbOpen<AcDbEntity>(first, AcDb::kForWrite)->erase();
     EXPECT_EQ(Get(L"X"), (CIds{second, third}));
+}
+
+TEST_F(Selection, OfADrawingWithoutTablesIsEmpty) {
+    AcDbDatabase empty(false);
+    acdbHostApplicationServices()->setWorkingDatabase(&empty);
+    EXPECT_EQ(Get(L"X"), CIds{});
+    EXPECT_EQ(Get(L"L"), CIds{});
+    ads_name name = {};
+    EXPECT_EQ(acdbEntLast(name), RTERROR);
 }
 
 TEST_F(Selection, AnEntityThatIsOpenForWritingIsSelectedTooAndSoIsOneOfAnOpenBlock) {
@@ -176,6 +184,19 @@ TEST_F(Selection, MembersAreAddedOnceFoundAndTakenAway) {
     EXPECT_EQ(Members(ss).size(), 1u);
 }
 
+TEST_F(Selection, ASetOfWhatIsThereTakesMembersOnceAndGivesThemUp) {
+    const AcDbObjectId first = AddLine({0, 0, 0}, {1, 0, 0}), second = AddLine({0, 0, 0}, {2, 0, 0});
+    ads_name name, ss, same;
+    ASSERT_EQ(acedSSGet(L"X", nullptr, nullptr, nullptr, ss), RTNORM);
+    acdbGetAdsName(name, first);
+    EXPECT_EQ(acedSSMemb(name, ss), RTNORM);
+    EXPECT_EQ(acedSSAdd(name, ss, same), RTNORM);
+    EXPECT_EQ(acedSSDel(name, ss), RTNORM);
+    EXPECT_EQ(acedSSMemb(name, ss), RTERROR);
+    EXPECT_EQ(acedSSAdd(name, ss, same), RTNORM);
+    EXPECT_EQ(Members(ss), (CIds{second, first}));
+}
+
 TEST_F(Selection, AReleasedSetAnEntityAndAnIndexOutsideAreRefused) {
     ads_name entity, ss, name;
     acdbGetAdsName(entity, AddLine({0, 0, 0}, {1, 0, 0}));
@@ -200,6 +221,18 @@ TEST_F(Selection, ADrawingTakesItsSetsWithIt) {
     Adesk::Int32 nLength = 0;
     EXPECT_EQ(acedSSLength(ss, &nLength), RTERROR);
     EXPECT_EQ(Get(L"P"), CIds{});
+}
+
+TEST_F(Selection, ADrawingThatIsNoDocumentTakesItsSetsWithItToo) {
+    ads_name ss;
+    {
+        AcDbDatabase beside;
+        acdbHostApplicationServices()->setWorkingDatabase(&beside);
+        Append(beside, new AcDbLine({0, 0, 0}, {1, 0, 0}));
+        ASSERT_EQ(acedSSGet(L"L", nullptr, nullptr, nullptr, ss), RTNORM);
+    }
+    Adesk::Int32 nLength = 0;
+    EXPECT_EQ(acedSSLength(ss, &nLength), RTERROR);
 }
 
 TEST_F(Selection, EntSelGivesNameAndPointOfThePick) {

@@ -1,3 +1,5 @@
+#include "platform/acad/spline_crossings.h"
+
 #include "platform/acad/spline_curve.h"
 
 #include <gtest/gtest.h>

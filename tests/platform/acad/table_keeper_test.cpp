@@ -23,13 +23,16 @@ bool HasStyle(AcDbDatabase& drawing, const ACHAR* szName) {
 TEST(TableKeeper, PutsVariablesBack) {
     AcDbDatabase drawing;
     drawing.setLtscale(3.0);
+    drawing.setInsbase({1, 2, 0});
     const AcDbObjectId idStyle = drawing.textstyle();
     {
         const CTableKeeper keeper(drawing);
         drawing.setLtscale(4.0);
+        drawing.setInsbase({7, 7, 0});
         drawing.setTextstyle(AddStyle(drawing, L"New"));
     }
     EXPECT_EQ(drawing.ltscale(), 3.0);
+    EXPECT_EQ(drawing.insbase(), AcGePoint3d(1, 2, 0));
     EXPECT_EQ(drawing.textstyle(), idStyle);
     EXPECT_TRUE(drawing.celtype().isNull());
     EXPECT_FALSE(HasStyle(drawing, L"New"));

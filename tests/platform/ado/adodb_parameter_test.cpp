@@ -57,6 +57,14 @@ TEST(ParametersObject, FindsByNameWithoutCaseAndByNumber) {
     EXPECT_EQ(parameters.GetItem(0)->GetName(), L"深");
 }
 
+TEST(ParametersObject, TellsNamesApartWhoseSecondBytesDifferAsLettersDoByCase) {
+    Parameters parameters;
+    parameters.Append(Command::CreateParameter(L"笰", adDouble));           // B941
+    const ParameterPtr pSecond = Command::CreateParameter(L"筧", adDouble); // B961
+    parameters.Append(pSecond);
+    EXPECT_EQ(parameters.GetItem(L"筧"), pSecond);
+}
+
 TEST(ParametersObject, RefusesToGiveValuesBack) {
     Parameters parameters;
     parameters.Append(Command::CreateParameter(L"p", adInteger, adParamOutput, 0, CVariant(1)));

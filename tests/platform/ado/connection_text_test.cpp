@@ -37,3 +37,32 @@ TEST(ConnectionText, IgnoresEmptyPairsAndTakesAKeyWithoutValueAsEmpty) {
     EXPECT_EQ(text.Value("Data Source"), "");
     EXPECT_EQ(text.Without("x"), "Trusted;Data Source=");
 }
+
+TEST(ConnectionText, TakesNoSecondByteOfACharacterForAClosingBrace) {
+    const CConnectionText text("Pwd={倉;x};Uid=u"); // 827D
+    EXPECT_EQ(text.Value("Pwd"), "{倉;x}");
+    EXPECT_EQ(text.Value("Uid"), "u");
+}
+
+TEST(ConnectionText, TakesADoubledClosingBraceForPartOfTheValue) {
+    const CConnectionText text("Pwd={a}};b};Uid=u");
+    EXPECT_EQ(text.Value("Pwd"), "{a}};b}");
+    EXPECT_EQ(text.Value("Uid"), "u");
+}
+
+TEST(ConnectionPair, PutsAValueInBracesWhereItNeedsThem) {
+    EXPECT_EQ(ConnectionPair("Uid", "sa"), "Uid=sa");
+    EXPECT_EQ(ConnectionPair("Pwd", ""), "Pwd=");
+    EXPECT_EQ(ConnectionPair("Pwd", "a;b"), "Pwd={a;b}");
+    EXPECT_EQ(ConnectionPair("Pwd", "'a"), "Pwd={'a}");
+    EXPECT_EQ(ConnectionPair("Pwd", "a}b"), "Pwd={a}}b}");
+    EXPECT_EQ(ConnectionPair("Pwd", "倉;"), "Pwd={倉;}"); // 827D
+}
+
+TEST(ConnectionPair, IsReadBackAsOnePair) {
+    for (const char* pszValue : {"a;b", "}", "a};b", "倉};", "{x}", "\"a;"}) {
+        const std::string strPair = ConnectionPair("Pwd", pszValue);
+        EXPECT_EQ(CConnectionText(strPair + ";Uid=u").Without("Uid"), strPair);
+        EXPECT_EQ(CConnectionText(strPair + ";Uid=u").Value("Uid"), "u") << strPair;
+    }
+}

@@ -45,3 +45,9 @@ TEST(DatabaseText, DoublesQuotesInANameInQuotes) {
     EXPECT_EQ(QuotedName("a\"b"), "\"a\"\"b\"");
     EXPECT_EQ(QuotedName(""), "\"\"");
 }
+
+TEST(InsertStatement, HasAParameterForEachColumn) {
+    EXPECT_EQ(InsertStatement("\"t\"", {"\"a\"", "b"}), "INSERT INTO \"t\"(\"a\",b) VALUES(?,?)");
+    EXPECT_EQ(InsertStatement("s.t AS u", {"a"}), "INSERT INTO s.t AS u(a) VALUES(?)");
+    EXPECT_EQ(InsertStatement("t", {}), "INSERT INTO t DEFAULT VALUES");
+}

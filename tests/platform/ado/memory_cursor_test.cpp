@@ -13,3 +13,10 @@ TEST(MemoryCursor, KeepsWhatIsWrittenToIt) {
     EXPECT_EQ(rows.CellType(0, 1), DBTYPE_I4);
     EXPECT_NO_THROW(rows.DeleteRow(0));
 }
+
+TEST(MemoryCursor, TellsColumnsApartWhoseSecondBytesDifferAsLettersDoByCase) {
+    const CMemoryCursor rows({{"笰x", DBTYPE_BSTR}, {"筧x", DBTYPE_BSTR}}); // B941 and B961
+    EXPECT_EQ(rows.FindColumn("筧X"), 1U);
+    EXPECT_EQ(rows.FindColumn("笰X"), 0U);
+    EXPECT_FALSE(rows.FindColumn("筧").has_value());
+}

@@ -17,3 +17,12 @@ TEST(NumberFromText, IsNothingForAnyOtherText) {
         EXPECT_FALSE(NumberFromText<std::int64_t>(pszText).has_value()) << pszText;
     EXPECT_FALSE(NumberFromText<double>("1e999").has_value());
 }
+
+TEST(ShortestText, ReadsBackAsTheNumber) {
+    EXPECT_EQ(ShortestText(std::int64_t{-12}), "-12");
+    EXPECT_EQ(ShortestText(1.5), "1.5");
+    EXPECT_EQ(ShortestText(0.1), "0.1");
+    EXPECT_EQ(ShortestText(0.1F), "0.1");
+    EXPECT_EQ(ShortestText(1e30), "1e+30");
+    EXPECT_EQ(NumberFromText<double>(ShortestText(1.0 / 3.0)), 1.0 / 3.0);
+}

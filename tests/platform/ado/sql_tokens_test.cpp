@@ -54,3 +54,10 @@ TEST(SqlTokens, KnowsParameters) {
     EXPECT_EQ(arTokens[0].m_kind, SqlTokenKind::Parameter);
     EXPECT_EQ(arTokens[2].m_kind, SqlTokenKind::Parameter);
 }
+
+TEST(SqlTokens, TellsClauseWordsFromNames) {
+    for (const CSqlToken& token : TokenizeSql("where ORDER Intersect all"))
+        EXPECT_TRUE(IsSqlClauseWord(token)) << token.m_strText;
+    for (const CSqlToken& token : TokenizeSql("left case ZKBH 'where' [where] wherever returnings ="))
+        EXPECT_FALSE(IsSqlClauseWord(token)) << token.m_strText;
+}

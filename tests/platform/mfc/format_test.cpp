@@ -32,6 +32,12 @@ TEST(FormatText, TakesEveryConversion) {
     EXPECT_EQ(FormatText("%p", static_cast<void*>(nullptr)), "(nil)");
 }
 
+TEST(FormatText, NamesATextThatIsNone) {
+    const char* pszNone = nullptr;
+    const wchar_t* pszWideNone = nullptr;
+    EXPECT_EQ(FormatText("%s|%ls", pszNone, pszWideNone), "(null)|(null)");
+}
+
 TEST(FormatText, CountsWidthAndPrecisionOfTextsInBytes) {
     EXPECT_EQ(FormatText("[%6s]", "固结"), "[  固结]");
     EXPECT_EQ(FormatText("[%.4s]", "固结度"), "[固结]");

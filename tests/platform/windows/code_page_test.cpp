@@ -159,3 +159,12 @@ TEST(GbkFromWide, GoesThereAndBack) {
     EXPECT_EQ(WideFromGbk("三轴 φ=12°"), L"三轴 φ=12°");
     EXPECT_EQ(GbkFromWide(L"aßb"), "a?b");
 }
+
+TEST(LooksLikeUtf8, TakesTextBeyondAsciiWithoutCharactersOfTwoBytes) {
+    EXPECT_TRUE(LooksLikeUtf8("a\xE5\x9B\xBA\n")); // 固
+    EXPECT_FALSE(LooksLikeUtf8("plain"));
+    EXPECT_FALSE(LooksLikeUtf8(""));
+    EXPECT_FALSE(LooksLikeUtf8("\xE5\x9B\xBA \xC3\xA9")); // an accented letter, or one GBK character
+    EXPECT_FALSE(LooksLikeUtf8("\xB9\xCC"));              // 固 in the code page
+    EXPECT_FALSE(LooksLikeUtf8("\xE5\x9B"));
+}
