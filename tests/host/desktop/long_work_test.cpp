@@ -16,10 +16,6 @@
 
 namespace {
 
-CDesktopStart NoInstallation() {
-    return {"/nowhere"};
-}
-
 /// Notes how often the status bar was painted, with its word of being busy in full, while a command worked.
 class CBusyWatch final : public QObject {
 public:

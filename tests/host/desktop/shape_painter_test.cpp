@@ -8,7 +8,7 @@
 
 namespace {
 
-QPainterPath Line(const QPointF& from, const QPointF& to) {
+QPainterPath PathTo(const QPointF& from, const QPointF& to) {
     QPainterPath path(from);
     path.lineTo(to);
     return path;
@@ -34,7 +34,7 @@ protected:
     }
     /// Of 80 millimetres.
     void AddLine(const QColor& color, const CDashes& dashes = {}, double dY = 50.5) {
-        m_recorder.StrokePath(Line({10.0, dY}, {90.0, dY}), {color, THIN_LINE, dashes});
+        m_recorder.StrokePath(PathTo({10.0, dY}, {90.0, dY}), {color, THIN_LINE, dashes});
     }
     void AddText(double dEm) {
         CTextRun run;
