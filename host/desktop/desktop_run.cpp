@@ -3,12 +3,12 @@
 #include "host/console/answers.h"
 #include "host/desktop/desktop.h"
 #include "host/desktop_entry.h"
+#include "host/display_probe.h"
 #include "host/interface_font.h"
 #include "host/kept_locale.h"
 
 #include <QtWidgets/QApplication>
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -29,14 +29,12 @@ void StartWindowedQt() {
 
 } // namespace
 
-bool HasDisplay() {
-    constexpr std::array arNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    return std::any_of(arNames.begin(), arNames.end(),
-                       [](const char* szName) { return !qEnvironmentVariableIsEmpty(szName); });
-}
-
-int RunDesktop(const CProgramOptions& options, const std::string& strRootGbk) {
-    StartWindowedQt();
+std::optional<int> RunDesktop(const CProgramOptions& options, const std::string& strRootGbk) {
+    {
+        const CDisplayProbe probe;
+        if (!probe.Found()) return std::nullopt;
+        StartWindowedQt();
+    }
     CDesktop(strRootGbk, CAutosave::UserFolder()).Run(options);
     return EXIT_DONE;
 }

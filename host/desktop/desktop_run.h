@@ -2,9 +2,8 @@
 
 #include "host/console/program_options.h"
 
-/// Whether a window can be shown: a display or a platform of Qt's own is named in the environment.
-bool HasDisplay();
+#include <optional>
 
-/// Opens the window and works until the user quits; the program's exit status. strRootGbk is the
-/// installation's root.
-int RunDesktop(const CProgramOptions& options, const std::string& strRootGbk);
+/// Opens the window and works until the user quits; the program's exit status, or nothing where no window can
+/// be opened. strRootGbk is the installation's root.
+std::optional<int> RunDesktop(const CProgramOptions& options, const std::string& strRootGbk);

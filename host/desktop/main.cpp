@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
         return EXIT_BAD_USAGE;
     }
     if (!options->m_strScript.empty()) return RunScript(*options, strRootGbk);
-    if (HasDisplay()) return RunDesktop(*options, strRootGbk);
+    if (const std::optional<int> status = RunDesktop(*options, strRootGbk)) return *status;
     std::cerr << "tvcad: there is no display for its window; give a script with --script FILE" << std::endl;
     return EXIT_BAD_USAGE;
 }

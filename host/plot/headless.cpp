@@ -1,11 +1,11 @@
 #include "host/plot/headless.h"
 
+#include "host/kept_locale.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtGui/QGuiApplication>
 
 #include <array>
-#include <clocale>
-#include <string>
 
 namespace {
 
@@ -18,9 +18,7 @@ void SwallowRemarks(QtMsgType type, const QMessageLogContext&, const QString& st
 void StartHeadlessQt() {
     if (QCoreApplication::instance()) return;
     qInstallMessageHandler(SwallowRemarks);
-    // Qt takes the user's locale over, with its decimal comma; numbers are read and written with a point
-    // here.
-    const std::string strLocale = std::setlocale(LC_ALL, nullptr);
+    const CKeptLocale locale;
     static int s_nArguments = 3;
     static std::array<char, 6> s_szProgram = {"tervo"};
     static std::array<char, 10> s_szOption = {"-platform"};
@@ -30,5 +28,4 @@ void StartHeadlessQt() {
     // Never deleted: fonts held by other statics need it to the last.
     [[maybe_unused]] static QGuiApplication& s_application =
         *new QGuiApplication(s_nArguments, s_arArguments.data());
-    std::setlocale(LC_ALL, strLocale.c_str());
 }

@@ -147,6 +147,7 @@ void COdbcCursor::EraseRow(std::size_t nRow) {
 void COdbcCursor::AddRow(const std::vector<CDbChange>& arChanges) {
     RequireOneTable();
     std::vector<std::string> arNames;
+    arNames.reserve(arChanges.size());
     for (const CDbChange& change : arChanges)
         arNames.push_back(WrittenName(change));
     std::string strSql = InsertStatement(m_select->Target(), arNames);

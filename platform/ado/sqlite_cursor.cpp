@@ -187,6 +187,7 @@ void CSqliteCursor::EraseRow(std::size_t nRow) {
 void CSqliteCursor::AddRow(const std::vector<CDbChange>& arChanges) {
     RequireOneTable();
     std::vector<std::string> arNames;
+    arNames.reserve(arChanges.size());
     for (const CDbChange& change : arChanges)
         arNames.push_back(WrittenName(change));
     CSqliteStatement statement(m_pDatabase, InsertStatement(QuotedName(m_strTableUtf8), arNames));

@@ -3,8 +3,8 @@
 #include <QtWidgets/QApplication>
 
 #include "host/datamanager/window/data_window.h"
-#include "host/datamanager/window/display_probe.h"
 #include "host/desktop_entry.h"
+#include "host/display_probe.h"
 #include "host/interface_font.h"
 #include "host/kept_locale.h"
 #include "platform/windows/runtime_dir.h"

@@ -25,8 +25,12 @@ TEST_F(ProgramOptions, BadUsageEndsWithTwoOnStandardError) {
 }
 
 TEST_F(ProgramOptions, WithoutAScriptItSaysThatThereIsNoWindow) {
-    const CProgramResult result = RunProgram("", "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM");
-    EXPECT_EQ(result.m_nStatus, 2);
-    EXPECT_EQ(result.m_strErr,
-              "tvcad: there is no display for its window; give a script with --script FILE\n");
+    for (const std::string strDisplay :
+         {"", " DISPLAY=:4321", " QT_QPA_PLATFORM=nonsense", " WAYLAND_DISPLAY=none"}) {
+        const CProgramResult result =
+            RunProgram("", "-u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM" + strDisplay);
+        EXPECT_EQ(result.m_nStatus, 2) << strDisplay;
+        EXPECT_EQ(result.m_strErr,
+                  "tvcad: there is no display for its window; give a script with --script FILE\n");
+    }
 }

@@ -1,4 +1,4 @@
-#include "host/datamanager/window/display_probe.h"
+#include "host/display_probe.h"
 
 #include <QtGui/QGuiApplication>
 
@@ -29,7 +29,7 @@ bool TakeByte(int nLine) {
     const int nNull = open("/dev/null", O_RDWR | O_CLOEXEC);
     dup2(nNull, STDOUT_FILENO);
     dup2(nNull, STDERR_FILENO);
-    std::array<char, 7> szProgram = {"tvdata"};
+    std::array<char, 6> szProgram = {"probe"};
     std::array<char*, 2> arArguments = {szProgram.data(), nullptr};
     int nArguments = 1;
     const QGuiApplication application(nArguments, arArguments.data());
