@@ -1,6 +1,7 @@
 // What the window's view costs on a drawing of 100 sheets at 1920 x 1080: frames while it is panned and
 // zoomed, and while a grip of a chart is dragged. items/s are frames.
 
+#include "bench/chart_benchmarks.h"
 #include "bench/sample_chart.h"
 #include "commands/sheet_layout.h"
 #include "host/console/redraw.h"
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr int g_nSheets = 100;
+constexpr int g_nMiddleSheet = g_nSheets / 2;
 const QSize g_screen(1920, 1080);
 
 /// Sheets in a row, shown in a view, and the screen that the view comes onto.
@@ -32,11 +34,11 @@ public:
 
     AcDbDatabase& Drawing() { return m_drawing.Database(); }
     CScene& Scene() { return m_scene; }
-    AcDbObjectId Chart() const { return m_ids[g_nSheets / 2]; }
+    AcDbObjectId Chart() const { return m_ids[g_nMiddleSheet]; }
 
     /// The view with so many sheets across, in the middle of the row.
     CViewFrame FrameOf(double dSheets) const {
-        return {{g_nSheets / 2 * g_dSheetStep, g_dSheetHeight / 2.0},
+        return {{g_nMiddleSheet * g_dSheetStep, g_dSheetHeight / 2.0},
                 g_screen.width() / (dSheets * g_dSheetStep),
                 g_screen};
     }
@@ -113,10 +115,5 @@ BENCHMARK(DragGrip)->Unit(benchmark::kMillisecond);
 
 int main(int nArguments, char** arguments) {
     StartHeadlessQt();
-    CBRENChart::rxInit();
-    benchmark::Initialize(&nArguments, arguments);
-    if (benchmark::ReportUnrecognizedArguments(nArguments, arguments)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    CBRENChart::rxExit();
-    return 0;
+    return RunChartBenchmarks(nArguments, arguments);
 }

@@ -1,6 +1,7 @@
 // What drawings cost to save and to open: a DWG file of 1,000 charts against the same bytes written and read
 // plainly, and a DXF file of 100 exploded sheets against python3-ezdxf writing the same entities.
 
+#include "bench/chart_benchmarks.h"
 #include "bench/sample_chart.h"
 #include "host/files/drawing_storage.h"
 #include "tests/support/drawing.h"
@@ -138,10 +139,5 @@ BENCHMARK(SaveDxfByEzdxf)->Unit(benchmark::kMillisecond)->UseManualTime()->Itera
 } // namespace
 
 int main(int nArguments, char** arguments) {
-    CBRENChart::rxInit();
-    benchmark::Initialize(&nArguments, arguments);
-    if (benchmark::ReportUnrecognizedArguments(nArguments, arguments)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    CBRENChart::rxExit();
-    return 0;
+    return RunChartBenchmarks(nArguments, arguments);
 }

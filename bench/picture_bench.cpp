@@ -1,6 +1,7 @@
 // What charts cost to draw and to plot: a regeneration of 1,000 of them, and a PDF of 100 sheets, the latter
 // against a short program that hands the same primitives to the painter.
 
+#include "bench/chart_benchmarks.h"
 #include "bench/counted_memory.h"
 #include "bench/plain_painter.h"
 #include "bench/sample_chart.h"
@@ -101,10 +102,5 @@ BENCHMARK(PlainPdf)->Unit(benchmark::kMillisecond);
 
 int main(int nArguments, char** arguments) {
     StartHeadlessQt();
-    CBRENChart::rxInit();
-    benchmark::Initialize(&nArguments, arguments);
-    if (benchmark::ReportUnrecognizedArguments(nArguments, arguments)) return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    CBRENChart::rxExit();
-    return 0;
+    return RunChartBenchmarks(nArguments, arguments);
 }
